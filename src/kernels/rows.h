@@ -1,0 +1,140 @@
+// Rows: joining gapless ones, copying and filling them, and the block walker of irregular kernels.
+#pragma once
+
+#include <algorithm>
+
+#include "kernels/simd_order.h"
+
+namespace zmv {
+
+// A region whose rows follow each other without a gap in every image is one long row.
+inline Roi joinRows(Roi roi, bool gapless) {
+    return gapless ? Roi(roi.width * roi.height, 1) : roi;
+}
+template <class T>
+bool gapless(Image<T> image, Len width, int channels) {
+    return image.step == width * channels * Len(sizeof(T));
+}
+
+// Bytes that are written past the caches from here on do not sweep the caller's data out of them.
+constexpr Len largeCopy = 1048577;
+
+inline void copyRow(void* dst, const void* src, Len bytes) { std::memcpy(dst, src, size_t(bytes)); }
+
+// The same past the caches.  fence() when all rows are done.
+inline void streamRow(void* dst, const void* src, Len bytes) {
+    constexpr Len block = 4 * width;
+    using V = Vec<uint8_t>;
+    auto to = static_cast<uint8_t*>(dst);
+    auto from = static_cast<const uint8_t*>(src);
+    if (bytes < block + width) return copyRow(to, from, bytes);
+    const uint8_t* const end = from + bytes;
+    store(to, loadAs<V>(from));
+    const Len head = width - Len(reinterpret_cast<uintptr_t>(to) % width);  // to the next boundary, at most one vector
+    to += head, from += head;
+    for (; end - from >= block; to += block, from += block)
+        for (int i = 0; i < block; i += width) stream(to + i, loadAs<V>(from + i));
+    if (from < end) copyRow(to, from, end - from);
+}
+
+// roi.width counts bytes here.
+template <class T>
+void copyRows(Image<const T> src, Image<T> dst, Roi roi, bool pastCache) {
+    roi = joinRows(roi, src.step == roi.width && dst.step == roi.width);
+    for (Len y = 0; y < roi.height; ++y) (pastCache ? streamRow : copyRow)(dst.row(y), src.row(y), roi.width);
+    if (pastCache) fence();
+}
+
+// One value a channel, repeated from pixel to pixel, so that a vector can be read at any distance from a row's start.
+class Pattern {
+  public:
+    // values: one a channel; the fourth channel of AC4 is zero.
+    template <class T>
+    Pattern(const T* values, Layout layout) {
+        using V = Vec<T, 16>;
+        const auto channel = [&](int c) { return fill<T, 16>(c < layout.used() ? get(values + c) : T(0)); };
+        Block<V, 3> period{channel(0), channel(0), channel(0)};
+        if (layout.channels == 3) period = pixelsOf(Block<V, 3>{channel(0), channel(1), channel(2)});
+        if (layout.channels == 4) period.fill(pixelsOf(Block<V, 4>{channel(0), channel(1), channel(2), channel(3)})[0]);
+        for (int i = 0; i < units; ++i) store(bytes_ + 16 * i, period[i % 3]);
+    }
+    // All ones in the first `used` of `channels` channels of T, zero in the others.
+    template <class T>
+    static Pattern mask(int used, int channels) {
+        Bits<T> values[4] = {};
+        for (int c = 0; c < used; ++c) values[c] = Bits<T>(~0u);
+        return Pattern(values, Layout{channels});
+    }
+    Vec<uint8_t> at(Len offset) const { return loadAs<Vec<uint8_t>>(bytes_ + offset % period); }
+
+  private:
+    static constexpr int period = 48;  // a multiple of every pixel's size: 1, 2, 3, 4, 6, 8, 12 and 16 bytes
+    static constexpr int units = (width + period) / 16;
+    alignas(64) uint8_t bytes_[16 * units];
+};
+
+// Calls step(offset, k) for each whole vector of a row from `done` on, k counting 0, 1, 2 round the three vectors that
+// make a period of every pattern, and returns where it stopped.
+template <class Step>
+ZMV_INLINE Len eachVector(Len done, Len bytes, Step step) {
+    for (; bytes - done >= 3 * width; done += 3 * width)
+        step(done, std::integral_constant<int, 0>{}), step(done + width, std::integral_constant<int, 1>{}),
+            step(done + 2 * width, std::integral_constant<int, 2>{});
+    if (bytes - done >= width) step(done, std::integral_constant<int, 0>{}), done += width;
+    if (bytes - done >= width) step(done, std::integral_constant<int, 1>{}), done += width;
+    return done;
+}
+
+// The pattern over `bytes` bytes.  With streaming, fence() when all rows are done.
+template <bool streaming = false>
+inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
+    const auto dst = static_cast<uint8_t*>(row);
+    if (bytes < width) {
+        if (bytes > 0) storePart(dst, pattern.at(0), int(bytes));
+        return;
+    }
+    store(dst, pattern.at(0));
+    const Len head = width - Len(reinterpret_cast<uintptr_t>(dst) % width);
+    const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + width), pattern.at(head + 2 * width)};
+    eachVector(head, bytes, [&](Len at, auto k) {
+        if constexpr (streaming) stream(dst + at, period[k]);
+        else store(dst + at, period[k]);
+    });
+    store(dst + bytes - width, pattern.at(bytes - width));
+}
+
+// dst = source where the mask has ones; source(offset) gives a vector, source(offset, n) the first n bytes of one.
+template <class Source>
+inline void blendRow(void* row, const Source& source, const Pattern& mask, Len bytes) {
+    const auto dst = static_cast<uint8_t*>(row);
+    const Vec<uint8_t> period[3] = {mask.at(0), mask.at(width), mask.at(2 * width)};
+    const Len done = eachVector(0, bytes, [&](Len at, auto k) {
+        store(dst + at, select(period[k], source(at), loadAs<Vec<uint8_t>>(dst + at)));
+    });
+    if (const int rest = int(bytes - done))
+        storePart(dst + done, select(mask.at(done), source(done, rest), loadPart(dst + done, rest)), rest);
+}
+inline auto fromRow(const void* row) {
+    struct {
+        const uint8_t* src;
+        Vec<uint8_t> operator()(Len at) const { return loadAs<Vec<uint8_t>>(src + at); }
+        Vec<uint8_t> operator()(Len at, int n) const { return loadPart(src + at, n); }
+    } source{static_cast<const uint8_t*>(row)};
+    return source;
+}
+inline auto fromPattern(const Pattern& pattern) {
+    struct {
+        const Pattern& pattern;
+        Vec<uint8_t> operator()(Len at) const { return pattern.at(at); }
+        Vec<uint8_t> operator()(Len at, int) const { return pattern.at(at); }
+    } source{pattern};
+    return source;
+}
+
+// The bytes of a row of `width` pixels from the first to the last channel used, and nothing beyond.
+template <class T>
+Len rowBytes(Len width, int used, int channels) {
+    return ((width - 1) * channels + used) * Len(sizeof(T));
+}
+
+}  // namespace zmv

@@ -1,0 +1,329 @@
+// The vector vocabulary: one register of the build's width, and what the compiler's vector types do not say by
+// themselves (a + b, a < b ? a : b, x >> n are operators).  Only this file and simd_order.h name an instruction set.
+// Everything is a template over the vector type V, so that a kernel may also ask for a narrower vector.
+#pragma once
+
+#include <immintrin.h>
+
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+#include <utility>
+
+#include "core/frame.h"
+
+namespace zmv {
+
+#if defined(__AVX512BW__)
+constexpr int width = 64;
+#elif defined(__AVX2__)
+constexpr int width = 32;
+#else
+constexpr int width = 16;
+#endif
+
+template <class T, int bytes>
+struct VecOf {
+    typedef T type __attribute__((vector_size(bytes)));
+};
+template <class T, int bytes = width>
+using Vec = typename VecOf<T, bytes>::type;
+template <class V>
+using Element = std::remove_cv_t<std::remove_reference_t<decltype(std::declval<V&>()[0])>>;
+template <class V>
+constexpr int lanesOf = int(sizeof(V) / sizeof(Element<V>));
+template <class T, int bytes = width>
+constexpr int lanes = bytes / int(sizeof(T));
+
+#define ZMV_INLINE inline __attribute__((always_inline))
+
+// ---- Memory.  No address needs an alignment, except that of a streaming store. ----
+
+template <class V>
+ZMV_INLINE V loadAs(const void* p) {
+    V v;
+    std::memcpy(&v, p, sizeof v);
+    return v;
+}
+// One element, at any address and whatever type the caller stored there.
+template <class T>
+ZMV_INLINE T get(const T* p) {
+    T x;
+    std::memcpy(&x, p, sizeof x);
+    return x;
+}
+template <class T>
+ZMV_INLINE void put(T* p, std::type_identity_t<T> x) {
+    std::memcpy(p, &x, sizeof x);
+}
+template <class T, int bytes = width>
+ZMV_INLINE Vec<T, bytes> load(const T* p) {
+    return loadAs<Vec<T, bytes>>(p);
+}
+template <class V>
+ZMV_INLINE void store(void* p, V v) {
+    std::memcpy(p, &v, sizeof v);
+}
+// Past the caches; p is a multiple of the vector's size.  fence() before returning to the caller.
+template <class V>
+ZMV_INLINE void stream(void* p, V v) {
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return _mm512_stream_si512(static_cast<__m512i*>(p), (__m512i)v);
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return _mm256_stream_si256(static_cast<__m256i*>(p), (__m256i)v);
+#endif
+    if constexpr (sizeof(V) == 16) _mm_stream_si128(static_cast<__m128i*>(p), (__m128i)v);
+}
+ZMV_INLINE void fence() { _mm_sfence(); }
+// Whether p suits streaming stores of 16-byte lanes.
+ZMV_INLINE bool canStream(const void* p) { return reinterpret_cast<uintptr_t>(p) % 16 == 0; }
+
+// The first n bytes at p, 0 < n < 16, in the low bytes; the others are zero.  Reads no byte beyond.
+ZMV_INLINE Vec<uint64_t, 16> loadFewBytes(const uint8_t* p, int n) {
+    const auto u64 = [&](int at) { uint64_t x; return std::memcpy(&x, p + at, 8), x; };
+    const auto u32 = [&](int at) { uint32_t x; return std::memcpy(&x, p + at, 4), uint64_t(x); };
+    if (n > 8) return Vec<uint64_t, 16>{u64(0), u64(n - 8) >> (8 * (16 - n))};
+    if (n == 8) return Vec<uint64_t, 16>{u64(0), 0};
+    if (n >= 4) return Vec<uint64_t, 16>{u32(0) | u32(n - 4) << (8 * (n - 4)), 0};
+    return Vec<uint64_t, 16>{uint64_t(p[0]) | uint64_t(p[n >> 1]) << (8 * (n >> 1)) | uint64_t(p[n - 1]) << (8 * (n - 1)), 0};
+}
+ZMV_INLINE void storeFewBytes(uint8_t* p, Vec<uint64_t, 16> v, int n) {
+    uint64_t x = v[0];
+    const auto put = [&](int bytes) {
+        std::memcpy(p, &x, size_t(bytes));
+        p += bytes;
+    };
+    if (n & 8) put(8), x = v[1];
+    if (n & 4) put(4), x >>= 32;
+    if (n & 2) put(2), x >>= 16;
+    if (n & 1) put(1);
+}
+
+// The first n elements of a vector, 0 < n < its lanes; no other byte is read or written, the others load as zero.
+template <class T, int bytes = width>
+ZMV_INLINE Vec<T, bytes> loadPart(const T* p, int n) {
+    int left = n * int(sizeof(T));
+#if defined(__AVX512BW__)
+    if constexpr (bytes == 64) return (Vec<T, 64>)_mm512_maskz_loadu_epi8(~0ull >> (64 - left), p);
+    if constexpr (bytes == 32) return (Vec<T, 32>)_mm256_maskz_loadu_epi8(~0u >> (32 - left), p);
+    if constexpr (bytes == 16) return (Vec<T, 16>)_mm_maskz_loadu_epi8(__mmask16(0xffffu >> (16 - left)), p);
+#endif
+    Vec<T, bytes> v{};
+    auto from = reinterpret_cast<const uint8_t*>(p);
+    auto to = reinterpret_cast<uint8_t*>(&v);
+    for (; left >= 16; left -= 16, from += 16, to += 16) store(to, loadAs<Vec<uint8_t, 16>>(from));
+    if (left) store(to, loadFewBytes(from, left));
+    return v;
+}
+template <class V>
+ZMV_INLINE void storePart(void* p, V v, int n) {
+    int left = n * int(sizeof(Element<V>));
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return _mm512_mask_storeu_epi8(p, ~0ull >> (64 - left), (__m512i)v);
+    if constexpr (sizeof(V) == 32) return _mm256_mask_storeu_epi8(p, ~0u >> (32 - left), (__m256i)v);
+    if constexpr (sizeof(V) == 16) return _mm_mask_storeu_epi8(p, __mmask16(0xffffu >> (16 - left)), (__m128i)v);
+#endif
+    auto from = reinterpret_cast<const uint8_t*>(&v);
+    auto to = static_cast<uint8_t*>(p);
+    for (; left >= 16; left -= 16, from += 16, to += 16) store(to, loadAs<Vec<uint8_t, 16>>(from));
+    if (left) storeFewBytes(to, loadAs<Vec<uint64_t, 16>>(from), left);
+}
+
+// Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
+template <class T, int bytes = width>
+ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, int laneStep) {
+    if (laneStep == 16) return load<T, bytes>(p);
+    const auto lane = [&](int k) {
+        return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep);
+    };
+    if constexpr (bytes == 16) return (Vec<T, 16>)lane(0);
+#if defined(__AVX2__)
+    const auto pair = [&](int k) {
+        return _mm256_inserti128_si256(_mm256_castsi128_si256(lane(k)), lane(k + 1), 1);
+    };
+    if constexpr (bytes == 32) return (Vec<T, 32>)pair(0);
+#endif
+#if defined(__AVX512BW__)
+    if constexpr (bytes == 64)
+        return (Vec<T, 64>)_mm512_inserti64x4(_mm512_castsi256_si512(pair(0)), pair(2), 1);
+#endif
+}
+template <bool streaming = false, class V>
+ZMV_INLINE void storeLanes(void* p, V v, int laneStep) {
+    if (!streaming && laneStep == 16) return store(p, v);
+    const auto lane = [&](int k, __m128i x) {
+        const auto at = static_cast<uint8_t*>(p) + k * laneStep;
+        if constexpr (streaming) stream(at, (Vec<uint8_t, 16>)x);
+        else store(at, x);
+    };
+    if constexpr (sizeof(V) == 16) lane(0, (__m128i)v);
+#if defined(__AVX2__)
+    const auto pair = [&](int k, __m256i x) {
+        lane(k, _mm256_castsi256_si128(x));
+        lane(k + 1, _mm256_extracti128_si256(x, 1));
+    };
+    if constexpr (sizeof(V) == 32) pair(0, (__m256i)v);
+#endif
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) {
+        pair(0, _mm512_castsi512_si256((__m512i)v));
+        pair(2, _mm512_extracti64x4_epi64((__m512i)v, 1));
+    }
+#endif
+}
+
+// ---- Values ----
+
+template <class T, int bytes = width>
+ZMV_INLINE Vec<T, bytes> fill(T x) {
+    return x - Vec<T, bytes>{};  // x in every lane; minus zero keeps the sign of a zero
+}
+template <class V>
+ZMV_INLINE V select(V mask, V yes, V no) {
+    return (mask & yes) | (~mask & no);
+}
+// Whether every bit of the vector is zero, or one.
+template <class V>
+ZMV_INLINE bool allZero(V v) {
+    const auto parts = (Vec<uint64_t, sizeof(V)>)v;
+    uint64_t any = 0;
+    for (int i = 0; i < int(sizeof(V)) / 8; ++i) any |= parts[i];
+    return any == 0;
+}
+
+// As many elements at p as To has lanes, each widened to To: one full vector, in memory's order.
+template <class To, class T, int bytes = width>
+ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
+    constexpr int ratio = int(sizeof(To) / sizeof(T));
+    [[maybe_unused]] constexpr bool sign = std::is_signed_v<T>;
+    static_assert(ratio <= 2 || (ratio == 4 && !sign));
+    if constexpr (ratio == 1) {
+        return (Vec<To, bytes>)load<T, bytes>(p);
+#if defined(__AVX512BW__)
+    } else if constexpr (bytes == 64 && ratio == 4) {
+        return (Vec<To, 64>)_mm512_cvtepu8_epi32(loadAs<__m128i>(p));
+    } else if constexpr (bytes == 64 && sizeof(T) == 1) {
+        return (Vec<To, 64>)_mm512_cvtepu8_epi16(loadAs<__m256i>(p));
+    } else if constexpr (bytes == 64) {
+        const auto raw = loadAs<__m256i>(p);
+        return (Vec<To, 64>)(sign ? _mm512_cvtepi16_epi32(raw) : _mm512_cvtepu16_epi32(raw));
+#endif
+#if defined(__AVX2__)
+    } else if constexpr (bytes == 32 && ratio == 4) {
+        return (Vec<To, 32>)_mm256_cvtepu8_epi32(_mm_cvtsi64_si128(loadAs<long long>(p)));
+    } else if constexpr (bytes == 32 && sizeof(T) == 1) {
+        return (Vec<To, 32>)_mm256_cvtepu8_epi16(loadAs<__m128i>(p));
+    } else if constexpr (bytes == 32) {
+        const auto raw = loadAs<__m128i>(p);
+        return (Vec<To, 32>)(sign ? _mm256_cvtepi16_epi32(raw) : _mm256_cvtepu16_epi32(raw));
+#endif
+    } else if constexpr (ratio == 4) {
+        const auto words = _mm_unpacklo_epi8(_mm_cvtsi32_si128(loadAs<int>(p)), __m128i{});
+        return (Vec<To, 16>)_mm_unpacklo_epi16(words, __m128i{});
+    } else {
+        const auto raw = _mm_cvtsi64_si128(loadAs<long long>(p));
+        if constexpr (sizeof(T) == 1) return (Vec<To, 16>)_mm_unpacklo_epi8(raw, __m128i{});
+        // A signed element goes to the upper half of its lane and comes down with its sign.
+        else if constexpr (sign) return (Vec<To, 16>)_mm_srai_epi32(_mm_unpacklo_epi16(raw, raw), 16);
+        else return (Vec<To, 16>)_mm_unpacklo_epi16(raw, __m128i{});
+    }
+}
+
+// The first n of them, 0 <= n < the lanes of To; the others are zero, and nothing beyond is read.
+template <class To, class T>
+ZMV_INLINE Vec<To> loadWidenPart(const T* p, int n) {
+    constexpr int part = width * int(sizeof(T)) / int(sizeof(To)), block = part < 16 ? 16 : part;
+    if (n <= 0) return Vec<To>{};
+    T few[block / sizeof(T)];
+    store(few, loadPart<T, block>(p, n));
+    return loadWiden<To>(few);
+}
+
+// The high half of the product of unsigned 16-bit lanes.
+template <class V>
+ZMV_INLINE V mulHigh(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, uint16_t>);
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return (V)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return (V)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
+#endif
+    if constexpr (sizeof(V) == 16) return (V)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
+}
+
+template <class V>
+ZMV_INLINE auto toFloat(V v) {  // from int32_t, rounded to nearest even
+    return __builtin_convertvector(v, Vec<float, sizeof(V)>);
+}
+template <class V>
+ZMV_INLINE auto truncate(V v) {  // to int32_t, toward zero; in range by the caller's care
+    return __builtin_convertvector(v, Vec<int32_t, sizeof(V)>);
+}
+template <class V>
+ZMV_INLINE auto floorToInt(V v) {
+    const auto t = truncate(v);
+    return t + (toFloat(t) > v);  // a comparison is -1 where true
+}
+
+// The low parts of a vector's lanes, stored as the narrower type D, in order; the values fit D by the caller's care.
+template <class D, class V>
+ZMV_INLINE void storeNarrow(D* p, V v) {
+    constexpr int ratio = int(sizeof(Element<V>) / sizeof(D));
+    static_assert(sizeof(D) <= 2 && ratio > 1);
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) {
+        if constexpr (sizeof(Element<V>) == 2) return store(p, _mm512_cvtepi16_epi8((__m512i)v));
+        else if constexpr (ratio == 4) return store(p, _mm512_cvtepi32_epi8((__m512i)v));
+        else return store(p, _mm512_cvtepi32_epi16((__m512i)v));
+    }
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) {
+        const auto low = _mm256_castsi256_si128((__m256i)v), high = _mm256_extracti128_si256((__m256i)v, 1);
+        if constexpr (sizeof(Element<V>) == 2) return store(p, _mm_packus_epi16(low, high));
+        const auto words = _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)),
+                                            _mm_and_si128(high, _mm_set1_epi32(0xffff)));
+        if constexpr (ratio == 4) _mm_storeu_si64(p, _mm_packus_epi16(words, words));
+        else store(p, words);
+        return;
+    }
+#endif
+    if constexpr (sizeof(V) == 16) {
+        if constexpr (sizeof(Element<V>) == 2) return _mm_storeu_si64(p, _mm_packus_epi16((__m128i)v, (__m128i)v));
+        // Sign-extended, the low halves pass a signed pack unchanged.
+        const auto low = _mm_srai_epi32(_mm_slli_epi32((__m128i)v, 16), 16);
+        const auto words = _mm_packs_epi32(low, low);
+        if constexpr (ratio == 2) return _mm_storeu_si64(p, words);
+        const int bytes = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
+        std::memcpy(p, &bytes, sizeof bytes);
+    }
+}
+
+// Element i is the sum of elements 0 .. i.
+template <class V, int... i>
+ZMV_INLINE V prefixSum(V v, std::integer_sequence<int, i...>) {
+    constexpr int n = lanesOf<V>;
+    if constexpr (n > 1) v += __builtin_shufflevector(V{}, v, (i < 1 ? i : n + i - 1)...);
+    if constexpr (n > 2) v += __builtin_shufflevector(V{}, v, (i < 2 ? i : n + i - 2)...);
+    if constexpr (n > 4) v += __builtin_shufflevector(V{}, v, (i < 4 ? i : n + i - 4)...);
+    if constexpr (n > 8) v += __builtin_shufflevector(V{}, v, (i < 8 ? i : n + i - 8)...);
+    static_assert(n <= 16);
+    return v;
+}
+template <class V>
+ZMV_INLINE V prefixSum(V v) {
+    return prefixSum(v, std::make_integer_sequence<int, lanesOf<V>>{});
+}
+// The last element in every lane.
+template <class V, int... i>
+ZMV_INLINE V spreadLast(V v, std::integer_sequence<int, i...>) {
+    return __builtin_shufflevector(v, v, (i - i + lanesOf<V> - 1)...);
+}
+template <class V>
+ZMV_INLINE V spreadLast(V v) {
+    return spreadLast(v, std::make_integer_sequence<int, lanesOf<V>>{});
+}
+
+}  // namespace zmv

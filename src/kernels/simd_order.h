@@ -1,0 +1,198 @@
+// The order of elements: interleaving, de-interleaving and packing, inside the 16-byte lanes of a vector.
+//
+// Pixels of n channels and planes meet lane by lane: n vectors hold, in each 16-byte lane, 16 bytes of every plane, or
+// the n * 16 bytes of the same pixels.  loadLanes and storeLanes bring either from and to memory.
+#pragma once
+
+#include <array>
+
+#include "kernels/simd.h"
+
+namespace zmv {
+
+// Element i of the result is element Order::at(i) of a, or of b from lanesOf<V> on.  The order is a constant.
+template <class Order, class V, int... i>
+ZMV_INLINE V permute(V a, V b, std::integer_sequence<int, i...>) {
+    return __builtin_shufflevector(a, b, Order::at(i)...);
+}
+template <class Order, class V>
+ZMV_INLINE V permute(V a, V b) {
+    return permute<Order>(a, b, std::make_integer_sequence<int, lanesOf<V>>{});
+}
+
+// A constant mask: all ones where Test::at(i) holds.
+template <class Test, class V, int... i>
+ZMV_INLINE V maskWhere(std::integer_sequence<int, i...>) {
+    return V{Element<V>(Test::at(i) ? ~Element<V>(0) : Element<V>(0))...};
+}
+template <class Test, class V>
+ZMV_INLINE V maskWhere() {
+    return maskWhere<Test, V>(std::make_integer_sequence<int, lanesOf<V>>{});
+}
+
+// Orders inside lanes.
+template <class V>
+struct InLanes {
+    static constexpr int perLane = 16 / int(sizeof(Element<V>));
+    static constexpr int inLane(int i) { return i % perLane; }
+    // Element k of the two lanes a and b laid end to end.
+    static constexpr int of(int i, int k) { return i - inLane(i) + (k < perLane ? k : lanesOf<V> + k - perLane); }
+
+    struct Low {  // a0 b0 a1 b1 ..
+        static constexpr int at(int i) { return of(i, inLane(i) / 2 + (i % 2) * perLane); }
+    };
+    struct High {  // the same for the upper halves of the lanes
+        static constexpr int at(int i) { return of(i, inLane(i) / 2 + (i % 2) * perLane + perLane / 2); }
+    };
+    struct LowHigh {  // the lower half of a with the upper half of b
+        static constexpr int at(int i) { return of(i, inLane(i) / 2 + (i % 2) * (perLane + perLane / 2)); }
+    };
+    struct HighLow {
+        static constexpr int at(int i) { return of(i, inLane(i) / 2 + (i % 2 ? perLane : perLane / 2)); }
+    };
+    struct Even {  // a0 a2 .. b0 b2 ..
+        static constexpr int at(int i) { return of(i, 2 * inLane(i)); }
+    };
+
+    // Pixels of three channels: element j of vector v (0, 1, 2) of a lane is channel (v * perLane + j) % 3.
+    template <int v, int channel>
+    struct OfChannel {
+        static constexpr bool at(int i) { return (v * perLane + inLane(i)) % 3 == channel; }
+    };
+    // The three vectors hold a channel in different places, each element of it in the place that this order undoes.
+    template <int channel>
+    struct FromPixels {
+        static constexpr int at(int i) { return of(i, (3 * inLane(i) + channel) % perLane); }
+    };
+    template <int channel>
+    struct ToPixels {
+        static constexpr int at(int i) {
+            for (int k = 0; k < perLane; ++k)
+                if ((3 * k + channel) % perLane == inLane(i)) return of(i, k);
+            return -1;
+        }
+    };
+};
+
+template <class V>
+ZMV_INLINE V interleaveLow(V a, V b) {
+    return permute<typename InLanes<V>::Low>(a, b);
+}
+template <class V>
+ZMV_INLINE V interleaveHigh(V a, V b) {
+    return permute<typename InLanes<V>::High>(a, b);
+}
+template <class V>
+ZMV_INLINE V even(V a, V b) {  // the even elements of a, then those of b
+    return permute<typename InLanes<V>::Even>(a, b);
+}
+// Odd elements in even places; what is left in odd places is not used.
+template <class V>
+ZMV_INLINE V oddToEven(V v) {
+    if constexpr (sizeof(Element<V>) == 1) return (V)((Vec<uint16_t, sizeof(V)>)v >> 8);
+    else if constexpr (sizeof(Element<V>) == 2) return (V)((Vec<uint32_t, sizeof(V)>)v >> 16);
+    else return (V)((Vec<uint64_t, sizeof(V)>)v >> 32);
+}
+
+// n vectors that are the planes of a block of pixels, or its pixels.
+template <class V, int n>
+using Block = std::array<V, n>;
+
+// Without a byte shuffle, pixels of three channels and planes change into each other by perfect shuffles: merging the
+// first half of a lane's 3 * perLane elements with the second half moves element p to 2p mod (3 * perLane - 1), and
+// planes are a multiplication by perLane, a power of two, away.
+template <class V>
+constexpr bool byPerfectShuffles =
+#if defined(__SSSE3__)
+    false;
+#else
+    sizeof(Element<V>) < 4;
+#endif
+
+template <class V>
+ZMV_INLINE Block<V, 3> planesOf(const Block<V, 3>& pixels) {
+    using In = InLanes<V>;
+    V a = pixels[0], b = pixels[1], c = pixels[2];
+    if constexpr (byPerfectShuffles<V>) {
+        for (int k = 1; k < In::perLane; k *= 2) {
+            const V x = permute<typename In::LowHigh>(a, b), y = permute<typename In::HighLow>(a, c);
+            c = permute<typename In::LowHigh>(b, c);
+            a = x, b = y;
+        }
+        return {a, b, c};
+    } else {
+        const auto plane = [&]<int channel>(std::integral_constant<int, channel>) {
+            const V ofB = maskWhere<typename In::template OfChannel<1, channel>, V>();
+            const V ofC = maskWhere<typename In::template OfChannel<2, channel>, V>();
+            const V mixed = select(ofB, b, select(ofC, c, a));
+            return permute<typename In::template FromPixels<channel>>(mixed, mixed);
+        };
+        return {plane(std::integral_constant<int, 0>{}), plane(std::integral_constant<int, 1>{}),
+                plane(std::integral_constant<int, 2>{})};
+    }
+}
+
+template <class V>
+ZMV_INLINE Block<V, 3> pixelsOf(const Block<V, 3>& planes) {
+    using In = InLanes<V>;
+    V a = planes[0], b = planes[1], c = planes[2];
+    if constexpr (byPerfectShuffles<V>) {
+        for (int k = 1; k < In::perLane; k *= 2) {
+            const V x = even(a, b), y = even(c, oddToEven(a));
+            c = even(oddToEven(b), oddToEven(c));
+            a = x, b = y;
+        }
+        return {a, b, c};
+    } else {
+        a = permute<typename In::template ToPixels<0>>(a, a);
+        b = permute<typename In::template ToPixels<1>>(b, b);
+        c = permute<typename In::template ToPixels<2>>(c, c);
+        const auto vector = [&]<int v>(std::integral_constant<int, v>) {
+            const V ofB = maskWhere<typename In::template OfChannel<v, 1>, V>();
+            const V ofC = maskWhere<typename In::template OfChannel<v, 2>, V>();
+            return select(ofB, b, select(ofC, c, a));
+        };
+        return {vector(std::integral_constant<int, 0>{}), vector(std::integral_constant<int, 1>{}),
+                vector(std::integral_constant<int, 2>{})};
+    }
+}
+
+// Four channels: the same perfect shuffle on 4 * perLane elements; pixels are two of them away from planes.
+template <class V>
+ZMV_INLINE Block<V, 4> perfectShuffle(const Block<V, 4>& x) {
+    return {interleaveLow(x[0], x[2]), interleaveHigh(x[0], x[2]), interleaveLow(x[1], x[3]),
+            interleaveHigh(x[1], x[3])};
+}
+template <class V>
+ZMV_INLINE Block<V, 4> pixelsOf(const Block<V, 4>& planes) {
+    return perfectShuffle(perfectShuffle(planes));
+}
+template <class V>
+ZMV_INLINE Block<V, 4> planesOf(Block<V, 4> pixels) {
+    for (int k = 1; k < InLanes<V>::perLane; k *= 2) pixels = perfectShuffle(pixels);
+    return pixels;
+}
+
+// One channel is its own plane.
+template <class V>
+ZMV_INLINE Block<V, 1> pixelsOf(const Block<V, 1>& planes) {
+    return planes;
+}
+template <class V>
+ZMV_INLINE Block<V, 1> planesOf(const Block<V, 1>& pixels) {
+    return pixels;
+}
+
+// lanes<T> pixels of n channels at p.
+template <int n, class T>
+ZMV_INLINE Block<Vec<T>, n> loadPixels(const T* p) {
+    Block<Vec<T>, n> block;
+    for (int i = 0; i < n; ++i) block[i] = loadLanes(p + i * (16 / int(sizeof(T))), 16 * n);
+    return block;
+}
+template <int n, bool streaming = false, class T>
+ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
+    for (int i = 0; i < n; ++i) storeLanes<streaming>(p + i * (16 / int(sizeof(T))), block[i], 16 * n);
+}
+
+}  // namespace zmv
