@@ -1,0 +1,126 @@
+// The driver of border extension: where the source goes, the frame round it, by any rule.
+#pragma once
+
+#include "kernels/rows.h"
+
+namespace zmv {
+
+struct Corner {
+    Len top, left;  // of the source region inside the destination
+};
+
+// The checks of all border operations after the pointers and steps, in their order.
+inline StatusCode geometry(Roi src, Roi dst, Corner at) {
+    if (auto bad = firstOf({size(src), size(dst), refuse(at.top < 0 || at.left < 0, STATUS_BAD_SIZE)})) return bad;
+    return refuse(at.left > dst.width - src.width || at.top > dst.height - src.height, STATUS_BAD_SIZE);
+}
+
+// The source coordinate that each rule takes for a coordinate outside 0 .. n - 1.
+struct ReplicateRule {
+    static Len at(Len i, Len n) { return i < 0 ? 0 : i >= n ? n - 1 : i; }
+};
+struct MirrorRule {
+    static Len at(Len i, Len n) {
+        if (i < 0 && -i < n) return -i;
+        if (i >= 0 && i < 2 * n - 1) return i < n ? i : 2 * n - 2 - i;
+        const Len period = std::max<Len>(2 * n - 2, 1);
+        const Len p = i >= 0 ? i % period : period - 1 - (-i - 1) % period;
+        return p < n ? p : period - p;
+    }
+};
+struct WrapRule {
+    static Len at(Len i, Len n) { return i >= 0 ? i % n : n - 1 - (-i - 1) % n; }
+};
+
+// Runs of pixels of a layout: all channels, or all but the fourth.
+template <class T>
+class PixelRows {
+  public:
+    explicit PixelRows(Layout layout) : layout_(layout), colours_(Pattern::mask<T>(layout.used(), layout.channels)) {}
+    T* pixel(T* row, Len x) const { return row + x * layout_.channels; }
+    void copy(T* dst, const T* src, Len width) const {
+        if (layout_.alpha) blendRow(dst, fromRow(src), colours_, bytes(width));
+        else copyRow(dst, src, bytes(width));
+    }
+    void copyPixel(T* dst, const T* src) const { std::memcpy(dst, src, sizeof(T) * size_t(layout_.used())); }
+    void fill(T* dst, const Pattern& values, Len width) const {
+        if (width == 0) return;
+        if (layout_.alpha) blendRow(dst, fromPattern(values), colours_, bytes(width));
+        else fillRow(dst, values, bytes(width));
+    }
+
+  private:
+    Len bytes(Len width) const { return rowBytes<T>(width, layout_.used(), layout_.channels); }
+    Layout layout_;
+    Pattern colours_;
+};
+
+// Where everything goes: inner is the region that the source takes inside the destination, or already has.
+template <class T>
+struct Frame {
+    Image<T> inner;
+    Roi src;
+    Len left, right, top, bottom;
+    Layout layout;
+    PixelRows<T> rows{layout};
+    Len width() const { return left + src.width + right; }
+    T* wholeRow(Len y) const { return rows.pixel(inner.row(y), -left); }
+};
+
+// Filled outward: the columns left and right of each row by sides(row), then the rows above and below by outside(y).
+template <class T, class Sides, class Outside>
+void extend(const Frame<T>& frame, const Image<const T>* src, Sides sides, Outside outside) {
+    for (Len y = 0; y < frame.src.height; ++y) {
+        if (src) frame.rows.copy(frame.inner.row(y), src->row(y), frame.src.width);
+        sides(frame.inner.row(y));
+    }
+    for (Len y = -frame.top; y < 0; ++y) outside(y);
+    for (Len y = frame.src.height; y < frame.src.height + frame.bottom; ++y) outside(y);
+}
+
+// Outside pixels by a rule: the rows above and below are copies of finished ones.
+template <class Rule, class T>
+void extendByRule(const Frame<T>& frame, const Image<const T>* src) {
+    const auto& rows = frame.rows;
+    const auto sides = [&](T* row) {
+        const auto column = [&](Len x) {
+            rows.copyPixel(rows.pixel(row, x), rows.pixel(row, Rule::at(x, frame.src.width)));
+        };
+        const auto repeat = [&](Len x, Len from, Len count) {
+            rows.fill(rows.pixel(row, x), Pattern(rows.pixel(row, from), frame.layout), count);
+        };
+        if constexpr (std::is_same_v<Rule, ReplicateRule>) {
+            repeat(-frame.left, 0, frame.left);
+            repeat(frame.src.width, frame.src.width - 1, frame.right);
+        } else {
+            for (Len x = -frame.left; x < 0; ++x) column(x);
+            for (Len x = frame.src.width; x < frame.src.width + frame.right; ++x) column(x);
+        }
+    };
+    extend(frame, src, sides, [&](Len y) {
+        rows.copy(frame.wholeRow(y), frame.wholeRow(Rule::at(y, frame.src.height)), frame.width());
+    });
+}
+
+template <class T>
+Frame<T> frameOf(Image<T> inner, Roi src, Roi dst, Corner at, Layout layout) {
+    return {inner, src, at.left, dst.width - at.left - src.width, at.top, dst.height - at.top - src.height, layout};
+}
+
+// The in-place and the out-of-place form of an operation that has a rule and no value.
+template <class Rule, Layout layout, class T>
+StatusCode copyBorderInPlace(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at) {
+    if (auto bad = firstOf({pointers(srcDst.data), steps(srcDst.step), geometry(srcRoi, dstRoi, at)})) return bad;
+    extendByRule<Rule, T>(frameOf(srcDst, srcRoi, dstRoi, at, layout), nullptr);
+    return STATUS_OK;
+}
+template <class Rule, Layout layout, class T>
+StatusCode copyBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, Corner at) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at)}))
+        return bad;
+    const Image<T> inner = dst.at(at.left * layout.channels, at.top);
+    extendByRule<Rule, T>(frameOf(inner, srcRoi, dstRoi, at, layout), &src);
+    return STATUS_OK;
+}
+
+}  // namespace zmv
