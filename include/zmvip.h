@@ -1,0 +1,703 @@
+/* zmvIP: image-processing primitives.  Every function, under the banner of its family.
+
+   An image is a pointer to the first pixel of the region and a step, the distance from row to row in bytes.
+   Sizes are in pixels.  Names end in the element types (8u 16u 16s 32s 32f 64f), the layout (C1 C3 C4:
+   channels; AC4: four, of which the last is left alone; P3 P4: planes) and letters: I in place, M masked,
+   R region of interest, _L 64-bit sizes.  Functions return STATUS_OK, a negative error (the first check that
+   failed; nothing was written) or a positive warning.  Any of them may run in any number of threads that do
+   not write the same memory.
+
+   Printed by tools/header.cpp from src/families.def; change those.
+   SPDX-License-Identifier: Apache-2.0 */
+#ifndef ZMVIP_H
+#define ZMVIP_H
+
+#include "zmvip_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* zmviMalloc: Memory for a width x height image whose rows start at multiples of 64 bytes.
+   Writes the step in bytes to stepOut and returns the first pixel, or null: when stepOut is null, a size is not
+   positive, the row or the image does not fit the argument types, or memory runs out.  stepOut is then 0, or the
+   step if that was known before the whole image turned out too large.  Contents are not initialised.
+   src/core/pialloc.cpp */
+ZMV_API uint8_t* zmviMalloc_8u_C1(int width, int height, int* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C2(int width, int height, int* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C3(int width, int height, int* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C4(int width, int height, int* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_AC4(int width, int height, int* stepOut);
+ZMV_API uint8_t* zmviMalloc_8u_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C1(int width, int height, int* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C2(int width, int height, int* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C3(int width, int height, int* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C4(int width, int height, int* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_AC4(int width, int height, int* stepOut);
+ZMV_API uint16_t* zmviMalloc_16u_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C1(int width, int height, int* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C2(int width, int height, int* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C3(int width, int height, int* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C4(int width, int height, int* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_AC4(int width, int height, int* stepOut);
+ZMV_API int16_t* zmviMalloc_16s_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C1(int width, int height, int* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C2(int width, int height, int* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C3(int width, int height, int* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C4(int width, int height, int* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_AC4(int width, int height, int* stepOut);
+ZMV_API int32_t* zmviMalloc_32s_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API float* zmviMalloc_32f_C1(int width, int height, int* stepOut);
+ZMV_API float* zmviMalloc_32f_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API float* zmviMalloc_32f_C2(int width, int height, int* stepOut);
+ZMV_API float* zmviMalloc_32f_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API float* zmviMalloc_32f_C3(int width, int height, int* stepOut);
+ZMV_API float* zmviMalloc_32f_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API float* zmviMalloc_32f_C4(int width, int height, int* stepOut);
+ZMV_API float* zmviMalloc_32f_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API float* zmviMalloc_32f_AC4(int width, int height, int* stepOut);
+ZMV_API float* zmviMalloc_32f_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C1(int width, int height, int* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C2(int width, int height, int* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C3(int width, int height, int* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C4(int width, int height, int* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_AC4(int width, int height, int* stepOut);
+ZMV_API Complex32s* zmviMalloc_32sc_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C1(int width, int height, int* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C1_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C2(int width, int height, int* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C2_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C3(int width, int height, int* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C3_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C4(int width, int height, int* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_C4_L(int64_t width, int64_t height, int64_t* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_AC4(int width, int height, int* stepOut);
+ZMV_API Complex32f* zmviMalloc_32fc_AC4_L(int64_t width, int64_t height, int64_t* stepOut);
+
+/* zmviFree: Releases an image of zmviMalloc; null is accepted and does nothing.
+   src/core/pialloc.cpp */
+ZMV_API void zmviFree(void* ptr);
+
+/* zmviGetLibVersion: The version record of the loaded build; the same pointer on every call, never freed.
+   Beside it: the NaN and the infinity that relative norms give for a zero denominator.
+   src/core/piver.cpp */
+ZMV_API const LibraryVersion* zmviGetLibVersion(void);
+extern ZMV_API const double zmvConstantOfNAN_64f;
+extern ZMV_API const double zmvConstantOfINF_64f;
+
+/* zmviCopy: dst = src, all bits kept, in every layout that needs no arithmetic.
+     C1R C3R C4R       whole pixels
+     AC4R              channels 1 to 3; the fourth of dst stays as it was
+     C1MR .. AC4MR     only pixels whose byte in mask, a one-channel 8-bit image, is not zero
+     C3CR C4CR         one channel to one channel: src and dst point at the channel inside the first pixel
+     C3C1R C4C1R       one channel out of each pixel: src points at it
+     C1C3R C1C4R       into one channel of each pixel: dst points at it
+     C3AC4R AC4C3R     three channels into or out of four-channel pixels; the fourth of dst stays as it was
+     C3P3R .. P4C4R    between pixels and an array of three or four planes that share one step
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: src == dst is allowed where both have one layout (it changes nothing).  Where src and dst otherwise
+   overlap, the result of whole-pixel and masked copies is undefined; all other copies and AC4R then work pixel by
+   pixel, top to bottom and left to right, each reading what the ones before it wrote.
+   Whole copies of more than 1 MiB, and planar ones larger than the cache, are written past the caches.
+   STATUS_NULL_POINTER: src, dst, mask, or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/datamove/picopyca.cpp */
+ZMV_API StatusCode zmviCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_AC4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_8u_C1MR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_8u_C3MR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_8u_C4MR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_8u_AC4MR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_8u_C3CR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C4CR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C3C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C4C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C1C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C3AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_AC4C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C3P3R(const uint8_t* src, int srcStep, uint8_t* const dst[3], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_C4P4R(const uint8_t* src, int srcStep, uint8_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_P3C3R(const uint8_t* const src[3], int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_8u_P4C4R(const uint8_t* const src[4], int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_AC4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16s_C1MR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16s_C3MR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16s_C4MR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16s_AC4MR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16s_C3CR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C4CR(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C3C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C4C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C1C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C1C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C3AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_AC4C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C3P3R(const int16_t* src, int srcStep, int16_t* const dst[3], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_C4P4R(const int16_t* src, int srcStep, int16_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_P3C3R(const int16_t* const src[3], int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16s_P4C4R(const int16_t* const src[4], int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_AC4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_16u_C1MR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16u_C3MR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16u_C4MR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16u_AC4MR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_16u_C3CR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C4CR(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C3C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C4C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C1C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C1C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C3AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_AC4C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C3P3R(const uint16_t* src, int srcStep, uint16_t* const dst[3], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_C4P4R(const uint16_t* src, int srcStep, uint16_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_P3C3R(const uint16_t* const src[3], int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_16u_P4C4R(const uint16_t* const src[4], int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C1R_L(const int32_t* src, int64_t srcStep, int32_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32s_C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C3R_L(const int32_t* src, int64_t srcStep, int32_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32s_C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C4R_L(const int32_t* src, int64_t srcStep, int32_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32s_AC4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_AC4R_L(const int32_t* src, int64_t srcStep, int32_t* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32s_C1MR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32s_C3MR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32s_C4MR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32s_AC4MR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32s_C3CR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C4CR(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C3C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C4C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C1C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C1C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C3AC4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_AC4C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C3P3R(const int32_t* src, int srcStep, int32_t* const dst[3], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_C4P4R(const int32_t* src, int srcStep, int32_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_P3C3R(const int32_t* const src[3], int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32s_P4C4R(const int32_t* const src[4], int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_AC4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviCopy_32f_C1MR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32f_C3MR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32f_C4MR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32f_AC4MR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviCopy_32f_C3CR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C4CR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C3C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C4C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C1C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C1C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C3AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_AC4C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C3P3R(const float* src, int srcStep, float* const dst[3], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_C4P4R(const float* src, int srcStep, float* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_P3C3R(const float* const src[3], int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviCopy_32f_P4C4R(const float* const src[4], int srcStep, float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviCopyManaged: dst = src with a say in the caches: bit 0 of flags set writes past them, no other bit matters.
+   Any step is accepted; src and dst must not overlap.
+   STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/datamove/picopymng.cpp */
+ZMV_API StatusCode zmviCopyManaged_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int flags);
+
+/* zmviDup: Every channel of dst = src, a one-channel image.
+   Any step is accepted.  Overlapping images are worked pixel by pixel, top to bottom and left to right.
+   STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/datamove/picopyca.cpp */
+ZMV_API StatusCode zmviDup_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDup_8u_C1C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+
+/* zmviSet: dst = value in every pixel: one value, or a pointer to one value a channel (three for C3 and AC4, four for C4).
+   AC4 leaves the fourth channel as it was; C3CR and C4CR set the one channel that dst points at; the M forms set
+   only pixels whose byte in mask, a one-channel 8-bit image, is not zero.
+   Any step is accepted, zero and negative ones too.  C1R, C3R and C4R regions larger than the cache are written
+   past it.
+   STATUS_NULL_POINTER: value, dst or mask is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/datamove/piset.cpp */
+ZMV_API StatusCode zmviSet_8u_C1R(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_8u_C3R(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_8u_C4R(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_8u_AC4R(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_8u_C1MR(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_8u_C3MR(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_8u_C4MR(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_8u_AC4MR(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_8u_C3CR(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_8u_C4CR(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_C1R(int16_t value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_C3R(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_C4R(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_AC4R(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_C1MR(int16_t value, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16s_C3MR(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16s_C4MR(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16s_AC4MR(const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16s_C3CR(int16_t value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16s_C4CR(int16_t value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_C1R(uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_C3R(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_C4R(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_AC4R(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_C1MR(uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16u_C3MR(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16u_C4MR(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16u_AC4MR(const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_16u_C3CR(uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_16u_C4CR(uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_C1R(int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_C3R(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_C4R(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_AC4R(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_C1MR(int32_t value, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32s_C3MR(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32s_C4MR(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32s_AC4MR(const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32s_C3CR(int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32s_C4CR(int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_C1R(float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_C3R(const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_C4R(const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_AC4R(const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_C1MR(float value, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32f_C3MR(const float* value, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32f_C4MR(const float* value, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32f_AC4MR(const float* value, float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask, int maskStep);
+ZMV_API StatusCode zmviSet_32f_C3CR(float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSet_32f_C4CR(float value, float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviCopyConstBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+   In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
+   The frame takes value: one value, or a pointer to one value a channel (three for C3 and AC4).
+   AC4 leaves the fourth channel as it was, inside and in the frame.  src and dst must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   STATUS_NULL_POINTER: value is null, tested last.
+   src/datamove/piconstlbordca.cpp */
+ZMV_API StatusCode zmviCopyConstBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, uint8_t value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, uint8_t value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, uint8_t value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C1IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, uint8_t value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C3R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C3R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C3IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C4R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C4R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_C4IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_AC4R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_AC4R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_8u_AC4IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint8_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C1R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, int16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C1R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, int16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, int16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C1IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, int16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C3R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C3R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C3IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C4R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C4R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_C4IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_AC4R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_AC4R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16s_AC4IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C1R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, uint16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C1R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, uint16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, uint16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C1IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, uint16_t value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C3R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C3R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C3IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C4R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C4R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_C4IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_AC4R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_AC4R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_16u_AC4IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const uint16_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, int32_t value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C1R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, int32_t value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, int32_t value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C1IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, int32_t value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C3R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C3R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C3IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C4R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C4R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_C4IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_AC4R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_AC4R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_AC4IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32s_AC4IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const int32_t* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C1R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left, float value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C1R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, float value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C1IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, float value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C1IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, float value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C3R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C3R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C3IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C3IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C4R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C4R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_C4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_AC4R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_AC4R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const float* value);
+ZMV_API StatusCode zmviCopyConstBorder_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
+
+/* zmviCopyReplicateBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+   In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
+   The frame repeats the nearest pixel of the source: a a|a b c d|d d.
+   AC4 leaves the fourth channel as it was, inside and in the frame.  With src == dst the call is the in-place form
+   with the step of dst; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   src/datamove/pireplbordca.cpp */
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C3R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C3R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C3IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C4R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C4R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_C4IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_AC4R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_AC4R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_8u_AC4IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C1R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C1R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C1IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C3R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C3R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C3IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C4R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C4R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_C4IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_AC4R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_AC4R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16s_AC4IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C1R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C1R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C1IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C3R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C3R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C3IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C4R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C4R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_C4IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_AC4R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_AC4R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_16u_AC4IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C1R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C1IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C3R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C3R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C3IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C4R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C4R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_C4IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_AC4R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_AC4R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_AC4IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32s_AC4IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C1R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C1R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C1IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C1IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C3R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C3R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C3IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C3IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C4R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C4R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_C4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+
+/* zmviCopyMirrorBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+   In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
+   The frame mirrors the source about its edge pixels, which are not repeated: c b|a b c d|c b.
+   Borders may be wider than the source: the mirror images go on with period 2 * width - 2.  With src == dst the
+   call is the in-place form with the step of dst; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   src/datamove/pimirrorborder.cpp */
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C3R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C3R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C3IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C4R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C4R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_8u_C4IR_L(uint8_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C1R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C1R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C1IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C3R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C3R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C3IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C4R(const int16_t* src, int srcStep, ImageSize srcRoiSize, int16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C4R_L(const int16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16s_C4IR_L(int16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C1R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C1R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C1IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C3R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C3R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C3IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C4R(const uint16_t* src, int srcStep, ImageSize srcRoiSize, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C4R_L(const uint16_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint16_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_16u_C4IR_L(uint16_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C1R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C1IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C3R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C3R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C3IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C4R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C4R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32s_C4IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C1R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C1R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C1IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C1IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C3R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C3R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C3IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C3IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+
+/* zmviCopyWrapBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+   In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
+   The frame repeats the source periodically: c d|a b c d|a b, as often as needed.
+   src and dst must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   src/datamove/piwrapbordca.cpp */
+ZMV_API StatusCode zmviCopyWrapBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyWrapBorder_32s_C1R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyWrapBorder_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyWrapBorder_32s_C1IR_L(int32_t* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyWrapBorder_32f_C1R(const float* src, int srcStep, ImageSize srcRoiSize, float* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyWrapBorder_32f_C1R_L(const float* src, int64_t srcStep, ImageSizeL srcRoiSize, float* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+ZMV_API StatusCode zmviCopyWrapBorder_32f_C1IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
+ZMV_API StatusCode zmviCopyWrapBorder_32f_C1IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
+
+/* zmviFilterBoxBorderGetBufferSize: For zmviFilterBoxBorder.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and
+   a channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1.
+   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_DATATYPE, STATUS_BAD_CHANNELS: others than these.
+   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   src/filter/piblurn.cpp */
+ZMV_API StatusCode zmviFilterBoxBorderGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterBoxBorder: The mean of the window round each pixel (box filter).
+   The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
+   outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
+   Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an
+   integer (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size,
+   times 1 / area; tiles agree with the whole to the bit, and a NaN reaches only windows that contain it.
+   In place: src == dst with equal steps is allowed; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
+   positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
+   STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   src/filter/piblurn.cpp */
+ZMV_API StatusCode zmviFilterBoxBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBoxBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviFilterBox: The mean of the window that covers columns x - anchor.x .. + maskSize.width - 1 and rows likewise, all read from
+   the caller's memory: those round the region must be readable.  src and dst must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: a region size below 1.
+   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_ANCHOR: the anchor lies outside the mask.
+   STATUS_BAD_STEP: a step is not positive.
+   src/filter/piblurn.cpp */
+ZMV_API StatusCode zmviFilterBox_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, ImagePoint anchor);
+
+/* zmviSumWindowGetBufferSize: For zmviSumWindow.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and
+   a channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1.
+   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_DATATYPE, STATUS_BAD_CHANNELS: others than these.
+   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   src/filter/pisumwindow.cpp */
+ZMV_API StatusCode zmviSumWindowGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviSumWindow: The sum of the window round each pixel.
+   The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
+   outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
+   8u32s: the exact sum, saturated.  16u32f, 16s32f: the exact sum, rounded once to nearest even.  32f: the sum
+   formed in one order for every window of that mask size, as in zmviFilterBoxBorder.
+   In place: src == dst with equal steps is allowed (a row of dst then takes the place of its row of src); other
+   overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
+   positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
+   STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   src/filter/pisumwindow.cpp */
+ZMV_API StatusCode zmviSumWindow_8u32s_C1R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_8u32s_C3R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_8u32s_C4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_8u32s_AC4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16u32f_AC4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_16s32f_AC4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviSumWindow_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviSumWindowRow: dst(x, y) = sum of src(x - anchor + k, y) over
+   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before
+   and after the region must be readable.  Any step is accepted; src and dst must not overlap.  A region size below
+   1 is no error: the result is STATUS_OK and nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
+   STATUS_BAD_ANCHOR: anchor is not in 0 .. maskSize - 1.
+   src/filter/pisumwindow.cpp */
+ZMV_API StatusCode zmviSumWindowRow_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowRow_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+
+/* zmviSumWindowColumn: dst(x, y) = sum of src(x, y - anchor + k) over
+   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before
+   and after the region must be readable.  Any step is accepted; src and dst must not overlap.  A region size below
+   1 is no error: the result is STATUS_OK and nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
+   STATUS_BAD_ANCHOR: anchor is not in 0 .. maskSize - 1.
+   src/filter/pisumwindow.cpp */
+ZMV_API StatusCode zmviSumWindowColumn_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,135 @@
+// What a filter reads outside its region: the border word, and the rows and columns that lie beyond the edges.
+//
+// No filter knows about borders.  It asks for the rows of the extended region one by one, from the top; each comes as
+// an address in the caller's memory, in a row of the constant, or in the history of an in-place call.  What lies left
+// and right is filled in where the filter wants it: in a copy of the row, or, when the filter works on columns first,
+// in their results, since the rules of columns and rows do not touch each other.  Any mask fits any region: the rules
+// answer for every distance, and a side that is readable in memory needs nothing.
+#pragma once
+
+#include "datamove/border.h"
+
+namespace zmv {
+
+// The pixels round (x, y) that a mask covers: left columns, the pixel's own, right columns; rows likewise.
+struct Window {
+    Len width, height, left, top, right, bottom;
+    explicit Window(ImageSize mask)
+        : width(mask.width), height(mask.height), left((width - 1) >> 1), top((height - 1) >> 1),
+          right(width - 1 - left), bottom(height - 1 - top) {}
+    Len area() const { return width * height; }
+};
+
+// The checks that all filters with a border share, in their order.
+inline StatusCode maskSize(ImageSize mask) { return refuse(mask.width < 1 || mask.height < 1, STATUS_BAD_MASK_SIZE); }
+inline StatusCode border(int word) {
+    const int rule = word & 15;
+    const bool known = rule == BORDER_REPL || rule == BORDER_MIRROR || rule == BORDER_CONST;
+    return refuse(word < 0 || word > 255 || !(known || word == BORDER_IN_MEM), STATUS_BAD_BORDER);
+}
+inline StatusCode borderValue(int word, const void* value) {
+    return refuse((word & 15) == BORDER_CONST && !value, STATUS_NULL_POINTER);
+}
+
+// Memory of a call, handed out piece by piece from the caller's buffer, whatever its alignment.
+class Scratch {
+  public:
+    explicit Scratch(uint8_t* buffer) : next_(buffer) {}
+    template <class T>
+    T* take(Len count) {
+        T* const piece = reinterpret_cast<T*>(next_);
+        next_ += count * Len(sizeof(T));
+        return piece;
+    }
+
+  private:
+    uint8_t* next_;
+};
+
+template <class T>
+class Bands {
+  public:
+    // inPlace: the destination is the source, so that a row must be saved before its result overwrites it.
+    Bands(Image<const T> src, Roi roi, Layout layout, Window window, int word, const T* value, bool inPlace)
+        : src_(src), roi_(roi), n_(layout.channels), window_(window), word_(word), inPlace_(inPlace && window.height > 1) {
+        for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = value[c];
+    }
+
+    // Elements that takeMemory wants: a row of the constant, and the history.
+    void takeMemory(Scratch& scratch) {
+        const Len extended = (roi_.width + window_.width - 1) * n_;
+        if (constant() && window_.height > 1) {
+            T* const row = scratch.take<T>(extended);
+            for (Len i = 0; i < extended; i += n_) std::memcpy(row + i, value_, sizeof(T) * size_t(n_));
+            constantRow_ = row + window_.left * n_;
+        }
+        if (inPlace_) history_ = scratch.take<T>(historyRows() * roi_.width * n_);
+    }
+
+    // A row of the extended region.  `inside` has the region's columns; `outside` the readable ones left and right.
+    struct Row {
+        const T* inside;
+        const T* outside;
+    };
+    // Row y, -top <= y < height + bottom, when the results of rows 0 .. finished - 1 are written.
+    Row row(Len y, Len finished) const {
+        if (y < 0 ? !(word_ & BORDER_IN_MEM_TOP) : y >= roi_.height && !(word_ & BORDER_IN_MEM_BOTTOM)) {
+            if (constant()) return {constantRow_, constantRow_};
+            y = mapped(y, roi_.height);
+        }
+        const T* const inMemory = src_.row(y);
+        const bool overwritten = inPlace_ && y >= 0 && y < finished;
+        return {overwritten ? saved(y) : inMemory, inMemory};
+    }
+    // Before the result of row y is written.  No row is asked for later than window.top rows after that: what the
+    // mirror takes at the bottom is nearer, and a smaller region fits the history as a whole.
+    void save(Len y) const {
+        if (inPlace_) std::memcpy(saved(y), src_.row(y), size_t(roi_.width * n_) * sizeof(T));
+    }
+
+    // The columns that are read from memory, counted from the region's first: readable ones outside included.
+    Len firstColumn() const { return word_ & BORDER_IN_MEM_LEFT ? -window_.left : 0; }
+    Len endColumn() const { return roi_.width + (word_ & BORDER_IN_MEM_RIGHT ? window_.right : 0); }
+    // Calls part(column, pixels, count) for each stretch of a row in memory.
+    template <class Part>
+    void eachPart(Part part) const {
+        if (!inPlace_) return part(firstColumn(), true, endColumn() - firstColumn());
+        if (firstColumn() < 0) part(firstColumn(), true, -firstColumn());
+        part(Len(0), false, roi_.width);
+        if (endColumn() > roi_.width) part(roi_.width, true, endColumn() - roi_.width);
+    }
+
+    // Fills the other columns of `line`, whose first element belongs to the region's first column: from the columns
+    // that the rule names, or with `constants`, one a channel.
+    template <class E>
+    void fillColumns(E* line, const E* constants) const {
+        const auto fill = [&](Len from, Len to) {
+            for (Len x = from; x < to; ++x)
+                std::memcpy(line + x * n_, constant() ? constants : line + mapped(x, roi_.width) * n_,
+                            sizeof(E) * size_t(n_));
+        };
+        if (!(word_ & BORDER_IN_MEM_LEFT)) fill(-window_.left, 0);
+        if (!(word_ & BORDER_IN_MEM_RIGHT)) fill(roi_.width, roi_.width + window_.right);
+    }
+    const T* value() const { return value_; }
+
+  private:
+    bool constant() const { return (word_ & 15) == BORDER_CONST; }
+    Len mapped(Len i, Len n) const {
+        return (word_ & 15) == BORDER_MIRROR ? MirrorRule::at(i, n) : ReplicateRule::at(i, n);
+    }
+    Len historyRows() const { return window_.top + 1; }
+    T* saved(Len y) const { return history_ + y % historyRows() * roi_.width * n_; }
+
+    Image<const T> src_;
+    Roi roi_;
+    int n_;
+    Window window_;
+    int word_;
+    bool inPlace_;
+    T value_[4] = {};
+    const T* constantRow_ = nullptr;
+    T* history_ = nullptr;
+};
+
+}  // namespace zmv

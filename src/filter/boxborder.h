@@ -1,0 +1,109 @@
+// The bordered window operations, box filter and window sums: one driver, with the result as a parameter.
+#pragma once
+
+#include "filter/tree.h"
+#include "filter/windows.h"
+
+namespace zmv {
+
+// Bytes of the work buffer.  The parts are those of a filter that builds the bands outside the region, keeps a row of
+// sums, and saves rows in place; the driver below has other parts but never needs more.
+inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int dataType, int channels, int* bufferSize) {
+    const bool wide = dataType == DATATYPE_16U || dataType == DATATYPE_16S;
+    const bool known = wide || dataType == DATATYPE_8U || dataType == DATATYPE_32F;
+    if (auto bad = firstOf({pointers(bufferSize), size(roi), maskSize(mask), refuse(!known, STATUS_BAD_DATATYPE),
+                            refuse(channels != 1 && channels != 3 && channels != 4, STATUS_BAD_CHANNELS)}))
+        return bad;
+    using Size = __int128;  // the largest arguments pass 64 bits
+    const Window w(mask);
+    const Size width = roi.width, height = roi.height, n = channels, element = wide ? 2 : dataType == DATATYPE_32F ? 4 : 1;
+    const Size extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
+    const Size bands = (w.height == 2 ? extendedWidth : 0) + (w.width == 2 ? extendedHeight : 0) +
+                       2 * ((w.width + w.right - 1) * extendedHeight + (w.height + w.bottom - 1) * extendedWidth);
+    const Size sums = (width + w.width + 3) * (n == 1 ? 4 : 16);
+    Size image = n * width * element * (w.top + 1) + 64;
+    const bool hasInterior = width - w.left - w.right > w.width && height - w.top - w.bottom > w.height;
+    if (!hasInterior) image = std::max(image, extendedWidth * extendedHeight * n * element);
+    const Size total = 4 * n * bands + sums + image + (w.top + 1) * 8;
+    if (total > INT32_MAX) return STATUS_SIZE_EXCEEDS_INT;
+    *bufferSize = int(total);
+    return STATUS_OK;
+}
+
+template <Layout layout, class Output, class T, class D>
+void integerWindows(Bands<T>& bands, Image<D> dst, Roi roi, Window window, const Output& output, Scratch scratch) {
+    constexpr int n = layout.channels;
+    const Pattern colours = Pattern::mask<D>(layout.used(), n);
+    const Pattern* const kept = layout.alpha ? &colours : nullptr;
+    const bool wide = !sumsFit<T>(window.area(), INT32_MAX);
+    const auto run = [&](auto zero) {
+        using A = decltype(zero);
+        eachLine<A>(bands, roi, window, n, scratch, [&](Len y, const A* line) {
+            if constexpr (requires { output.putShortRow(dst.data, line, roi.width, n); })
+                if (output.fitsShort() && !kept) return output.putShortRow(dst.row(y), line, roi.width * n, n);
+            const LineReader<A> reader{line};
+            if (wide) return putRow<true>(output, dst.row(y), reader, roi.width, window.width, n, kept);
+            if constexpr (sizeof(A) < 8) putRow<false>(output, dst.row(y), reader, roi.width, window.width, n, kept);
+        });
+    };
+    if constexpr (sizeof(T) == 1)
+        if (sumsFit<T>(window.height, UINT16_MAX)) return run(uint16_t(0));
+    if (sumsFit<T>(window.height, INT32_MAX)) return run(int32_t(0));
+    run(int64_t(0));
+}
+
+template <Layout layout, class Output>
+void floatWindows(Bands<float>& bands, Image<float> dst, Roi roi, Window window, const Output& output, Scratch scratch) {
+    constexpr int n = layout.channels;
+    const Pattern colours = Pattern::mask<float>(layout.used(), n);
+    const Len length = roi.width * n;
+    float* const line = scratch.take<float>((roi.width + window.width - 1) * n);
+    RowTree<float> tree(scratch.take<float>(RowTree<float>::rowsNeeded(window.height) * length), window.height, length);
+    bands.takeMemory(scratch);
+    float* const home = line + window.left * n;
+    for (Len y = -window.top; y < roi.height + window.bottom; ++y) {
+        const Len finished = std::max<Len>(0, y - window.bottom);
+        const auto row = bands.row(y, finished);
+        bands.eachPart([&](Len column, bool outside, Len count) {
+            copyRow(home + column * n, (outside ? row.outside : row.inside) + column * n, count * n * Len(sizeof(float)));
+        });
+        bands.fillColumns(home, bands.value());
+        sumAlong(tree.nextRow(), line, length, window.width, Len(n));
+        tree.push();
+        if (!tree.full()) continue;
+        const Len result = y - window.bottom;
+        bands.save(result);
+        float* const to = dst.row(result);
+        tree.sum([&](Len i, auto sum, int count) {
+            const auto value = output.value(sum);
+            if constexpr (layout.alpha) {
+                const auto bytes = [](float* p) { return reinterpret_cast<uint8_t*>(p); };
+                const auto keep = select(colours.at(0), (Vec<uint8_t>)value,
+                                         count == lanes<float> ? loadAs<Vec<uint8_t>>(to + i)
+                                                               : loadPart(bytes(to + i), count * int(sizeof(float))));
+                if (count == lanes<float>) store(to + i, keep);
+                else storePart(to + i, keep, count * int(sizeof(float)));
+            } else {
+                if (count == lanes<float>) store(to + i, value);
+                else storePart(to + i, value, count);
+            }
+        });
+    }
+}
+
+template <class Output, Layout layout, class T, class D>
+StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize mask, int borderType, const T* value,
+                           uint8_t* buffer) {
+    if (auto bad = firstOf({pointers(src.data, dst.data, buffer), steps(src.step, dst.step), size(roi), maskSize(mask),
+                            border(borderType), borderValue(borderType, value)}))
+        return bad;
+    const Window window(mask);
+    const bool inPlace = static_cast<const void*>(src.data) == dst.data;
+    Bands<T> bands(src, roi, layout, window, borderType, value, inPlace);
+    const Output output(window);
+    if constexpr (std::is_same_v<T, float>) floatWindows<layout>(bands, dst, roi, window, output, Scratch(buffer));
+    else integerWindows<layout>(bands, dst, roi, window, output, Scratch(buffer));
+    return STATUS_OK;
+}
+
+}  // namespace zmv
