@@ -33,43 +33,40 @@ struct WrapRule {
 };
 
 // Runs of pixels of a layout: all channels, or all but the fourth.
-template <class T>
+template <class T, Layout layout>
 class PixelRows {
   public:
-    explicit PixelRows(Layout layout) : layout_(layout), colours_(Pattern::mask<T>(layout.used(), layout.channels)) {}
-    T* pixel(T* row, Len x) const { return row + x * layout_.channels; }
+    static T* pixel(T* row, Len x) { return row + x * layout.channels; }
+    static void copyPixel(T* dst, const T* src) { std::memcpy(dst, src, sizeof(T) * layout.used()); }
     void copy(T* dst, const T* src, Len width) const {
-        if (layout_.alpha) blendRow(dst, fromRow(src), colours_, bytes(width));
+        if (layout.alpha) blendRow(dst, fromRow(src), colours_, bytes(width));
         else copyRow(dst, src, bytes(width));
     }
-    void copyPixel(T* dst, const T* src) const { std::memcpy(dst, src, sizeof(T) * size_t(layout_.used())); }
     void fill(T* dst, const Pattern& values, Len width) const {
         if (width == 0) return;
-        if (layout_.alpha) blendRow(dst, fromPattern(values), colours_, bytes(width));
+        if (layout.alpha) blendRow(dst, fromPattern(values), colours_, bytes(width));
         else fillRow(dst, values, bytes(width));
     }
 
   private:
-    Len bytes(Len width) const { return rowBytes<T>(width, layout_.used(), layout_.channels); }
-    Layout layout_;
-    Pattern colours_;
+    static Len bytes(Len width) { return rowBytes<T>(width, layout.used(), layout.channels); }
+    Pattern colours_ = Pattern::mask<T>(layout.used(), layout.channels);
 };
 
 // Where everything goes: inner is the region that the source takes inside the destination, or already has.
-template <class T>
+template <class T, Layout layout>
 struct Frame {
     Image<T> inner;
     Roi src;
     Len left, right, top, bottom;
-    Layout layout;
-    PixelRows<T> rows{layout};
+    PixelRows<T, layout> rows{};
     Len width() const { return left + src.width + right; }
     T* wholeRow(Len y) const { return rows.pixel(inner.row(y), -left); }
 };
 
 // Filled outward: the columns left and right of each row by sides(row), then the rows above and below by outside(y).
-template <class T, class Sides, class Outside>
-void extend(const Frame<T>& frame, const Image<const T>* src, Sides sides, Outside outside) {
+template <class T, Layout layout, class Sides, class Outside>
+void extend(const Frame<T, layout>& frame, const Image<const T>* src, Sides sides, Outside outside) {
     for (Len y = 0; y < frame.src.height; ++y) {
         if (src) frame.rows.copy(frame.inner.row(y), src->row(y), frame.src.width);
         sides(frame.inner.row(y));
@@ -79,15 +76,16 @@ void extend(const Frame<T>& frame, const Image<const T>* src, Sides sides, Outsi
 }
 
 // Outside pixels by a rule: the rows above and below are copies of finished ones.
-template <class Rule, class T>
-void extendByRule(const Frame<T>& frame, const Image<const T>* src) {
+template <class Rule, class T, Layout layout>
+void extendByRule(const Frame<T, layout>& frame, const Image<const T>* src) {
     const auto& rows = frame.rows;
     const auto sides = [&](T* row) {
         const auto column = [&](Len x) {
             rows.copyPixel(rows.pixel(row, x), rows.pixel(row, Rule::at(x, frame.src.width)));
         };
         const auto repeat = [&](Len x, Len from, Len count) {
-            rows.fill(rows.pixel(row, x), Pattern(rows.pixel(row, from), frame.layout), count);
+            if (layout.channels == 1) return fillShort(row + x, get(row + from), count);
+            rows.fill(rows.pixel(row, x), Pattern(rows.pixel(row, from), layout), count);
         };
         if constexpr (std::is_same_v<Rule, ReplicateRule>) {
             repeat(-frame.left, 0, frame.left);
@@ -102,16 +100,16 @@ void extendByRule(const Frame<T>& frame, const Image<const T>* src) {
     });
 }
 
-template <class T>
-Frame<T> frameOf(Image<T> inner, Roi src, Roi dst, Corner at, Layout layout) {
-    return {inner, src, at.left, dst.width - at.left - src.width, at.top, dst.height - at.top - src.height, layout};
+template <Layout layout, class T>
+Frame<T, layout> frameOf(Image<T> inner, Roi src, Roi dst, Corner at) {
+    return {inner, src, at.left, dst.width - at.left - src.width, at.top, dst.height - at.top - src.height};
 }
 
 // The in-place and the out-of-place form of an operation that has a rule and no value.
 template <class Rule, Layout layout, class T>
 StatusCode copyBorderInPlace(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at) {
     if (auto bad = firstOf({pointers(srcDst.data), steps(srcDst.step), geometry(srcRoi, dstRoi, at)})) return bad;
-    extendByRule<Rule, T>(frameOf(srcDst, srcRoi, dstRoi, at, layout), nullptr);
+    extendByRule<Rule, T>(frameOf<layout>(srcDst, srcRoi, dstRoi, at), nullptr);
     return STATUS_OK;
 }
 template <class Rule, Layout layout, class T>
@@ -119,7 +117,7 @@ StatusCode copyBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, 
     if (auto bad = firstOf({pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at)}))
         return bad;
     const Image<T> inner = dst.at(at.left * layout.channels, at.top);
-    extendByRule<Rule, T>(frameOf(inner, srcRoi, dstRoi, at, layout), &src);
+    extendByRule<Rule, T>(frameOf<layout>(inner, srcRoi, dstRoi, at), &src);
     return STATUS_OK;
 }
 

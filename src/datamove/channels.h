@@ -62,6 +62,8 @@ struct ChannelMover {
         Block<V, n> channels;
         if constexpr (from == 1) {
             for (int c = 0; c < n; ++c) channels[c] = load(src[c] + x);
+        } else if constexpr (n == 1 && from == 4 && at == 0) {
+            channels[0] = loadFirstOfFour(src[0] + x * from);
         } else {
             const auto planes = planesOf(loadPixels<from>(src[0] + x * from - at));
             for (int c = 0; c < n; ++c) channels[c] = planes[at + c];

@@ -4,9 +4,9 @@
 namespace zmv {
 namespace {
 
-template <class T>
-void extendByValue(const Frame<T>& frame, const Image<const T>* src, const T* value) {
-    const Pattern values(value, frame.layout);
+template <class T, Layout layout>
+void extendByValue(const Frame<T, layout>& frame, const Image<const T>* src, const T* value) {
+    const Pattern values(value, layout);
     const auto sides = [&](T* row) {
         frame.rows.fill(frame.rows.pixel(row, -frame.left), values, frame.left);
         frame.rows.fill(frame.rows.pixel(row, frame.src.width), values, frame.right);
@@ -21,14 +21,14 @@ StatusCode ownpi_CopyConstBorder(Image<const T> src, Roi srcRoi, Image<T> dst, R
                             pointers(value)}))
         return bad;
     const Image<T> inner = dst.at(at.left * layout.channels, at.top);
-    extendByValue(frameOf(inner, srcRoi, dstRoi, at, layout), &src, value);
+    extendByValue<T>(frameOf<layout>(inner, srcRoi, dstRoi, at), &src, value);
     return STATUS_OK;
 }
 template <Layout layout, class T>
 StatusCode ownpi_CopyConstBorderI(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at, const T* value) {
     if (auto bad = firstOf({pointers(srcDst.data), steps(srcDst.step), geometry(srcRoi, dstRoi, at), pointers(value)}))
         return bad;
-    extendByValue<T>(frameOf(srcDst, srcRoi, dstRoi, at, layout), nullptr, value);
+    extendByValue<T>(frameOf<layout>(srcDst, srcRoi, dstRoi, at), nullptr, value);
     return STATUS_OK;
 }
 

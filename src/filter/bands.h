@@ -46,24 +46,25 @@ class Scratch {
     uint8_t* next_;
 };
 
-template <class T>
+template <class T, int n>
 class Bands {
   public:
-    // inPlace: the destination is the source, so that a row must be saved before its result overwrites it.
+    // inPlace: the destination is the source, so that a row must be saved before its result overwrites it.  Filters of
+    // floating-point images read each row once; with windows of one row nothing is read after it is overwritten.
     Bands(Image<const T> src, Roi roi, Layout layout, Window window, int word, const T* value, bool inPlace)
-        : src_(src), roi_(roi), n_(layout.channels), window_(window), word_(word), inPlace_(inPlace && window.height > 1) {
+        : src_(src), roi_(roi), window_(window), word_(word), inPlace_(inPlace && (window.height > 1 || !std::is_floating_point_v<T>)) {
         for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = value[c];
     }
 
     // Elements that takeMemory wants: a row of the constant, and the history.
     void takeMemory(Scratch& scratch) {
-        const Len extended = (roi_.width + window_.width - 1) * n_;
+        const Len extended = (roi_.width + window_.width - 1) * n;
         if (constant() && window_.height > 1) {
             T* const row = scratch.take<T>(extended);
-            for (Len i = 0; i < extended; i += n_) std::memcpy(row + i, value_, sizeof(T) * size_t(n_));
-            constantRow_ = row + window_.left * n_;
+            for (Len i = 0; i < extended; i += n) std::memcpy(row + i, value_, sizeof(T) * n);
+            constantRow_ = row + window_.left * n;
         }
-        if (inPlace_) history_ = scratch.take<T>(historyRows() * roi_.width * n_);
+        if (inPlace_) history_ = scratch.take<T>(historyRows() * roi_.width * n);
     }
 
     // A row of the extended region.  `inside` has the region's columns; `outside` the readable ones left and right.
@@ -84,7 +85,7 @@ class Bands {
     // Before the result of row y is written.  No row is asked for later than window.top rows after that: what the
     // mirror takes at the bottom is nearer, and a smaller region fits the history as a whole.
     void save(Len y) const {
-        if (inPlace_) std::memcpy(saved(y), src_.row(y), size_t(roi_.width * n_) * sizeof(T));
+        if (inPlace_) std::memcpy(saved(y), src_.row(y), size_t(roi_.width * n) * sizeof(T));
     }
 
     // The columns that are read from memory, counted from the region's first: readable ones outside included.
@@ -105,8 +106,8 @@ class Bands {
     void fillColumns(E* line, const E* constants) const {
         const auto fill = [&](Len from, Len to) {
             for (Len x = from; x < to; ++x)
-                std::memcpy(line + x * n_, constant() ? constants : line + mapped(x, roi_.width) * n_,
-                            sizeof(E) * size_t(n_));
+                std::memcpy(line + x * n, constant() ? constants : line + mapped(x, roi_.width) * n,
+                            sizeof(E) * n);
         };
         if (!(word_ & BORDER_IN_MEM_LEFT)) fill(-window_.left, 0);
         if (!(word_ & BORDER_IN_MEM_RIGHT)) fill(roi_.width, roi_.width + window_.right);
@@ -115,15 +116,14 @@ class Bands {
 
   private:
     bool constant() const { return (word_ & 15) == BORDER_CONST; }
-    Len mapped(Len i, Len n) const {
-        return (word_ & 15) == BORDER_MIRROR ? MirrorRule::at(i, n) : ReplicateRule::at(i, n);
+    Len mapped(Len i, Len size) const {
+        return (word_ & 15) == BORDER_MIRROR ? MirrorRule::at(i, size) : ReplicateRule::at(i, size);
     }
     Len historyRows() const { return window_.top + 1; }
-    T* saved(Len y) const { return history_ + y % historyRows() * roi_.width * n_; }
+    T* saved(Len y) const { return history_ + y % historyRows() * roi_.width * n; }
 
     Image<const T> src_;
     Roi roi_;
-    int n_;
     Window window_;
     int word_;
     bool inPlace_;

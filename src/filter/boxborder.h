@@ -30,20 +30,20 @@ inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int data
     return STATUS_OK;
 }
 
-template <Layout layout, class Output, class T, class D>
-void integerWindows(Bands<T>& bands, Image<D> dst, Roi roi, Window window, const Output& output, Scratch scratch) {
-    constexpr int n = layout.channels;
+template <class Output, class T, class D, int n>
+void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Window window, const Output& output,
+                    Scratch scratch) {
     const Pattern colours = Pattern::mask<D>(layout.used(), n);
     const Pattern* const kept = layout.alpha ? &colours : nullptr;
     const bool wide = !sumsFit<T>(window.area(), INT32_MAX);
     const auto run = [&](auto zero) {
         using A = decltype(zero);
-        eachLine<A>(bands, roi, window, n, scratch, [&](Len y, const A* line) {
-            if constexpr (requires { output.putShortRow(dst.data, line, roi.width, n); })
-                if (output.fitsShort() && !kept) return output.putShortRow(dst.row(y), line, roi.width * n, n);
+        eachLine<A>(bands, roi, window, scratch, [&](Len y, const A* line) {
+            if constexpr (requires { output.template putShortRow<n>(dst.data, line, roi.width); })
+                if (output.fitsShort() && !kept) return output.template putShortRow<n>(dst.row(y), line, roi.width);
             const LineReader<A> reader{line};
-            if (wide) return putRow<true>(output, dst.row(y), reader, roi.width, window.width, n, kept);
-            if constexpr (sizeof(A) < 8) putRow<false>(output, dst.row(y), reader, roi.width, window.width, n, kept);
+            if (wide) return putRow<n, true>(output, dst.row(y), reader, roi.width, window.width, kept);
+            if constexpr (sizeof(A) < 8) putRow<n, false>(output, dst.row(y), reader, roi.width, window.width, kept);
         });
     };
     if constexpr (sizeof(T) == 1)
@@ -52,9 +52,9 @@ void integerWindows(Bands<T>& bands, Image<D> dst, Roi roi, Window window, const
     run(int64_t(0));
 }
 
-template <Layout layout, class Output>
-void floatWindows(Bands<float>& bands, Image<float> dst, Roi roi, Window window, const Output& output, Scratch scratch) {
-    constexpr int n = layout.channels;
+template <class Output, int n>
+void floatWindows(Bands<float, n>& bands, Image<float> dst, Roi roi, Layout layout, Window window, const Output& output,
+                  Scratch scratch) {
     const Pattern colours = Pattern::mask<float>(layout.used(), n);
     const Len length = roi.width * n;
     float* const line = scratch.take<float>((roi.width + window.width - 1) * n);
@@ -75,18 +75,10 @@ void floatWindows(Bands<float>& bands, Image<float> dst, Roi roi, Window window,
         bands.save(result);
         float* const to = dst.row(result);
         tree.sum([&](Len i, auto sum, int count) {
-            const auto value = output.value(sum);
-            if constexpr (layout.alpha) {
-                const auto bytes = [](float* p) { return reinterpret_cast<uint8_t*>(p); };
-                const auto keep = select(colours.at(0), (Vec<uint8_t>)value,
-                                         count == lanes<float> ? loadAs<Vec<uint8_t>>(to + i)
-                                                               : loadPart(bytes(to + i), count * int(sizeof(float))));
-                if (count == lanes<float>) store(to + i, keep);
-                else storePart(to + i, keep, count * int(sizeof(float)));
-            } else {
-                if (count == lanes<float>) store(to + i, value);
-                else storePart(to + i, value, count);
-            }
+            auto value = output.value(sum);
+            if (layout.alpha)  // a vector holds whole pixels
+                value = (Vec<float>)select(colours.at(0), (Vec<uint8_t>)value, (Vec<uint8_t>)loadUpTo(to + i, count));
+            storeUpTo(to + i, value, count);
         });
     }
 }
@@ -99,10 +91,10 @@ StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize 
         return bad;
     const Window window(mask);
     const bool inPlace = static_cast<const void*>(src.data) == dst.data;
-    Bands<T> bands(src, roi, layout, window, borderType, value, inPlace);
+    Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
     const Output output(window);
-    if constexpr (std::is_same_v<T, float>) floatWindows<layout>(bands, dst, roi, window, output, Scratch(buffer));
-    else integerWindows<layout>(bands, dst, roi, window, output, Scratch(buffer));
+    if constexpr (std::is_same_v<T, float>) floatWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+    else integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
     return STATUS_OK;
 }
 

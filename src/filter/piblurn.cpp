@@ -46,33 +46,46 @@ class BoxMean<float, float> {
 template <>
 class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
   public:
+    static constexpr Len shortWidth = 15;
     explicit BoxMean(Window window) : RoundedMean(window), windowWidth_(window.width) {
         const Len area = window.area();
-        if (area % 2 == 0 || area == 1 || area > 255 || windowWidth_ > directWidth) return;
+        if (area % 2 == 0 || area == 1 || area > 255 || windowWidth_ > shortWidth) return;
         // sum / area as a product with the reciprocal rounded up: exact while the error stays below one unit.
-        while (area >> (shift_ + 1)) ++shift_;
-        const Len one = Len(1) << (16 + shift_), factor = (one + area - 1) / area, largest = 255 * area + area / 2;
-        if ((factor * area - one) * largest < one) factor_ = uint16_t(factor), half_ = uint16_t(area / 2);
+        const Len largest = 255 * area + area / 2;
+        for (int shift = 0; area >> shift; ++shift) {
+            const Len one = Len(1) << (16 + shift), factor = (one + area - 1) / area;
+            if (factor > UINT16_MAX || (factor * area - one) * largest >= one) continue;
+            factor_ = uint16_t(factor), half_ = uint16_t(area / 2), shift_ = shift;
+            return;
+        }
     }
     bool fitsShort() const { return factor_ != 0; }
 
     // line: column sums from the leftmost one of the first window on.
-    void putShortRow(uint8_t* dst, const uint16_t* line, Len count, int n) const {
-        const auto mean = [&](Len i) {
-            auto sum = load(line + i) + half_;
-            for (Len k = 1; k < windowWidth_; ++k) sum += load(line + i + k * n);
-            return mulHigh(sum, fill(factor_)) >> shift_;
+    template <int n>
+    void putShortRow(uint8_t* dst, const uint16_t* line, Len pixels) const {
+        const auto put = [&](auto width) {
+            if (shift_ == 0) putShort<n>(dst, line, pixels * n, width, [](auto v) { return v; });
+            else putShort<n>(dst, line, pixels * n, width, [shift = shift_](auto v) { return v >> shift; });
         };
-        constexpr int step = lanes<uint16_t>;
-        Len i = 0;
-        for (; i + step <= count; i += step) storeNarrow(dst + i, mean(i));
-        if (i == count) return;
-        uint8_t few[step];
-        storeNarrow(few, mean(i));
-        std::memcpy(dst + i, few, size_t(count - i));
+        if (windowWidth_ <= directWidth) withWidth(windowWidth_, put);
+        else put(windowWidth_);
     }
 
   private:
+    template <int n, class Width, class Shift>
+    void putShort(uint8_t* dst, const uint16_t* line, Len count, Width width, Shift shifted) const {
+        const auto mean = [&](Len i) {
+            const auto sum = sumOf([&](Len k) { return load(line + i + k * n); }, width);
+            return shifted(mulHigh(sum + half_, fill(factor_)));
+        };
+        constexpr int half = lanes<uint16_t>;
+        for (Len i = 0; i < count; i += 2 * half) {
+            const auto means = narrowBytes(mean(i), i + half < count ? mean(i + half) : Vec<uint16_t>{});
+            storeUpTo(dst + i, means, int(std::min<Len>(2 * half, count - i)));
+        }
+    }
+
     Len windowWidth_;
     int shift_ = 0;
     uint16_t factor_ = 0, half_ = 0;
@@ -105,10 +118,9 @@ StatusCode ownpi_FilterBox(Image<const double> src, Image<double> dst, Roi roi, 
                     if (!tree.full()) continue;
                     double* const to = dst.row(y - partHeight + 1) + x;
                     tree.sum([&](Len i, auto sum, int count) {
-                        if (!first) sum += count == lanes<double> ? load(to + i) : loadPart(to + i, count);
+                        if (!first) sum += loadUpTo(to + i, count);
                         if (last) sum /= area;
-                        if (count == lanes<double>) store(to + i, sum);
-                        else storePart(to + i, sum, count);
+                        storeUpTo(to + i, sum, count);
                     });
                 }
             }

@@ -32,16 +32,17 @@ StatusCode lineSum(const void* src, const void* dst, int maskSize, int anchor) {
 }
 bool nothingToDo(Roi roi) { return roi.width < 1 || roi.height < 1; }
 
-template <class T>
-StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int n, int maskSize, int anchor) {
+template <Layout layout, class T>
+StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int maskSize, int anchor) {
     if (auto bad = lineSum(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
+    constexpr int n = layout.channels;
     const bool wide = !sumsFit<T>(maskSize, INT32_MAX);
     const WindowSum<T, float> output{Window({maskSize, 1})};
     for (Len y = 0; y < roi.height; ++y) {
         const RowReader<T> reader{src.row(y) - Len(anchor) * n, (roi.width + maskSize - 1) * n};
-        if (wide) putRow<true>(output, dst.row(y), reader, roi.width, maskSize, n, nullptr);
-        else putRow<false>(output, dst.row(y), reader, roi.width, maskSize, n, nullptr);
+        if (wide) putRow<n, true>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
+        else putRow<n, false>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
     }
     return STATUS_OK;
 }
@@ -57,22 +58,22 @@ void columnStrips(Image<const T> src, Roi roi, int n, int maskSize, int anchor, 
         for (Len y = 0;; ++y) {
             put(x, y, sums, int(count));
             if (y + 1 == roi.height) break;
-            moveColumns(sums, src.row(y + maskSize - anchor) + x, src.row(y - anchor) + x, count);
+            moveColumns(sums, sums, src.row(y + maskSize - anchor) + x, src.row(y - anchor) + x, count);
         }
     }
 }
 
-template <class T>
-StatusCode ownpi_SumWindowColumn(Image<const T> src, Image<float> dst, Roi roi, int n, int maskSize, int anchor) {
+template <Layout layout, class T>
+StatusCode ownpi_SumWindowColumn(Image<const T> src, Image<float> dst, Roi roi, int maskSize, int anchor) {
     if (auto bad = lineSum(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
     const WindowSum<T, float> output{Window({1, maskSize})};
     if (sumsFit<T>(maskSize, INT32_MAX)) {
-        columnStrips<int32_t>(src, roi, n, maskSize, anchor, [&](Len x, Len y, const int32_t* sums, int count) {
+        columnStrips<uint32_t>(src, roi, layout.channels, maskSize, anchor, [&](Len x, Len y, const uint32_t* sums, int count) {
             putChunk(output, dst.row(y) + x, sums, count);
         });
     } else {
-        columnStrips<int64_t>(src, roi, n, maskSize, anchor, [&](Len x, Len y, const int64_t* sums, int count) {
+        columnStrips<int64_t>(src, roi, layout.channels, maskSize, anchor, [&](Len x, Len y, const int64_t* sums, int count) {
             for (int i = 0; i < count; ++i) put(dst.row(y) + x + i, output.one(sums[i]));
         });
     }

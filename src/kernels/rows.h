@@ -19,7 +19,16 @@ bool gapless(Image<T> image, Len width, int channels) {
 // Bytes that are written past the caches from here on do not sweep the caller's data out of them.
 constexpr Len largeCopy = 1048577;
 
-inline void copyRow(void* dst, const void* src, Len bytes) { std::memcpy(dst, src, size_t(bytes)); }
+inline void copyRow(void* dst, const void* src, Len bytes) {
+    using V = Vec<uint8_t>;
+    constexpr Len callPays = 1024;  // below this the C library's choice among its methods costs more than the copy
+    if (bytes < width || bytes >= callPays) return (void)std::memcpy(dst, src, size_t(bytes));
+    const auto to = static_cast<uint8_t*>(dst);
+    const auto from = static_cast<const uint8_t*>(src);
+    const V last = loadAs<V>(from + bytes - width);
+    for (Len i = 0; i < bytes - width; i += width) store(to + i, loadAs<V>(from + i));
+    store(to + bytes - width, last);
+}
 
 // The same past the caches.  fence() when all rows are done.
 inline void streamRow(void* dst, const void* src, Len bytes) {
@@ -66,6 +75,9 @@ class Pattern {
         return Pattern(values, Layout{channels});
     }
     Vec<uint8_t> at(Len offset) const { return loadAs<Vec<uint8_t>>(bytes_ + offset % period); }
+    // Whether it is one byte all through, and which.
+    bool isOneByte() const { return allZero(at(0) ^ at(1)); }
+    int firstByte() const { return bytes_[0]; }
 
   private:
     static constexpr int period = 48;  // a multiple of every pixel's size: 1, 2, 3, 4, 6, 8, 12 and 16 bytes
@@ -93,6 +105,9 @@ inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
         if (bytes > 0) storePart(dst, pattern.at(0), int(bytes));
         return;
     }
+    constexpr Len callPays = 4096;  // the C library may fill whole cache lines without reading them
+    if (!streaming && bytes >= callPays && pattern.isOneByte())
+        return (void)std::memset(dst, pattern.firstByte(), size_t(bytes));
     store(dst, pattern.at(0));
     const Len head = width - Len(reinterpret_cast<uintptr_t>(dst) % width);
     const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + width), pattern.at(head + 2 * width)};
@@ -101,6 +116,15 @@ inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
         else store(dst + at, period[k]);
     });
     store(dst + bytes - width, pattern.at(bytes - width));
+}
+
+// One value over `count` elements, for short runs: no pattern is worth building.
+template <class T>
+inline void fillShort(T* row, T value, Len count) {
+    const auto v = fill(value);
+    Len i = 0;
+    for (; i + lanes<T> <= count; i += lanes<T>) store(row + i, v);
+    if (i < count) storePart(row + i, v, int(count - i));
 }
 
 // dst = source where the mask has ones; source(offset) gives a vector, source(offset, n) the first n bytes of one.

@@ -130,6 +130,17 @@ ZMV_INLINE void storePart(void* p, V v, int n) {
     if (left) storeFewBytes(to, loadAs<Vec<uint64_t, 16>>(from), left);
 }
 
+// The same where n may be all lanes.
+template <class T, int bytes = width>
+ZMV_INLINE Vec<T, bytes> loadUpTo(const T* p, int n) {
+    return n == lanes<T, bytes> ? load<T, bytes>(p) : loadPart<T, bytes>(p, n);
+}
+template <class V>
+ZMV_INLINE void storeUpTo(void* p, V v, int n) {
+    if (n == lanesOf<V>) store(p, v);
+    else storePart(p, v, n);
+}
+
 // Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
 template <class T, int bytes = width>
 ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, int laneStep) {
@@ -299,6 +310,23 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
         const int bytes = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
         std::memcpy(p, &bytes, sizeof bytes);
     }
+}
+
+// Two vectors of 16-bit lanes, their low bytes in order.
+template <class V>
+ZMV_INLINE Vec<uint8_t, sizeof(V)> narrowBytes(V a, V b) {
+    static_assert(sizeof(Element<V>) == 2);
+    using Bytes = Vec<uint8_t, sizeof(V)>;
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64)
+        return (Bytes)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7),
+                                               _mm512_packus_epi16((__m512i)a, (__m512i)b));
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32)
+        return (Bytes)_mm256_permute4x64_epi64(_mm256_packus_epi16((__m256i)a, (__m256i)b), 0xd8);
+#endif
+    if constexpr (sizeof(V) == 16) return (Bytes)_mm_packus_epi16((__m128i)a, (__m128i)b);
 }
 
 // Element i is the sum of elements 0 .. i.

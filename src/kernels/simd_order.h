@@ -84,8 +84,25 @@ ZMV_INLINE V interleaveHigh(V a, V b) {
 }
 template <class V>
 ZMV_INLINE V even(V a, V b) {  // the even elements of a, then those of b
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64 && sizeof(Element<V>) == 1)
+        return (V)_mm512_packus_epi16((__m512i)a & _mm512_set1_epi16(255), (__m512i)b & _mm512_set1_epi16(255));
+    if constexpr (sizeof(V) == 64 && sizeof(Element<V>) == 2)
+        return (V)_mm512_packus_epi32((__m512i)a & _mm512_set1_epi32(65535), (__m512i)b & _mm512_set1_epi32(65535));
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32 && sizeof(Element<V>) == 1)
+        return (V)_mm256_packus_epi16((__m256i)a & _mm256_set1_epi16(255), (__m256i)b & _mm256_set1_epi16(255));
+    if constexpr (sizeof(V) == 32 && sizeof(Element<V>) == 2)
+        return (V)_mm256_packus_epi32((__m256i)a & _mm256_set1_epi32(65535), (__m256i)b & _mm256_set1_epi32(65535));
+#endif
     return permute<typename InLanes<V>::Even>(a, b);
 }
+// Four vectors packed into one by two steps of even() leave a quarter of each in every lane: back to their order.
+template <class V>
+struct FourVectors {
+    static constexpr int at(int i) { return i % (lanesOf<V> / 4) * 4 + i / (lanesOf<V> / 4); }
+};
 // Odd elements in even places; what is left in odd places is not used.
 template <class V>
 ZMV_INLINE V oddToEven(V v) {
@@ -190,9 +207,43 @@ ZMV_INLINE Block<Vec<T>, n> loadPixels(const T* p) {
     for (int i = 0; i < n; ++i) block[i] = loadLanes(p + i * (16 / int(sizeof(T))), 16 * n);
     return block;
 }
+// In memory's order, lane i of the block is lane i / n of vector i % n: vector v of the result takes its lanes from all
+// of them, two by two.
+template <class V, int n, int v, int from>
+struct LaneOrder {
+    static constexpr int at(int i) {  // i counts 8-byte halves of lanes
+        const int lane = v * int(sizeof(V)) / 16 + i / 2, source = lane % n;
+        if (source == from) return int(sizeof(V)) / 8 + lane / n * 2 + i % 2;
+        return source < from ? (from == 1 ? lane / n * 2 + i % 2 : i) : -1;  // what came before stays
+    }
+};
+template <int n, int v, class V>
+ZMV_INLINE V inMemoryOrder(const Block<V, n>& block) {
+    using Halves = Vec<uint64_t, sizeof(V)>;
+    const auto add = [&]<int from>(Halves have, std::integral_constant<int, from>) {
+        return permute<LaneOrder<Halves, n, v, from>>(have, (Halves)block[from]);
+    };
+    auto vector = add((Halves)block[0], std::integral_constant<int, 1>{});
+    vector = add(vector, std::integral_constant<int, 2>{});
+    if constexpr (n == 4) vector = add(vector, std::integral_constant<int, 3>{});
+    return (V)vector;
+}
 template <int n, bool streaming = false, class T>
 ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
-    for (int i = 0; i < n; ++i) storeLanes<streaming>(p + i * (16 / int(sizeof(T))), block[i], 16 * n);
+    const auto put = [&]<int... v>(std::integer_sequence<int, v...>) {
+        if constexpr (n == 1 || width == 16) (..., storeLanes<streaming>(p + v * lanes<T>, block[v], 16));
+        else (..., storeLanes<streaming>(p + v * lanes<T>, inMemoryOrder<n, v>(block), 16));
+    };
+    put(std::make_integer_sequence<int, n>{});
+}
+
+// The first channel of lanes<T> pixels of four at p.
+template <class T>
+ZMV_INLINE Vec<T> loadFirstOfFour(const T* p) {
+    using V = Vec<T>;
+    const auto packed = even(even(load(p), load(p + lanes<T>)), even(load(p + 2 * lanes<T>), load(p + 3 * lanes<T>)));
+    if constexpr (width == 16) return packed;
+    else return (V)permute<FourVectors<Vec<uint32_t>>>((Vec<uint32_t>)packed, (Vec<uint32_t>)packed);
 }
 
 }  // namespace zmv
