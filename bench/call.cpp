@@ -1,0 +1,144 @@
+// Arguments by the names of parameters.  A family whose parameters have names of their own adds them here.
+#include "call.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <stdexcept>
+
+Call::Call(const Member& theMember, const Setting& theSetting, const Build& theBuild)
+    : member(theMember), setting(theSetting), build(theBuild) {
+    // "(const uint8_t* src, int srcStep, uint8_t* const dst[3])": the last identifier before each comma and the end.
+    std::string word;
+    bool inWord = false;
+    for (const char c : std::string(member.parameters)) {
+        if (c == ',' || c == ')') names.push_back(word);
+        const bool letter = std::isalpha(c) || c == '_' || (inWord && std::isdigit(c));
+        if (letter) word = inWord ? word + c : std::string(1, c);
+        inWord = letter;
+    }
+
+    // zmviCopy_8u_C3AC4R_L: after the operation the types, then the layouts.  Size queries have neither.
+    const std::string name = setting.about.empty() ? member.name : setting.about;
+    const size_t types = name.find('_') + 1, layouts = name.find('_', types);
+    if (types == 0 || layouts == std::string::npos) return;
+    const size_t letters = name.find_first_not_of("0123456789", types);
+    type = name.substr(types, name.find_first_not_of("usfc", letters) - types);
+    int channels[2] = {}, count = 0;
+    for (size_t i = layouts; i + 1 < name.size() && count < 2; ++i)
+        if ((name[i] == 'C' || name[i] == 'P') && std::isdigit(name[i + 1])) channels[count++] = name[i + 1] - '0';
+    fromChannels = channels[0];
+    toChannels = count == 2 ? channels[1] : channels[0];
+}
+
+void Call::unknown(const std::string& name) const {
+    throw std::runtime_error(std::string(member.name) + ": no timing, as nothing is known of its argument " + name);
+}
+
+bool Call::has(const std::string& name) const { return std::find(names.begin(), names.end(), name) != names.end(); }
+
+ImageSizeL Call::area(const std::string& name) const {
+    if (name == "roiSize" || name == "srcRoiSize") return {setting.width, setting.height};
+    if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
+    if (name == "maskSize") return {setting.mask, setting.mask};
+    unknown(name);
+}
+
+double Call::number(const std::string& name) const {
+    static const std::map<std::string, int> codes = {{"8u", DATATYPE_8U},
+                                                     {"16u", DATATYPE_16U},
+                                                     {"16s", DATATYPE_16S},
+                                                     {"32f", DATATYPE_32F},
+                                                     {"64f", DATATYPE_64F}};
+    if (const auto step = steps.find(name); step != steps.end()) return double(step->second);
+    if (name == "width") return double(setting.width);
+    if (name == "height") return double(setting.height);
+    if (name == "top" || name == "left") return setting.border;
+    if (name == "maskSize") return setting.mask;
+    if (name == "anchor") return setting.mask / 2;
+    if (name == "borderType") return BORDER_REPL;
+    if (name == "dataType") return codes.at(type);
+    if (name == "numChannels") return fromChannels;
+    if (name == "value") return 5;
+    if (name == "flags") return 0;
+    unknown(name);
+}
+
+void* Call::pointer(const std::string& name, int64_t element) {
+    if (name == "src") return image(name, fromChannels * element);
+    if (name == "dst" || name == "srcDst") return image(name, toChannels * element);
+    if (name == "mask") return image(name, element);
+    if (name == "value" || name == "borderValue") return allocate(4 * element).data();
+    if (name == "buffer") return workBuffer();
+    if (name == "stepOut" || name == "pBufferSize") return &answer;
+    if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
+    unknown(name);
+}
+
+void* Call::planes(const std::string& name, int64_t element) {
+    for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planePointers.push_back(image(name, element));
+    return planePointers.data();
+}
+
+// The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
+uint8_t* Call::image(const std::string& name, int64_t pixel) {
+    const bool isRead = name == "src" || name == "mask", bordered = has("dstRoiSize");
+    const ImageSizeL size = area(!bordered ? "roiSize" : isRead ? "srcRoiSize" : "dstRoiSize");
+    const int64_t row = size.width * pixel, step = row + setting.padding;
+    // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
+    const int64_t margin = has("anchor") ? setting.mask + setting.mask / setting.width + 1 : 0;
+    Memory& block = allocate(step * (size.height + 2 * margin));
+    if (name == "mask")
+        for (Line& line : block)
+            for (uint32_t& word : line.words) word &= 0x01010101;  // half of the pixels, without any order
+
+    (isRead ? read : written) = &block;
+    reads |= name != "dst";
+    steps[name + "Step"] = step;
+    shortestRow = std::min(shortestRow, row);
+    if (!isRead) pixels = size.width * size.height;
+    uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
+    if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
+        bytes += row * size.height - setting.width * setting.height * pixel;
+        return first + setting.border * (step + pixel);
+    }
+    bytes += row * size.height * (name == "srcDst" ? 2 : 1);
+    return first;
+}
+
+// The size comes from the family's own query, bound and called like any other member.
+void* Call::workBuffer() {
+    const std::string name = member.name;
+    const Member& query = findMember(name.substr(0, name.find('_')) + "GetBufferSize");
+    Setting asked = setting;
+    asked.about = name;
+    const auto call = query.bind(query, asked, build);
+    call->run(build, build.find(query.name), 1);
+    return allocate(call->answer).data();
+}
+
+// Written here, so that no page is new to a timed call.  The words are ordinary numbers also when read as floats.
+Call::Memory& Call::allocate(int64_t size) {
+    Memory& block = memory.emplace_back(size_t(size) / 64 + 1);
+    uint32_t state = 12345;
+    for (Line& line : block)
+        for (uint32_t& word : line.words) word = 0x43000000 | (state = state * 1664525 + 1013904223) >> 8;
+    return block;
+}
+
+void Call::copySameBytes(int64_t count) {
+    const auto size = size_t(bytes / 2);
+    for (Memory** block : {&read, &written})  // the member's own images where they are large enough
+        if (!*block || (*block)->size() * sizeof(Line) < size) *block = &allocate(bytes / 2);
+    for (; count > 0; --count) {
+        std::memcpy(written->data(), read->data(), size);
+        asm volatile("" ::: "memory");  // each copy counts, though it writes what the one before it wrote
+    }
+}
+
+void Call::setSameBytes(int64_t count) {
+    for (; count > 0; --count) {
+        std::memset(written->data(), 5, std::min(written->size() * sizeof(Line), size_t(bytes)));
+        asm volatile("" ::: "memory");
+    }
+}

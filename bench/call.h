@@ -1,0 +1,101 @@
+// A member of the library with arguments and the memory behind them, ready to be called in any build.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "zmvip_types.h"
+
+// One of the three builds, loaded by path.
+struct Build {
+    std::string code;
+    void* handle;
+    void (*release)(void*);                     // its zmviFree
+    void* find(const std::string& name) const;  // throws for a name that the build lacks
+};
+
+// What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length.
+struct Setting {
+    int64_t width, height;
+    int mask = 5, border = 16, padding = 0;
+    std::string about = {};  // size queries: the member that the answer is for
+};
+
+class Call;
+struct Member {
+    const char *name, *parameters;
+    std::unique_ptr<Call> (*bind)(const Member&, const Setting&, const Build&);
+};
+std::span<const Member> members();
+const Member& findMember(const std::string& name);  // throws when there is none
+
+class Call {
+  public:
+    virtual ~Call() = default;
+    virtual void run(const Build& build, void* function, int64_t count) = 0;  // throws unless each call succeeds
+    // memcpy of half the bytes that a call reads and writes moves the same number of bytes.
+    void copySameBytes(int64_t count);
+    // What a call that only writes images comes down to.
+    void setSameBytes(int64_t count);
+
+    // Of a call: what it reads and writes (0 for members without images), the pixels of the destination, the bytes of
+    // the shortest row of any image, and what a size query wrote.
+    int64_t bytes = 0, pixels = 1, shortestRow = INT64_MAX, answer = 0;
+    bool reads = false;  // an image
+
+  protected:
+    Call(const Member& member, const Setting& setting, const Build& build);
+    const Member& member;
+    std::vector<std::string> names;  // of the parameters, in order
+
+    template <class A>
+    A argument(const std::string& name) {
+        if constexpr (std::is_same_v<A, ImageSize> || std::is_same_v<A, ImageSizeL>) {
+            const ImageSizeL size = area(name);
+            return {decltype(A::width)(size.width), decltype(A::height)(size.height)};
+        } else if constexpr (std::is_same_v<A, ImagePoint>) {
+            return {int(number(name)), int(number(name))};
+        } else if constexpr (std::is_pointer_v<A>) {
+            using Target = std::remove_pointer_t<A>;
+            if constexpr (std::is_void_v<Target>)
+                return pointer(name, 1);
+            else if constexpr (std::is_pointer_v<Target>)
+                return static_cast<A>(planes(name, sizeof(std::remove_pointer_t<Target>)));
+            else
+                return static_cast<A>(pointer(name, sizeof(Target)));
+        } else {
+            return A(number(name));
+        }
+    }
+
+  private:
+    struct alignas(64) Line {
+        uint32_t words[16];
+    };
+    using Memory = std::vector<Line>;
+
+    ImageSizeL area(const std::string& name) const;
+    double number(const std::string& name) const;
+    void* pointer(const std::string& name, int64_t element);
+    void* planes(const std::string& name, int64_t element);
+    uint8_t* image(const std::string& name, int64_t pixel);
+    void* workBuffer();
+    Memory& allocate(int64_t size);
+    bool has(const std::string& name) const;
+    [[noreturn]] void unknown(const std::string& name) const;
+
+    const Setting setting;
+    const Build& build;
+    std::string type = "8u";               // of the source
+    int fromChannels = 1, toChannels = 1;  // of the source and of the destination, or the number of planes
+    std::map<std::string, int64_t> steps;
+    std::vector<void*> planePointers;
+    std::deque<Memory> memory;
+    Memory *read = nullptr, *written = nullptr;  // where memcpy works too
+};
