@@ -1,0 +1,98 @@
+// Which functions ask the core library for the cache size, and from which amount of bytes on.  Runs with the core
+// library that --core names; results must be right whatever it answers.
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <stdexcept>
+
+#include "core/streaming.h"
+#include "harness/case.h"
+
+namespace {
+
+using namespace test;
+
+constexpr int64_t askFrom = 524289;
+
+int& fake(const char* name) {
+    if (!fakeCore()) throw std::runtime_error("runs with --core=");
+    return *static_cast<int*>(dlsym(fakeCore(), name));
+}
+
+// The bytes that one pixel makes a call move, for the members that ask; 0 for those that do not.
+int64_t bytesPerPixel(const Member& m) {
+    const int64_t pixel = bytesOf(m.destination) * std::max(m.from.channels, m.to.channels);
+    const bool whole = !m.masked && !m.oneChannel && !m.to.alpha && m.from == m.to;
+    if (m.name.rfind("zmviSet_", 0) == 0) return whole ? pixel : 0;
+    if (m.name.rfind("zmviCopy_", 0) != 0 || !(m.from.planar || m.to.planar)) return 0;
+    // Bytes only where reading and writing them costs more than the interleaving.
+    return bytesOf(m.destination) > 1 || m.name == "zmviCopy_8u_P4C4R" ? 2 * pixel : 0;
+}
+
+std::string check(const Member& m, int64_t width, int64_t height, uint64_t seed, int asks) {
+    Case c(m, underTest(), seed, Mode::bulk);
+    c.width = width;
+    c.height = height;
+    m.family->arrange(c);
+    fake("fakeCacheAsked") = 0;
+    c.call();
+    if (!c.trapped()) m.family->oracle(c);
+    if (const int asked = fake("fakeCacheAsked"); asked != asks)
+        c.fail("asks " + std::to_string(asked) + " times, not " + std::to_string(asks));
+    return c.verdict();
+}
+
+struct Answer {
+    int size;
+    StatusCode status;
+};
+const Answer answers[] = {{1, STATUS_OK}, {600000, STATUS_OK}, {INT_MAX, STATUS_OK}, {1, STATUS_NO_OPERATION}};
+
+TEST(Streaming, AsksFromItsThresholdOn) {
+    int asking = 0;
+    for (const Member& m : members()) {
+        const int64_t bytes = bytesPerPixel(m);
+        if (bytes == 0 || (!options.only.empty() && m.name != options.only)) continue;
+        ++asking;
+        const int64_t enough = (askFrom + bytes - 1) / bytes;
+        for (const Answer& answer : answers) {
+            fake("fakeCacheSize") = answer.size;
+            fake("fakeCacheStatus") = answer.status;
+            EXPECT_EQ(check(m, enough - 1, 1, 1, 0), "");
+            EXPECT_EQ(check(m, enough, 1, 2, 1), "");
+            EXPECT_EQ(check(m, enough / 7 + 1, 7, 3, 1), "");
+        }
+    }
+    // Set C1 C3 C4; planar copies in both directions of 3 and 4 planes, of which bytes ask in one.
+    EXPECT_TRUE(asking == 3 * 5 + 4 * 4 + 1 || !options.only.empty()) << asking;
+}
+
+TEST(Streaming, OthersNeverAsk) {
+    fake("fakeCacheStatus") = STATUS_OK;
+    for (const Member& m : members()) {
+        if (!m.family->bulk || bytesPerPixel(m) || (!options.only.empty() && m.name != options.only)) continue;
+        fake("fakeCacheSize") = 1;
+        const int64_t rowBytes = 300 * bytesOf(m.destination) * std::max(m.from.channels, m.to.channels);
+        EXPECT_EQ(check(m, 300, askFrom / rowBytes + 1, 4, 0), "");
+    }
+}
+
+// Results do not show which stores were taken; the rule that decides is asked itself.
+TEST(Streaming, Rule) {
+    for (const Answer& answer : answers) {
+        fake("fakeCacheSize") = answer.size;
+        fake("fakeCacheStatus") = answer.status;
+        for (const int64_t bytes : {askFrom - 1, askFrom, int64_t(599999), int64_t(600000), int64_t(INT_MAX)})
+            EXPECT_EQ(zmv::writesPastCache(bytes),
+                      answer.status == STATUS_OK && bytes >= askFrom && bytes >= answer.size)
+                << bytes << " bytes, cache " << answer.size;
+    }
+}
+
+}  // namespace
+
+StatusCode zmvGetMaxCacheSizeB(int* sizeBytes) {
+    using Ask = StatusCode (*)(int*);
+    return reinterpret_cast<Ask>(dlsym(fakeCore(), "zmvGetMaxCacheSizeB"))(sizeBytes);
+}

@@ -1,0 +1,333 @@
+// zmviFilterBoxBorder, zmviSumWindow, their size queries, zmviSumWindowRow, zmviSumWindowColumn, zmviFilterBox.
+#include "filter/box.h"
+
+#include <climits>
+#include <cmath>
+#include <limits>
+
+namespace test {
+
+__int128 boxBufferSize(int64_t w, int64_t h, int64_t mw, int64_t mh, Element element, int channels) {
+    using Wide = __int128;
+    const Reach reach(mw, mh);
+    const Wide n = channels, bytes = bytesOf(element), ew = Wide(w) + mw - 1, eh = Wide(h) + mh - 1;
+    const Wide bands =
+        (mh == 2 ? ew : 0) + (mw == 2 ? eh : 0) + 2 * ((mw + reach.right - 1) * eh + (mh + reach.bottom - 1) * ew);
+    const Wide sums = (Wide(w) + mw + 3) * (channels == 1 ? 4 : 16);
+    Wide pixels = n * w * bytes * (reach.top + 1) + 64;
+    const bool inner = w - reach.left - reach.right > mw && h - reach.top - reach.bottom > mh;
+    if (!inner) pixels = std::max(pixels, ew * eh * n * bytes);
+    return std::max(4 * n * bands, bands) + sums + pixels + (reach.top + 1) * 8;
+}
+
+int64_t behindBorder(int64_t x, int64_t n, int word, bool memoryBefore, bool memoryBehind) {
+    if ((x >= 0 && x < n) || (x < 0 ? memoryBefore : memoryBehind)) return x;
+    if ((word & 15) == BORDER_CONST) return INT64_MIN;
+    if ((word & 15) == BORDER_REPL || n == 1) return x < 0 ? 0 : n - 1;
+    const int64_t period = 2 * n - 2, p = ((x % period) + period) % period;
+    return p < n ? p : period - p;
+}
+
+}  // namespace test
+
+namespace {
+
+using namespace test;
+
+const std::map<int64_t, Element> dataTypes = {{DATATYPE_8U, Element::u8},
+                                              {DATATYPE_16U, Element::u16},
+                                              {DATATYPE_16S, Element::s16},
+                                              {DATATYPE_32F, Element::f32}};
+
+// Size queries.
+
+void arrangeQuery(Case& c) {
+    // Everyday sizes; and any magnitude, so that many totals lie near what an int can hold.
+    const bool everyday = c.mode == Mode::controls || c.rng.oneIn(3);
+    const auto length = [&] {
+        return everyday ? c.rng.between(1, 60) : int(c.rng.next() % INT_MAX >> c.rng.below(31)) + c.rng.below(2);
+    };
+    const auto positiveLength = [&] { return std::max(1, c.rng.oneIn(30) ? INT_MAX : length()); };
+    c.arg("roiSize") = {positiveLength(), positiveLength()};
+    c.arg("maskSize") = {positiveLength(), positiveLength()};
+    c.arg("dataType") = std::next(dataTypes.begin(), c.rng.below(4))->first;
+    const int channels[] = {1, 3, 4};
+    c.arg("numChannels") = channels[c.rng.below(3)];
+    c.place("pBufferSize", 1, 1);
+}
+
+void answerQuery(Case& c) {
+    const Slot roi = c.arg("roiSize"), mask = c.arg("maskSize");
+    const __int128 size =
+        boxBufferSize(roi.a, roi.b, mask.a, mask.b, dataTypes.at(c.arg("dataType").a), int(c.arg("numChannels").a));
+    if (size > INT_MAX)
+        c.expected = STATUS_SIZE_EXCEEDS_INT;
+    else
+        c.set(c.image("pBufferSize"), 0, 0, 0, int(size));
+}
+
+Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
+    Check check{status, {}};
+    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
+    return check;
+}
+const std::vector<Check> queryRefusals = {
+    pointers({"pBufferSize"}),
+    sizes({"roiSize"}),
+    sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
+    values("dataType", STATUS_BAD_DATATYPE, {0, 2, 19, -1, 6, 257}),
+    values("numChannels", STATUS_BAD_CHANNELS, {0, 2, 5, -1, 257}),
+    {STATUS_SIZE_EXCEEDS_INT, {{"roiSize", Break::width, INT_MAX}, {"maskSize", Break::height, INT_MAX}}}};
+
+// Windows with a border.
+
+void arrangeWindow(Case& c) {
+    int64_t w = c.width, h = c.height, mw = c.rng.between(1, 6), mh = c.rng.between(1, 6);
+    const bool tall = c.rng.oneIn(3);  // room for bands and an inner part
+    if (tall) h = c.rng.between(6, 24);
+    switch (c.rng.below(10)) {
+        case 0:
+            mw = 1;
+            break;
+        case 1:
+            mh = 1;
+            break;
+        case 2:
+        case 3:
+            mw = c.rng.between(1, 40), mh = c.rng.between(1, 30);
+            break;
+        case 4:
+            mw = c.width + c.rng.between(0, 5);
+            break;
+    }
+    const bool huge = c.mode == Mode::usual && c.rng.oneIn(40);  // sums beyond 2^32
+    if (huge)
+        w = c.rng.between(1, 4), h = c.rng.between(1, 3), mw = c.rng.between(200, 330), mh = c.rng.between(200, 330);
+    if (c.mode == Mode::far) h = 4, mh = c.rng.between(1, 3);
+
+    const int rules[] = {BORDER_REPL, BORDER_MIRROR, BORDER_CONST};
+    int word = rules[c.rng.below(3)];
+    if (c.rng.oneIn(2)) word |= 16 * c.rng.below(16);
+    if (c.rng.oneIn(12)) word = BORDER_IN_MEM;
+    if (c.mode == Mode::controls) word |= BORDER_CONST, word &= ~(BORDER_REPL);  // so that every check can fail
+    const Reach reach(mw, mh);
+    const auto readable = [&](int flag, int64_t pixels) { return word & flag ? pixels : 0; };
+    c.place("src", w, h,
+            {readable(BORDER_IN_MEM_LEFT, reach.left), readable(BORDER_IN_MEM_RIGHT, reach.right),
+             readable(BORDER_IN_MEM_TOP, reach.top), readable(BORDER_IN_MEM_BOTTOM, reach.bottom)});
+    const bool inPlace = c.member.source == c.member.destination && c.mode == Mode::usual && c.rng.oneIn(4);
+    inPlace ? c.alias("dst", "src") : void(c.place("dst", w, h));
+    if ((word & 15) == BORDER_CONST)
+        c.placeValue("borderValue", c.member.to.used());
+    else
+        c.arg("borderValue") = nullptr;
+    if (c.member.source == Element::f32) {
+        fillFloats<float>(c, c.image("src"));
+        if (c.hasImage("borderValue")) fillFloats<float>(c, c.image("borderValue"));
+    } else if (huge || c.rng.oneIn(8)) {  // the largest sums
+        const Image& src = c.image("src");
+        withElement(src.element, [&](auto zero) {
+            using T = decltype(zero);
+            const T most = c.rng.oneIn(4) ? std::numeric_limits<T>::min() : std::numeric_limits<T>::max();
+            for (int64_t y = -src.readable.top; y < h + src.readable.bottom; ++y)
+                for (int64_t x = -src.readable.left; x < w + src.readable.right; ++x)
+                    for (int k = 0; k < src.channels; ++k) c.set(src, x, y, k, most);
+        });
+    }
+    c.arg("roiSize") = {w, h};
+    c.arg("maskSize") = {mw, mh};
+    c.arg("borderType") = word;
+    c.placeBuffer("buffer", int64_t(boxBufferSize(w, h, mw, mh, c.member.source, c.member.to.channels)));
+}
+
+// The mean of an integer window: each step in single precision, as the contract has it.
+template <class T>
+T mean(int64_t sum, int64_t area) {
+    const float reciprocal = float(1.0L / area);
+    const float product = float(sum) * reciprocal;
+    const float raised = product + 0.5f;
+    return T(std::is_signed_v<T> ? std::floor(raised) : std::trunc(raised));
+}
+template <class D>
+D sumOf(int64_t sum) {
+    if constexpr (std::is_integral_v<D>)
+        return D(std::min<int64_t>(sum, INT32_MAX));
+    else
+        return D(sum);
+}
+
+// Exact column sums, then sums along the row.
+template <class T, class D>
+void integerWindows(Case& c, bool wantsMean) {
+    const Image &src = c.image("src"), &dst = c.image("dst");
+    const int64_t mw = c.arg("maskSize").a, mh = c.arg("maskSize").b;
+    const Reach reach(mw, mh);
+    const Extended<T> pixel{c, src};
+    std::vector<D> results;
+    for (int k = 0; k < c.member.to.used(); ++k)
+        for (int64_t y = 0; y < src.height; ++y) {
+            std::vector<int64_t> before = {0};  // sums of all columns before each
+            for (int64_t x = -reach.left; x < src.width + reach.right; ++x) {
+                int64_t column = 0;
+                for (int64_t i = 0; i < mh; ++i) column += pixel(x, y - reach.top + i, k);
+                before.push_back(before.back() + column);
+            }
+            for (int64_t x = 0; x < src.width; ++x) {
+                const int64_t sum = before[size_t(x + mw)] - before[size_t(x)];
+                results.push_back(wantsMean ? D(mean<T>(sum, mw * mh)) : sumOf<D>(sum));
+            }
+        }
+    const D* next = results.data();  // in place, sources are needed until the last sum
+    for (int k = 0; k < c.member.to.used(); ++k)
+        for (int64_t y = 0; y < src.height; ++y)
+            for (int64_t x = 0; x < src.width; ++x) c.set(dst, x, y, k, *next++);
+}
+
+void floatWindows(Case& c, bool wantsMean) {
+    const Image &src = c.image("src"), &dst = c.image("dst");
+    const int64_t mw = c.arg("maskSize").a, mh = c.arg("maskSize").b;
+    const Reach reach(mw, mh);
+    const Extended<float> pixel{c, src};
+    for (int k = 0; k < c.member.to.used(); ++k)
+        for (int64_t y = 0; y < src.height; ++y) {
+            std::vector<SumJudge<float>> columns(size_t(src.width + mw - 1));
+            for (int64_t x = 0; x < src.width + mw - 1; ++x)
+                for (int64_t j = -reach.top; j <= reach.bottom; ++j)
+                    columns[size_t(x)].add(pixel(x - reach.left, y + j, k));
+            for (int64_t x = 0; x < src.width; ++x) {
+                SumJudge<float> judge;
+                for (int64_t i = 0; i < mw; ++i) judge.add(columns[size_t(x + i)]);
+                const float result = c.result<float>(dst, x, y, k), only = pixel(x, y, k);
+                const bool copy = mw * mh == 1 && !std::isnan(only) && result != only;
+                if (copy || !judge.accepts(result, wantsMean ? 1.0L / (mw * mh) : 1.0L))
+                    return c.fail("dst: channel " + std::to_string(k) + " of pixel " + std::to_string(x) + " of row " +
+                                  std::to_string(y) + " is " + std::to_string(result) +
+                                  ", too far from the exact value");
+            }
+        }
+    // Right as they are: what is left to compare is everything else.
+    for (int k = 0; k < c.member.to.used(); ++k)
+        for (int64_t y = 0; y < src.height; ++y)
+            for (int64_t x = 0; x < src.width; ++x) c.set(dst, x, y, k, c.result<float>(dst, x, y, k));
+}
+
+template <bool wantsMean>
+void judgeWindow(Case& c) {
+    switch (c.member.source) {
+        case Element::u8:
+            return c.member.destination == Element::u8 ? integerWindows<uint8_t, uint8_t>(c, wantsMean)
+                                                       : integerWindows<uint8_t, int32_t>(c, wantsMean);
+        case Element::u16:
+            return c.member.destination == Element::u16 ? integerWindows<uint16_t, uint16_t>(c, wantsMean)
+                                                        : integerWindows<uint16_t, float>(c, wantsMean);
+        case Element::s16:
+            return c.member.destination == Element::s16 ? integerWindows<int16_t, int16_t>(c, wantsMean)
+                                                        : integerWindows<int16_t, float>(c, wantsMean);
+        default:
+            return floatWindows(c, wantsMean);
+    }
+}
+
+const std::vector<Check> windowRefusals = {
+    pointers({"src", "dst", "buffer"}),
+    positive({"srcStep", "dstStep"}, STATUS_BAD_STEP),
+    sizes({"roiSize"}),
+    sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
+    values("borderType", STATUS_BAD_BORDER, {0, 2, 4, 5, 7, 15, 16, 18, 224, 239, 242, 256, 257, -1, INT_MIN + 1}),
+    pointers({"borderValue"})};
+
+// Sums along a row or a column.
+
+void arrangeLine(Case& c) {
+    const bool row = c.member.name.find("Row_") != std::string::npos;
+    int64_t w = c.width, h = c.height, mask = c.rng.between(1, 20);
+    if (c.rng.oneIn(8)) mask = c.rng.between(250, 300);
+    if (c.mode == Mode::usual && c.rng.oneIn(64)) mask = 70000, w = c.rng.between(1, 3), h = c.rng.between(1, 3);
+    if (c.mode == Mode::far) mask = c.rng.between(1, row ? 20 : 3);
+    const int64_t anchor = c.rng.below(int(mask)), after = mask - 1 - anchor;
+    c.place("src", w, h, row ? Margins{anchor, after, 0, 0} : Margins{0, 0, anchor, after});
+    c.rowsApart = true;  // results may be written column by column
+    c.place("dst", w, h);
+    if (c.mode == Mode::usual && c.rng.oneIn(16)) {  // no error: nothing to do
+        (c.rng.oneIn(2) ? w : h) = -c.rng.below(3);
+    }
+    c.arg("roiSize") = {w, h};
+    c.arg("maskSize") = mask;
+    c.arg("anchor") = anchor;
+}
+
+template <bool row>
+void sumLines(Case& c) {
+    const Image &src = c.image("src"), &dst = c.image("dst");
+    const int64_t mask = c.arg("maskSize").a, anchor = c.arg("anchor").a;
+    withElement(src.element, [&](auto zero) {
+        using T = decltype(zero);
+        for (int64_t y = 0; y < c.arg("roiSize").b; ++y)
+            for (int64_t x = 0; x < c.arg("roiSize").a; ++x)
+                for (int k = 0; k < src.channels; ++k) {
+                    int64_t sum = 0;
+                    for (int64_t i = -anchor; i < mask - anchor; ++i)
+                        sum += int64_t(row ? c.get<T>(src, x + i, y, k) : c.get<T>(src, x, y + i, k));
+                    c.set(dst, x, y, k, float(sum));
+                }
+    });
+}
+
+const std::vector<Check> lineRefusals = {pointers({"src", "dst"}), positive({"maskSize"}, STATUS_BAD_MASK_SIZE),
+                                         values("anchor", STATUS_BAD_ANCHOR, {-1, INT_MIN, 1 << 20, INT_MAX})};
+
+// The mean in double precision, its neighbourhood in the caller's memory.
+
+void arrangeBox64f(Case& c) {
+    const int64_t mw = c.rng.between(1, 9), mh = c.rng.between(1, c.mode == Mode::far ? 3 : 9);
+    const int64_t ax = c.rng.below(int(mw)), ay = c.rng.below(int(mh));
+    c.place("src", c.width, c.height, {ax, mw - 1 - ax, ay, mh - 1 - ay});
+    c.place("dst", c.width, c.height);
+    fillFloats<double>(c, c.image("src"));
+    c.arg("roiSize") = {c.width, c.height};
+    c.arg("maskSize") = {mw, mh};
+    c.arg("anchor") = {ax, ay};
+}
+
+void judgeBox64f(Case& c) {
+    const Image &src = c.image("src"), &dst = c.image("dst");
+    const Slot mask = c.arg("maskSize"), anchor = c.arg("anchor");
+    for (int64_t y = 0; y < c.height; ++y)
+        for (int64_t x = 0; x < c.width; ++x) {
+            SumJudge<double> judge;
+            for (int64_t j = 0; j < mask.b; ++j)
+                for (int64_t i = 0; i < mask.a; ++i) judge.add(c.get<double>(src, x - anchor.a + i, y - anchor.b + j));
+            const double result = c.result<double>(dst, x, y);
+            if (!judge.accepts(result, 1.0L / (mask.a * mask.b)))
+                c.fail("dst: pixel " + std::to_string(x) + " of row " + std::to_string(y) + " is " +
+                       std::to_string(result) + ", too far from the exact value");
+            c.set(dst, x, y, 0, result);
+        }
+}
+
+const std::vector<Check> box64fRefusals = {pointers({"src", "dst"}),
+                                           sizes({"roiSize"}),
+                                           sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
+                                           {STATUS_BAD_ANCHOR,
+                                            {{"anchor", Break::width, -1},
+                                             {"anchor", Break::height, -1},
+                                             {"anchor", Break::width, 1 << 20},
+                                             {"anchor", Break::height, 1 << 20}}},
+                                           positive({"srcStep", "dstStep"}, STATUS_BAD_STEP)};
+
+}  // namespace
+
+extern const Family test_zmviFilterBoxBorderGetBufferSize = {
+    .arrange = arrangeQuery, .oracle = answerQuery, .ladder = queryRefusals};
+extern const Family test_zmviSumWindowGetBufferSize = {
+    .arrange = arrangeQuery, .oracle = answerQuery, .ladder = queryRefusals};
+extern const Family test_zmviFilterBoxBorder = {
+    .arrange = arrangeWindow, .oracle = judgeWindow<true>, .ladder = windowRefusals, .rounds = true};
+extern const Family test_zmviSumWindow = {
+    .arrange = arrangeWindow, .oracle = judgeWindow<false>, .ladder = windowRefusals, .rounds = true};
+extern const Family test_zmviSumWindowRow = {
+    .arrange = arrangeLine, .oracle = sumLines<true>, .steps = Steps::any, .ladder = lineRefusals, .rounds = true};
+extern const Family test_zmviSumWindowColumn = {
+    .arrange = arrangeLine, .oracle = sumLines<false>, .steps = Steps::any, .ladder = lineRefusals, .rounds = true};
+extern const Family test_zmviFilterBox = {
+    .arrange = arrangeBox64f, .oracle = judgeBox64f, .ladder = box64fRefusals, .rounds = true};

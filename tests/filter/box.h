@@ -1,0 +1,87 @@
+// What the tests of the box filter and of window sums share.
+#pragma once
+
+#include <cmath>
+#include <limits>
+
+#include "harness/case.h"
+
+namespace test {
+
+// The size of the work buffer that the contract promises; above INT_MAX it is refused.
+__int128 boxBufferSize(int64_t w, int64_t h, int64_t mw, int64_t mh, Element element, int channels);
+
+// The pixels round (x, y) that a mask covers.
+struct Reach {
+    int64_t left, top, right, bottom;
+    Reach(int64_t mw, int64_t mh)
+        : left((mw - 1) >> 1), top((mh - 1) >> 1), right(mw - 1 - left), bottom(mh - 1 - top) {}
+};
+
+// The column (or row) that stands for x beyond a region of n; INT64_MIN for the constant.
+int64_t behindBorder(int64_t x, int64_t n, int word, bool memoryBefore, bool memoryBehind);
+
+// Pixel values of the extended region, as the border word says.
+template <class T>
+struct Extended {
+    Case& c;
+    const Image& src;
+    const int word = int(c.arg("borderType").a);
+    const Image* constant = c.hasImage("borderValue") ? &c.image("borderValue") : nullptr;
+
+    T operator()(int64_t x, int64_t y, int channel) const {
+        x = behindBorder(x, src.width, word, word & BORDER_IN_MEM_LEFT, word & BORDER_IN_MEM_RIGHT);
+        y = behindBorder(y, src.height, word, word & BORDER_IN_MEM_TOP, word & BORDER_IN_MEM_BOTTOM);
+        if (x == INT64_MIN || y == INT64_MIN) return c.get<T>(*constant, 0, 0, channel);
+        return c.get<T>(src, x, y, channel);
+    }
+};
+
+// Floats of one magnitude or of many, in some cases with NaNs and infinities here and there.
+template <class T>
+void fillFloats(Case& c, const Image& image) {
+    const bool wide = c.rng.oneIn(2), special = c.rng.oneIn(4);
+    for (int64_t y = -image.readable.top; y < image.height + image.readable.bottom; ++y)
+        for (int64_t x = -image.readable.left; x < image.width + image.readable.right; ++x)
+            for (int k = 0; k < image.channels; ++k) {
+                T value = T(c.rng.between(-1000000, 1000000)) / 1024;
+                if (wide) value = std::ldexp(value, c.rng.between(-20, 20));
+                if (special && c.rng.oneIn(150)) {
+                    const T specials[] = {T(NAN), T(INFINITY), -T(INFINITY), T(-0.0),
+                                          std::numeric_limits<T>::denorm_min()};
+                    value = specials[c.rng.below(5)];
+                }
+                c.set(image, x, y, k, value);
+            }
+}
+
+// Judges the sum of a window, times scale, against exact arithmetic: as accurate as adding one by one in T, with NaN
+// and infinity where the window has them.  Returns what is wrong, or nothing.
+template <class T>
+class SumJudge {
+  public:
+    void add(T x) {
+        sum_ += x;
+        magnitude_ += std::fabs(static_cast<long double>(x));
+        ++count_;
+    }
+    void add(const SumJudge& other) {
+        sum_ += other.sum_;
+        magnitude_ += other.magnitude_;
+        count_ += other.count_;
+    }
+    bool accepts(T result, long double scale) const {
+        if (std::isnan(sum_)) return std::isnan(result);
+        if (std::isinf(sum_)) return result == T(sum_);
+        constexpr long double unit = std::numeric_limits<T>::epsilon() / 2;
+        const long double slack =
+            ((long double)(count_ + 3) * unit * magnitude_) * scale + std::numeric_limits<T>::min();
+        return std::fabs(result - sum_ * scale) <= slack;
+    }
+
+  private:
+    long double sum_ = 0, magnitude_ = 0;
+    int64_t count_ = 0;
+};
+
+}  // namespace test

@@ -1,0 +1,205 @@
+// The call of a case, and what is said about it.
+#include <gtest/gtest.h>
+#include <pmmintrin.h>
+#include <setjmp.h>
+#include <signal.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "harness/case.h"
+
+namespace test {
+namespace {
+
+// A fault inside a call ends the call, not the tests.
+sigjmp_buf faultReturn;
+volatile sig_atomic_t calling = 0;
+volatile int faultSignal;
+void* volatile faultAddress;
+
+void onFault(int signal, siginfo_t* info, void*) {
+    if (calling) {
+        calling = 0;
+        faultSignal = signal;
+        faultAddress = info->si_addr;
+        siglongjmp(faultReturn, 1);
+    }
+    // Not the library: die as usual.
+    ::signal(signal, SIG_DFL);
+    raise(signal);
+}
+
+void catchFaults() {
+    static const bool once = [] {
+        struct sigaction action = {};
+        action.sa_sigaction = onFault;
+        action.sa_flags = SA_SIGINFO | SA_NODEFER;
+        for (int signal : {SIGSEGV, SIGBUS, SIGILL, SIGFPE}) sigaction(signal, &action, nullptr);
+        return true;
+    }();
+    (void)once;
+}
+
+uint16_t x87Control() {
+    uint16_t word;
+    __asm__ volatile("fnstcw %0" : "=m"(word));
+    return word;
+}
+void setX87Control(uint16_t word) { __asm__ volatile("fldcw %0" : : "m"(word)); }
+
+template <class T>
+std::string text(T value) {
+    std::ostringstream out;
+    if constexpr (std::is_floating_point_v<T>) {
+        out.precision(sizeof(T) == 4 ? 9 : 17);
+        uint64_t bits = 0;
+        std::memcpy(&bits, &value, sizeof value);
+        out << value << " (0x" << std::hex << bits << ")";
+    } else {
+        out << int64_t(value);
+    }
+    return out.str();
+}
+
+}  // namespace
+
+std::set<std::string> Case::exercised;
+
+void Case::call() {
+    catchFaults();
+    exercised.insert(member.name);
+    void* const function = library.find(member.name);
+    for (Block& b : blocks_)
+        if (b.size()) std::memcpy(b.live, b.shadow.data(), b.size());
+    const unsigned ourMxcsr = _mm_getcsr();
+    const uint16_t ourX87 = x87Control();
+    volatile unsigned mxcsrAfter = mxcsr_;
+    volatile uint16_t x87After = x87_;
+    if (sigsetjmp(faultReturn, 0) == 0) {
+        calling = 1;
+        setX87Control(x87_);
+        _mm_setcsr(mxcsr_);
+        returned = member.invoke(function, args_.data());
+        mxcsrAfter = _mm_getcsr();
+        x87After = x87Control();
+        calling = 0;
+    }
+    _mm_setcsr(ourMxcsr);
+    setX87Control(ourX87);
+    if (faultSignal) {
+        const std::string what = faultSignal == SIGSEGV || faultSignal == SIGBUS
+                                     ? "touches memory " + nearest(faultAddress)
+                                     : std::string("ends in ") + strsignal(faultSignal);
+        faultSignal = 0;
+        fail(what);
+        return;
+    }
+    constexpr unsigned control = 0xffc0;  // the rest are flags that a call may raise
+    if ((mxcsrAfter ^ mxcsr_) & control) fail("changes the control bits of MXCSR");
+    if (x87After != x87_) fail("changes the x87 control word");
+}
+
+std::string Case::nearest(const void* address) const {
+    const auto at = static_cast<const uint8_t*>(address);
+    for (const auto& [name, i] : images)
+        for (int plane = 0; plane < std::max(1, i.planes); ++plane) {
+            const Block& b = blocks_[i.block[plane]];
+            constexpr int page = 4096;
+            if (at < b.live && b.live - at <= page) return std::to_string(b.live - at) + " bytes before " + name;
+            const uint8_t* end = b.live + b.size();
+            if (at >= end && at - end < page) return std::to_string(at - end) + " bytes behind " + name;
+        }
+    std::ostringstream out;
+    out << "at " << address;
+    return out.str();
+}
+
+std::string Case::whereIs(const Block& block, size_t offset) const {
+    std::string elsewhere;
+    for (const auto& [name, i] : images) {
+        for (int c = 0; c < (i.planes ? i.planes : i.channels); ++c) {
+            if (&blocks_[i.block[i.planes ? c : 0]] != &block) continue;
+            elsewhere = name;
+            for (int64_t y = -i.readable.top; y < i.height + i.readable.bottom; ++y)
+                for (int64_t x = -i.readable.left; x < i.width + i.readable.right; ++x) {
+                    const uint8_t* element = i.at(blocks(), x, y, c);
+                    const size_t start = size_t(element - block.shadow.data());
+                    if (offset < start || offset >= start + size_t(bytesOf(i.element))) continue;
+                    std::ostringstream out;
+                    out << name << ": channel " << c << " of pixel " << x << " of row " << y;
+                    if (i.element == Element::sc32 || i.element == Element::fc32) return out.str();
+                    withElement(i.element, [&](auto zero) {
+                        using T = decltype(zero);
+                        T is, due;
+                        std::memcpy(&is, block.live + start, sizeof is);
+                        std::memcpy(&due, element, sizeof due);
+                        out << " is " << text(is) << ", not " << text(due);
+                    });
+                    return out.str();
+                }
+        }
+    }
+    return "a byte round the pixels of " + (elsewhere.empty() ? "the work buffer" : elsewhere) + " has changed";
+}
+
+std::string Case::difference() const {
+    for (const Block& b : blocks_) {
+        if (b.size() == 0 || std::memcmp(b.live, b.shadow.data(), b.size()) == 0) continue;
+        const size_t offset = size_t(std::mismatch(b.shadow.begin(), b.shadow.end(), b.live).first - b.shadow.begin());
+        return whereIs(b, offset);
+    }
+    return {};
+}
+
+std::string Case::describe() const {
+    std::ostringstream out;
+    out << member.name << " seed=" << seed;
+    for (size_t i = 0; i < args_.size(); ++i) {
+        const Parameter& p = member.params[i];
+        out << ' ' << p.name;
+        if (p.pointer)
+            out << (args_[i].a ? "%64=" + std::to_string(args_[i].a & 63) : "=null");
+        else if (p.type.find("Size") != p.type.npos)
+            out << '=' << args_[i].a << 'x' << args_[i].b;
+        else if (p.type.find("Point") != p.type.npos)
+            out << '=' << args_[i].a << ',' << args_[i].b;
+        else
+            out << '=' << args_[i].a;
+    }
+    return out.str();
+}
+
+std::string Case::verdict() {
+    if (failure_.empty() && returned != expected)
+        failure_ = "returns " + std::to_string(returned) + ", not " + std::to_string(expected);
+    if (failure_.empty()) failure_ = difference();
+    if (failure_.empty()) return {};
+    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
+    return describe() + ": " + failure_ + "   [--build=" + library.build + " --only=" + member.name +
+           " --seed=" + std::to_string(seed) + " --gtest_filter=" + info->test_suite_name() + ".*]";
+}
+
+void Case::acceptMemory() {
+    for (Block& b : blocks_) b.shadow.assign(b.live, b.live + b.size());
+}
+
+void Case::expectMemoryOf(const Case& other) {
+    for (size_t i = 0; i < blocks_.size(); ++i) blocks_[i].shadow = other.blocks_[i].shadow;
+}
+
+std::string runCase(const Member& m, const Library& l, uint64_t seed, Mode mode) {
+    Case c(m, l, seed, mode);
+    m.family->arrange(c);
+    c.call();
+    // Only a call that came back can be judged by the oracle.
+    if (const std::string bad = c.trapped() ? c.verdict() : std::string(); !bad.empty()) return bad;
+    // Under another rounding mode such results have no reference; the control words are what that mode is about.
+    if (mode == Mode::controls && m.family->rounds)
+        c.acceptMemory();
+    else
+        m.family->oracle(c);
+    return c.verdict();
+}
+
+}  // namespace test

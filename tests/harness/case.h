@@ -1,0 +1,109 @@
+// One call of one member: its operands, the call itself, and what came out.
+#pragma once
+
+#include <array>
+#include <map>
+#include <set>
+#include <string>
+
+#include "harness/family.h"
+#include "harness/library.h"
+#include "harness/memory.h"
+
+namespace test {
+
+enum class Mode {
+    usual,     // operands flush against unreadable pages
+    overlap,   // all operands in one block
+    far,       // row * step beyond 2^31
+    bulk,      // megabytes
+    controls,  // any floating-point control words
+};
+
+class Case {
+  public:
+    Case(const Member& m, const Library& l, uint64_t number, Mode how = Mode::usual);
+
+    const Member& member;
+    const Library& library;
+    const uint64_t seed;
+    const Mode mode;
+    Rng rng;
+    int64_t width, height;     // suggested by the seed: widths go round every register size
+    bool allChannels = false;  // of two layouts of different channel counts: every channel takes part, not one
+    bool rowsApart = false;    // images placed from now on have rows that do not overlap
+    int misalignment = 0;      // of the work buffer, to 64 bytes
+
+    Slot& arg(const std::string& name);
+    bool has(const std::string& name) const { return member.find(name) != nullptr; }
+    bool hasImage(const std::string& name) const { return images.count(name) != 0; }
+    Image& image(const std::string& name);
+
+    // Lays out the image of this name and binds its pointer and step.  Where only one channel of many takes part the
+    // pointer is at a random one.
+    Image& place(const std::string& name, int64_t w, int64_t h, Margins readable = {});
+    // The constant argument: elements behind a pointer, or one by value.
+    Image& placeValue(const std::string& name, int count);
+    // Makes an operand the same memory as another.
+    void alias(const std::string& name, const std::string& other);
+    // A work buffer of exactly this size: it ends at an unreadable page, or starts at a chosen misalignment.
+    void placeBuffer(const std::string& name, int64_t bytes);
+
+    // Elements of the shadow: before the call what the operand will hold, after it what the oracle makes of it.
+    template <class T>
+    T get(const Image& i, int64_t x, int64_t y, int c = 0) {
+        T value;
+        std::memcpy(&value, i.at(blocks_, x, y, c), sizeof value);
+        return value;
+    }
+    template <class T>
+    void set(const Image& i, int64_t x, int64_t y, int c, T value) {
+        std::memcpy(i.at(blocks_, x, y, c), &value, sizeof value);
+    }
+    // The element that the library wrote.
+    template <class T>
+    T result(const Image& i, int64_t x, int64_t y, int c = 0) const {
+        const Block& block = blocks_[i.block[i.planes ? c : 0]];
+        T value;
+        std::memcpy(&value, block.live + (i.at(blocks(), x, y, c) - block.shadow.data()), sizeof value);
+        return value;
+    }
+
+    void call();
+    int64_t returned = 0, expected = STATUS_OK;  // the oracle may expect another status
+    void fail(const std::string& what) {
+        if (failure_.empty()) failure_ = what;
+    }
+    // What is wrong, in one line that replays; empty when nothing is.
+    std::string verdict();
+    bool trapped() const { return !failure_.empty(); }
+    std::string difference() const;  // between memory and shadow
+    void acceptMemory();             // whatever it is
+    std::string describe() const;
+    void expectMemoryOf(const Case& other);
+
+    std::map<std::string, std::array<uint8_t*, 4>> planePointers;
+    std::map<std::string, Image> images;
+    static std::set<std::string> exercised;  // members that were called
+
+  private:
+    std::vector<Block>& blocks() const { return const_cast<Case*>(this)->blocks_; }
+    Layout layoutOf(const std::string& name) const;
+    int64_t chooseStep(int64_t rowBytes);
+    size_t newBlock(size_t bytes);
+    void locate(Image& i, int plane, int64_t low, int64_t high);
+    std::string whereIs(const Block& block, size_t offset) const;
+    std::string nearest(const void* address) const;
+
+    std::vector<Block> blocks_;
+    std::vector<Slot> args_;
+    bool extreme_, packed_, flushEnd_;
+    unsigned mxcsr_ = 0x1f80;
+    uint16_t x87_ = 0x37f;
+    std::string failure_;
+};
+
+// Runs one case from arrangement to verdict.
+std::string runCase(const Member& m, const Library& l, uint64_t seed, Mode mode);
+
+}  // namespace test

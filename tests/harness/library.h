@@ -1,0 +1,27 @@
+// The builds under test, opened by path: the tests do not link against the library.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace test {
+
+struct Library {
+    std::string build;  // s3, v3 or v4
+    void* handle = nullptr;
+    void* find(const std::string& name) const;
+};
+
+struct Options {
+    std::string build = "s3", libs, core, only;
+    long seed = -1;  // run this case only
+    long cases = 1;  // multiplies the number of cases
+};
+extern Options options;
+
+bool processorRuns(const std::string& build);
+Library open(const std::string& build);
+const Library& underTest();
+void* fakeCore();  // the core library given by --core, or null
+
+}  // namespace test

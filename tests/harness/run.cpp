@@ -1,0 +1,222 @@
+// The program: every family's members swept, refused, and compared, in the build that --build names.
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "harness/case.h"
+
+namespace test {
+namespace {
+
+bool chosen(const Member& m) { return options.only.empty() || m.name == options.only; }
+
+bool hasStep(const Member& m) {
+    for (const Parameter& p : m.params)
+        if (p.name.size() > 4 && p.name.ends_with("Step")) return true;
+    return false;
+}
+
+bool fits(const Member& m, Mode mode) {
+    if (mode == Mode::overlap) return m.family->overlaps && m.family->overlaps(m);
+    if (mode == Mode::bulk) return m.family->bulk;
+    if (mode == Mode::far) return hasStep(m);
+    return true;
+}
+
+// Runs f(member, seed) for the members of a family, each until its first failure.
+template <class F>
+void eachCase(const Family& family, long cases, F f) {
+    for (const Member& m : members()) {
+        if (m.family != &family || !chosen(m)) continue;
+        const bool replay = options.seed >= 0;
+        for (long seed = replay ? options.seed : 0; seed < (replay ? options.seed + 1 : cases * options.cases); ++seed)
+            if (const std::string bad = f(m, uint64_t(seed)); !bad.empty()) {
+                ADD_FAILURE() << bad;
+                break;
+            }
+    }
+}
+
+void sweep(const Family& family, Mode mode, long cases) {
+    eachCase(family, cases, [&](const Member& m, uint64_t seed) {
+        return fits(m, mode) ? runCase(m, underTest(), seed, mode) : std::string();
+    });
+    if (mode != Mode::usual || options.seed >= 0) return;
+    for (const Member& m : members())
+        EXPECT_TRUE(m.family != &family || !chosen(m) || Case::exercised.count(m.name)) << m.name << " never ran";
+}
+
+bool applies(const Break& b, const Member& m) {
+    const Parameter* p = m.find(b.argument);
+    if (b.part == Break::plane) return p && b.value < p->planes;
+    return p && (p->pointer || b.argument != "value");  // a constant that is passed by value cannot be wrong
+}
+
+void apply(const Break& b, Case& c) {
+    // In 64 bits: a negative value whose lower half is positive, and the largest value of all.
+    int64_t value = b.value;
+    if (c.member.large && value == -1) value = -int64_t(0xffffffff);
+    if (c.member.large && value == INT32_MAX) value = INT64_MAX;
+    if (b.part == Break::width)
+        c.arg(b.argument).a = value;
+    else if (b.part == Break::height)
+        c.arg(b.argument).b = value;
+    else if (b.part == Break::whole)
+        c.arg(b.argument).a = value;
+    else {
+        c.planePointers[b.argument][size_t(value)] = nullptr;
+        c.arg(b.argument) = c.planePointers[b.argument].data();
+    }
+}
+
+// Breaks every precondition in every way, together with every subset of the later ones: the first one's status must
+// come back, with nothing written.
+std::string refuse(const Member& m, uint64_t seed) {
+    std::vector<Check> ladder;
+    for (Check check : m.family->ladder) {
+        std::erase_if(check.breaks, [&](const Break& b) { return !applies(b, m); });
+        if (!check.breaks.empty()) ladder.push_back(check);
+    }
+    Case whole(m, underTest(), seed + 4, Mode::controls);
+    m.family->arrange(whole);
+    for (size_t i = 0; i < ladder.size(); ++i)
+        for (const Break& first : ladder[i].breaks)
+            for (unsigned later = 0; later < 1u << (ladder.size() - i - 1); ++later) {
+                Case c = whole;
+                for (size_t k = i + 1; k < ladder.size(); ++k)
+                    if (later >> (k - i - 1) & 1) {
+                        const std::vector<Break>& breaks = ladder[k].breaks;
+                        apply(breaks[size_t(whole.rng.below(int(breaks.size())))], c);
+                    }
+                apply(first, c);
+                c.expected = ladder[i].status;
+                c.call();
+                if (const std::string bad = c.verdict(); !bad.empty()) return bad;
+            }
+    return {};
+}
+
+// A family's test under a name that --gtest_filter knows.
+class Runs : public testing::Test {
+  public:
+    explicit Runs(std::function<void()> body) : body_(std::move(body)) {}
+    void TestBody() override { body_(); }
+
+  private:
+    std::function<void()> body_;
+};
+void add(const char* suite, const std::string& name, std::function<void()> body) {
+    testing::RegisterTest(suite, name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                          [body]() -> testing::Test* { return new Runs(body); });
+}
+
+void buildsAgree(const std::string& build, const Family& family) {
+    if (!processorRuns(build)) GTEST_SKIP() << "this processor does not run the " << build << " build";
+    static std::map<std::string, Library> opened;
+    if (!opened.count(build)) opened[build] = open(build);
+    eachCase(family, 40, [&](const Member& m, uint64_t seed) {
+        Case ours(m, underTest(), seed), theirs(m, opened[build], seed);
+        for (Case* c : {&ours, &theirs}) {
+            m.family->arrange(*c);
+            c->call();
+            if (c->trapped()) return c->verdict();
+            c->acceptMemory();
+        }
+        // What the first build left is what is due; the other one's results are still in memory.
+        theirs.expected = ours.returned;
+        theirs.expectMemoryOf(ours);
+        return theirs.verdict();
+    });
+}
+
+void registerAll() {
+    for (const auto& [name, family] : families()) {
+        const Family& f = *family;
+        add("Sweep", name, [&f] { sweep(f, Mode::usual, 160); });
+        add("Controls", name, [&f] { sweep(f, Mode::controls, 8); });
+        add("Far", name, [&f] { sweep(f, Mode::far, 3); });
+        if (f.overlaps) add("Overlap", name, [&f] { sweep(f, Mode::overlap, 80); });
+        if (f.bulk) add("Bulk", name, [&f] { sweep(f, Mode::bulk, 1); });
+        if (!f.ladder.empty()) add("Refusals", name, [&f] { eachCase(f, 1, refuse); });
+        for (const char* build : {"v3", "v4"})
+            if (f.status) add("BuildsAgree", build + ("/" + name), [&f, build] { buildsAgree(build, f); });
+    }
+}
+
+void readOptions(int argc, char** argv) {
+    options.libs = ZMV_LIBS;
+    for (int i = 1; i < argc; ++i) {
+        const std::string text = argv[i];
+        const auto value = [&](const char* name) -> const char* {
+            return text.rfind(name, 0) == 0 ? argv[i] + std::strlen(name) : nullptr;
+        };
+        if (const char* v = value("--build="))
+            options.build = v;
+        else if (const char* v = value("--libs="))
+            options.libs = v;
+        else if (const char* v = value("--core="))
+            options.core = v;
+        else if (const char* v = value("--only="))
+            options.only = v;
+        else if (const char* v = value("--seed="))
+            options.seed = std::atol(v);
+        else if (const char* v = value("--cases="))
+            options.cases = std::atol(v);
+        else
+            throw std::runtime_error("what is " + text + "?");
+    }
+}
+
+}  // namespace
+
+Check pointers(std::vector<std::string> names) {
+    Check check{STATUS_NULL_POINTER, {}};
+    for (const std::string& name : names) {
+        check.breaks.push_back({name, Break::whole, 0});
+        for (int plane = 0; plane < 4; ++plane) check.breaks.push_back({name, Break::plane, plane});
+    }
+    return check;
+}
+
+Check sizes(std::vector<std::string> names, StatusCode status) {
+    Check check{status, {}};
+    for (const std::string& name : names)
+        for (const Break::Part part : {Break::width, Break::height})
+            for (const int64_t value : {int64_t(0), int64_t(-1), int64_t(INT32_MIN)})
+                check.breaks.push_back({name, part, value});
+    return check;
+}
+
+Check positive(std::vector<std::string> names, StatusCode status) {
+    Check check{status, {}};
+    for (const std::string& name : names)
+        for (const int64_t value : {int64_t(0), int64_t(-1), int64_t(INT32_MIN)})
+            check.breaks.push_back({name, Break::whole, value});
+    return check;
+}
+
+}  // namespace test
+
+// Faults are ours to catch: a call beyond its operands is a failure with a name, not the end of the run.
+extern "C" const char* __asan_default_options() {
+    return "allocator_may_return_null=1:handle_segv=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0";
+}
+
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    try {
+        test::readOptions(argc, argv);
+        if (!test::processorRuns(test::options.build)) {
+            std::printf("SKIPPED: this processor does not run the %s build\n", test::options.build.c_str());
+            return 77;
+        }
+        test::underTest();
+        test::registerAll();
+    } catch (const std::exception& e) {
+        std::fprintf(stderr, "zmvip_tests: %s\n", e.what());
+        return 2;
+    }
+    return RUN_ALL_TESTS();
+}
