@@ -1,0 +1,87 @@
+#!/bin/bash
+# installed.sh BUILD CC HERE STEP: installs BUILD to a scratch prefix and uses it as a stranger would.
+# Exit status 77 means skipped.
+set -eu
+build=$1 cc=$2 here=$3 step=$4
+scratch=$build/installed
+prefix=$scratch/prefix
+loader=/lib64/ld-linux-x86-64.so.2
+
+# Which build must run here when nothing is masked: the best whose folder the loader itself says it searches.
+best() {
+    local help
+    help=$($loader --help)
+    case $help in
+        *"x86-64-v4 (supported, searched)"*) echo v4 ;;
+        *"x86-64-v3 (supported, searched)"*) echo v3 ;;
+        *) echo s3 ;;
+    esac
+}
+
+# expect BUILD LOADER-ARGUMENTS...: the build that both programs print, found through LD_LIBRARY_PATH by the one and
+# through the RUNPATH that CMake gave it by the other.
+expect() {
+    local wanted=$1 got
+    shift
+    got=$(LD_LIBRARY_PATH=$prefix/lib $loader "$@" "$scratch/by_pkg_config")
+    [ "$got" = "$wanted" ] || { echo "LD_LIBRARY_PATH, $*: build $got runs, not $wanted"; exit 1; }
+    got=$(env -u LD_LIBRARY_PATH $loader "$@" "$scratch/stranger/program")
+    [ "$got" = "$wanted" ] || { echo "RUNPATH, $*: build $got runs, not $wanted"; exit 1; }
+}
+
+expectMasked() {
+    local wanted=$1 mask=$2
+    case $($loader --help) in
+        *"x86-64-$wanted (supported, searched)"*) expect "$wanted" --glibc-hwcaps-mask "$mask" ;;
+        *) echo "skipped: this processor cannot run the $wanted build" && exit 77 ;;
+    esac
+}
+
+case $step in
+    install)
+        rm -rf "$scratch"
+        cmake --install "$build" --prefix "$prefix" >/dev/null
+        ;;
+    tree)
+        diff - <(cd "$prefix" && find . ! -type d | LC_ALL=C sort) <<'TREE'
+./include/zmvcore.h
+./include/zmvip.h
+./include/zmvip_status.h
+./include/zmvip_types.h
+./lib/cmake/zmvip/zmvip-config-version.cmake
+./lib/cmake/zmvip/zmvip-config.cmake
+./lib/glibc-hwcaps/x86-64-v3/libzmvip.so
+./lib/glibc-hwcaps/x86-64-v3/libzmvip.so.1
+./lib/glibc-hwcaps/x86-64-v4/libzmvip.so
+./lib/glibc-hwcaps/x86-64-v4/libzmvip.so.1
+./lib/libzmvcore.so
+./lib/libzmvcore.so.1
+./lib/libzmvip.so
+./lib/libzmvip.so.1
+./lib/pkgconfig/zmvip.pc
+TREE
+        ;;
+    pkg_config)
+        flags=$(PKG_CONFIG_PATH=$prefix/lib/pkgconfig pkg-config --cflags --libs zmvip)
+        # Here and below the flags are a list of words.
+        # shellcheck disable=SC2086
+        $cc -std=c99 -Wall -Wextra -pedantic -Werror "$here/consumer/program.c" $flags -o "$scratch/by_pkg_config"
+        LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config"
+        ;;
+    find_package)
+        cmake -G Ninja -S "$here/consumer" -B "$scratch/stranger" -DCMAKE_PREFIX_PATH="$prefix" \
+              -DCMAKE_C_COMPILER="$cc" >/dev/null
+        cmake --build "$scratch/stranger" >/dev/null
+        "$scratch/stranger/program"
+        ;;
+    absolute_path)
+        # Preloaded by its path, as dlopen would: the loader does not look for better builds, and the baseline is right.
+        got=$(LD_PRELOAD=$prefix/lib/libzmvip.so.1 "$scratch/stranger/program")
+        [ "$got" = s3 ] || { echo "by its absolute path, build $got runs, not s3"; exit 1; }
+        ;;
+    loader.s3) expect s3 --glibc-hwcaps-mask x86-64-v2 ;;
+    loader.v3) expectMasked v3 x86-64-v3 ;;
+    loader.v4) expectMasked v4 x86-64-v4 ;;
+    loader.best) expect "$(best)" ;;
+    *) echo "unknown step $step" && exit 1 ;;
+esac
