@@ -21,7 +21,8 @@ int main() {
         "   An image is a pointer to the first pixel of the region and a step, the distance from row to row in bytes.\n"
         "   Sizes are in pixels.  Names end in the element types (8u 16u 16s 32s 32f 64f), the layout (C1 C3 C4:\n"
         "   channels; AC4: four, of which the last is left alone; P3 P4: planes) and letters: I in place, M masked,\n"
-        "   R region of interest, _L 64-bit sizes.  Functions return STATUS_OK, a negative error (the first check that\n"
+        "   R region of interest, _L 64-bit sizes.  Functions return STATUS_OK, a negative error (the first check "
+        "that\n"
         "   failed; nothing was written) or a positive warning.  Any of them may run in any number of threads that do\n"
         "   not write the same memory.\n"
         "\n"
@@ -36,8 +37,8 @@ int main() {
         "extern \"C\" {\n"
         "#endif");
 
-#define FAMILY(name, module, text, members) \
-    banner(#name, module, text);            \
+#define FAMILY(name, module, text, members)                                                                            \
+    banner(#name, module, text);                                                                                       \
     members
 #define ENTRY_OF(result, name, params, call) PRINT_ENTRY(result, name, params)
 #define PRINT_ENTRY(result, name, params) std::printf("ZMV_API %s %s%s;\n", #result, #name, #params);

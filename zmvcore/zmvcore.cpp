@@ -75,8 +75,8 @@ uint64_t processorFeatures() {
     note(ZMV_FEATURE_AVX2, ymm && has(leaf7.b, 5));
     note(ZMV_FEATURE_FMA, ymm && has(leaf1.c, 12));
     constexpr unsigned f = 16, dq = 17, cd = 28, bw = 30, vl = 31;
-    note(ZMV_FEATURE_AVX512 | ZMV_FEATURE_WIDE_FILTER, zmm && has(leaf7.b, f) && has(leaf7.b, dq) &&
-                                                           has(leaf7.b, cd) && has(leaf7.b, bw) && has(leaf7.b, vl));
+    note(ZMV_FEATURE_AVX512 | ZMV_FEATURE_WIDE_FILTER,
+         zmm && has(leaf7.b, f) && has(leaf7.b, dq) && has(leaf7.b, cd) && has(leaf7.b, bw) && has(leaf7.b, vl));
     return features;
 }
 

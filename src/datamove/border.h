@@ -39,13 +39,17 @@ class PixelRows {
     static T* pixel(T* row, Len x) { return row + x * layout.channels; }
     static void copyPixel(T* dst, const T* src) { std::memcpy(dst, src, sizeof(T) * layout.used()); }
     void copy(T* dst, const T* src, Len width) const {
-        if (layout.alpha) blendRow(dst, fromRow(src), colours_, bytes(width));
-        else copyRow(dst, src, bytes(width));
+        if (layout.alpha)
+            blendRow(dst, fromRow(src), colours_, bytes(width));
+        else
+            copyRow(dst, src, bytes(width));
     }
     void fill(T* dst, const Pattern& values, Len width) const {
         if (width == 0) return;
-        if (layout.alpha) blendRow(dst, fromPattern(values), colours_, bytes(width));
-        else fillRow(dst, values, bytes(width));
+        if (layout.alpha)
+            blendRow(dst, fromPattern(values), colours_, bytes(width));
+        else
+            fillRow(dst, values, bytes(width));
     }
 
   private:
@@ -95,9 +99,8 @@ void extendByRule(const Frame<T, layout>& frame, const Image<const T>* src) {
             for (Len x = frame.src.width; x < frame.src.width + frame.right; ++x) column(x);
         }
     };
-    extend(frame, src, sides, [&](Len y) {
-        rows.copy(frame.wholeRow(y), frame.wholeRow(Rule::at(y, frame.src.height)), frame.width());
-    });
+    extend(frame, src, sides,
+           [&](Len y) { rows.copy(frame.wholeRow(y), frame.wholeRow(Rule::at(y, frame.src.height)), frame.width()); });
 }
 
 template <Layout layout, class T>

@@ -28,7 +28,8 @@ bool overlaps(const Channels<const T, n>& src, const Channels<T, n>& dst, Roi ro
     const auto range = [&](const auto& channels, int c) {
         const auto top = reinterpret_cast<uintptr_t>(channels.row(c, 0));
         const auto bottom = reinterpret_cast<uintptr_t>(channels.row(c, roi.height - 1));
-        return Range{std::min(top, bottom), std::max(top, bottom) + uintptr_t(rowBytes<T>(roi.width, 1, channels.distance))};
+        return Range{std::min(top, bottom),
+                     std::max(top, bottom) + uintptr_t(rowBytes<T>(roi.width, 1, channels.distance))};
     };
     for (int i = 0; i < n; ++i)
         for (int k = 0; k < n; ++k)
@@ -78,7 +79,8 @@ struct ChannelMover {
     };
 
     template <int first, int... v>
-    static ZMV_INLINE void storeAt(T* const* dst, Len x, const Block<V, n>& channels, std::integer_sequence<int, v...>) {
+    static ZMV_INLINE void storeAt(T* const* dst, Len x, const Block<V, n>& channels,
+                                   std::integer_sequence<int, v...>) {
         if constexpr (to == 1) {
             (..., storeLanes<streaming>(dst[v] + x, channels[v], 16));
         } else {
@@ -136,8 +138,8 @@ void moveChannels(const Channels<const T, n>& src, const Channels<T, n>& dst, Ro
             streaming = streaming && (to > 1 || canStream(d[c]));
         }
         streaming = streaming && canStream(d[0]);
-        (streaming ? ChannelMover<n, from, to, true, T>::moveRow
-                   : ChannelMover<n, from, to, false, T>::moveRow)(s, d, roi.width);
+        (streaming ? ChannelMover<n, from, to, true, T>::moveRow : ChannelMover<n, from, to, false, T>::moveRow)(
+            s, d, roi.width);
     }
     if (pastCache) fence();
 }

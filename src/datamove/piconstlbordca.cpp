@@ -17,8 +17,8 @@ void extendByValue(const Frame<T, layout>& frame, const Image<const T>* src, con
 // The value pointer is looked at last, after the geometry.
 template <Layout layout, class T>
 StatusCode ownpi_CopyConstBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, Corner at, const T* value) {
-    if (auto bad = firstOf({pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at),
-                            pointers(value)}))
+    if (auto bad = firstOf(
+            {pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at), pointers(value)}))
         return bad;
     const Image<T> inner = dst.at(at.left * layout.channels, at.top);
     extendByValue<T>(frameOf<layout>(inner, srcRoi, dstRoi, at), &src, value);

@@ -48,7 +48,8 @@ StatusCode ownpi_SetMasked(const T* value, Image<T> dst, Roi roi, Image<const ui
     Block<Vec<T>, layout.channels> planes{};
     for (int c = 0; c < layout.used(); ++c) planes[c] = fill(get(value + c));
     const ConstantSource<T, layout.channels> source{pixelsOf(planes)};
-    writeMasked<layout>(dst, roi, mask, [&](Len) -> const auto& { return source; });
+    writeMasked<layout>(
+        dst, roi, mask, [&](Len) -> const auto& { return source; });
     return STATUS_OK;
 }
 

@@ -15,8 +15,12 @@ namespace zmv {
 struct Window {
     Len width, height, left, top, right, bottom;
     explicit Window(ImageSize mask)
-        : width(mask.width), height(mask.height), left((width - 1) >> 1), top((height - 1) >> 1),
-          right(width - 1 - left), bottom(height - 1 - top) {}
+        : width(mask.width),
+          height(mask.height),
+          left((width - 1) >> 1),
+          top((height - 1) >> 1),
+          right(width - 1 - left),
+          bottom(height - 1 - top) {}
     Len area() const { return width * height; }
 };
 
@@ -52,7 +56,11 @@ class Bands {
     // inPlace: the destination is the source, so that a row must be saved before its result overwrites it.  Filters of
     // floating-point images read each row once; with windows of one row nothing is read after it is overwritten.
     Bands(Image<const T> src, Roi roi, Layout layout, Window window, int word, const T* value, bool inPlace)
-        : src_(src), roi_(roi), window_(window), word_(word), inPlace_(inPlace && (window.height > 1 || !std::is_floating_point_v<T>)) {
+        : src_(src),
+          roi_(roi),
+          window_(window),
+          word_(word),
+          inPlace_(inPlace && (window.height > 1 || !std::is_floating_point_v<T>)) {
         for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = value[c];
     }
 
@@ -106,8 +114,7 @@ class Bands {
     void fillColumns(E* line, const E* constants) const {
         const auto fill = [&](Len from, Len to) {
             for (Len x = from; x < to; ++x)
-                std::memcpy(line + x * n, constant() ? constants : line + mapped(x, roi_.width) * n,
-                            sizeof(E) * n);
+                std::memcpy(line + x * n, constant() ? constants : line + mapped(x, roi_.width) * n, sizeof(E) * n);
         };
         if (!(word_ & BORDER_IN_MEM_LEFT)) fill(-window_.left, 0);
         if (!(word_ & BORDER_IN_MEM_RIGHT)) fill(roi_.width, roi_.width + window_.right);

@@ -16,7 +16,10 @@ inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int data
         return bad;
     using Size = __int128;  // the largest arguments pass 64 bits
     const Window w(mask);
-    const Size width = roi.width, height = roi.height, n = channels, element = wide ? 2 : dataType == DATATYPE_32F ? 4 : 1;
+    const Size width = roi.width, height = roi.height, n = channels,
+               element = wide                       ? 2
+                         : dataType == DATATYPE_32F ? 4
+                                                    : 1;
     const Size extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
     const Size bands = (w.height == 2 ? extendedWidth : 0) + (w.width == 2 ? extendedHeight : 0) +
                        2 * ((w.width + w.right - 1) * extendedHeight + (w.height + w.bottom - 1) * extendedWidth);
@@ -65,7 +68,8 @@ void floatWindows(Bands<float, n>& bands, Image<float> dst, Roi roi, Layout layo
         const Len finished = std::max<Len>(0, y - window.bottom);
         const auto row = bands.row(y, finished);
         bands.eachPart([&](Len column, bool outside, Len count) {
-            copyRow(home + column * n, (outside ? row.outside : row.inside) + column * n, count * n * Len(sizeof(float)));
+            copyRow(home + column * n, (outside ? row.outside : row.inside) + column * n,
+                    count * n * Len(sizeof(float)));
         });
         bands.fillColumns(home, bands.value());
         sumAlong(tree.nextRow(), line, length, window.width, Len(n));
@@ -93,8 +97,10 @@ StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize 
     const bool inPlace = static_cast<const void*>(src.data) == dst.data;
     Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
     const Output output(window);
-    if constexpr (std::is_same_v<T, float>) floatWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
-    else integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+    if constexpr (std::is_same_v<T, float>)
+        floatWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+    else
+        integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
     return STATUS_OK;
 }
 

@@ -65,11 +65,15 @@ class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
     template <int n>
     void putShortRow(uint8_t* dst, const uint16_t* line, Len pixels) const {
         const auto put = [&](auto width) {
-            if (shift_ == 0) putShort<n>(dst, line, pixels * n, width, [](auto v) { return v; });
-            else putShort<n>(dst, line, pixels * n, width, [shift = shift_](auto v) { return v >> shift; });
+            if (shift_ == 0)
+                putShort<n>(dst, line, pixels * n, width, [](auto v) { return v; });
+            else
+                putShort<n>(dst, line, pixels * n, width, [shift = shift_](auto v) { return v >> shift; });
         };
-        if (windowWidth_ <= directWidth) withWidth(windowWidth_, put);
-        else put(windowWidth_);
+        if (windowWidth_ <= directWidth)
+            withWidth(windowWidth_, put);
+        else
+            put(windowWidth_);
     }
 
   private:

@@ -9,12 +9,16 @@ class WindowSum {
   public:
     explicit WindowSum(Window) {}
     void put(D* dst, Vec<int32_t> sums) const {
-        if constexpr (std::is_same_v<D, float>) store(dst, toFloat(sums));
-        else store(dst, sums);
+        if constexpr (std::is_same_v<D, float>)
+            store(dst, toFloat(sums));
+        else
+            store(dst, sums);
     }
     D one(int64_t sum) const {
-        if constexpr (std::is_same_v<D, float>) return float(sum);
-        else return D(std::min<int64_t>(sum, INT32_MAX));
+        if constexpr (std::is_same_v<D, float>)
+            return float(sum);
+        else
+            return D(std::min<int64_t>(sum, INT32_MAX));
     }
 };
 
@@ -41,8 +45,10 @@ StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int
     const WindowSum<T, float> output{Window({maskSize, 1})};
     for (Len y = 0; y < roi.height; ++y) {
         const RowReader<T> reader{src.row(y) - Len(anchor) * n, (roi.width + maskSize - 1) * n};
-        if (wide) putRow<n, true>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
-        else putRow<n, false>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
+        if (wide)
+            putRow<n, true>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
+        else
+            putRow<n, false>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
     }
     return STATUS_OK;
 }
@@ -69,13 +75,14 @@ StatusCode ownpi_SumWindowColumn(Image<const T> src, Image<float> dst, Roi roi, 
     if (nothingToDo(roi)) return STATUS_OK;
     const WindowSum<T, float> output{Window({1, maskSize})};
     if (sumsFit<T>(maskSize, INT32_MAX)) {
-        columnStrips<uint32_t>(src, roi, layout.channels, maskSize, anchor, [&](Len x, Len y, const uint32_t* sums, int count) {
-            putChunk(output, dst.row(y) + x, sums, count);
-        });
+        columnStrips<uint32_t>(
+            src, roi, layout.channels, maskSize, anchor,
+            [&](Len x, Len y, const uint32_t* sums, int count) { putChunk(output, dst.row(y) + x, sums, count); });
     } else {
-        columnStrips<int64_t>(src, roi, layout.channels, maskSize, anchor, [&](Len x, Len y, const int64_t* sums, int count) {
-            for (int i = 0; i < count; ++i) put(dst.row(y) + x + i, output.one(sums[i]));
-        });
+        columnStrips<int64_t>(src, roi, layout.channels, maskSize, anchor,
+                              [&](Len x, Len y, const int64_t* sums, int count) {
+                                  for (int i = 0; i < count; ++i) put(dst.row(y) + x + i, output.one(sums[i]));
+                              });
     }
     return STATUS_OK;
 }

@@ -14,23 +14,26 @@ void sumAlong(T* out, T* row, Len count, Len terms, Len distance) {
     const auto each = [](Len n, auto step) {
         Len i = 0;
         for (; i + lanes<T> <= n; i += lanes<T>)
-            step(i, [](const T* p) { return load(p); }, [](T* p, Vec<T> v) { store(p, v); });
+            step(
+                i, [](const T* p) { return load(p); }, [](T* p, Vec<T> v) { store(p, v); });
         if (const int rest = int(n - i))
-            step(i, [=](const T* p) { return loadPart(p, rest); }, [=](T* p, Vec<T> v) { storePart(p, v, rest); });
+            step(
+                i, [=](const T* p) { return loadPart(p, rest); }, [=](T* p, Vec<T> v) { storePart(p, v, rest); });
     };
     Len done = 0, length = count + (terms - 1) * distance;
     for (Len block = 1; block <= terms; block *= 2) {
         if (terms & block) {
             const T* const from = row + done * distance;
-            if (done == 0) each(count, [&](Len i, auto read, auto write) { write(out + i, read(from + i)); });
-            else each(count, [&](Len i, auto read, auto write) { write(out + i, read(out + i) + read(from + i)); });
+            if (done == 0)
+                each(count, [&](Len i, auto read, auto write) { write(out + i, read(from + i)); });
+            else
+                each(count, [&](Len i, auto read, auto write) { write(out + i, read(out + i) + read(from + i)); });
             done += block;
         }
         if (2 * block > terms) break;
         length -= block * distance;
-        each(length, [&](Len i, auto read, auto write) {
-            write(row + i, read(row + i) + read(row + i + block * distance));
-        });
+        each(length,
+             [&](Len i, auto read, auto write) { write(row + i, read(row + i) + read(row + i + block * distance)); });
     }
 }
 

@@ -30,8 +30,8 @@ ZMV_INLINE auto sumOf(Terms terms, Width width) {
 constexpr int chunkPixels = 64;
 using ChunkSums = uint32_t[chunkPixels * 4 + lanes<uint32_t>];
 
-// to = from + enter - leave for count elements; without leave, to = from + enter.  Lines may be read, but not written, a
-// vector beyond their end: the buffer goes on for at least that.
+// to = from + enter - leave for count elements; without leave, to = from + enter.  Lines may be read, but not written,
+// a vector beyond their end: the buffer goes on for at least that.
 template <class A, class T>
 inline void moveColumns(A* to, const A* from, const T* enter, const T* leave, Len count) {
     if constexpr (sizeof(A) == 8) {  // for masks of more than 2^31 / 65535 rows: no vector of this many widths
@@ -69,7 +69,8 @@ struct RowReader {
     const T* row;
     Len count;
     Vec<uint32_t> at(Len i) const {
-        return i + lanes<uint32_t> <= count ? loadWiden<uint32_t>(row + i) : loadWidenPart<uint32_t>(row + i, int(count - i));
+        return i + lanes<uint32_t> <= count ? loadWiden<uint32_t>(row + i)
+                                            : loadWidenPart<uint32_t>(row + i, int(count - i));
     }
     Vec<uint32_t, 16> fewAt(Len i) const {
         if (i + 4 <= count) return loadWiden<uint32_t, T, 16>(row + i);
@@ -89,9 +90,12 @@ class RowSums {
 
     // The next chunk: the sums of `pixels` pixels.
     void next(uint32_t* sums, int pixels) {
-        if (width_ <= directWidth) direct(sums, pixels * n);
-        else if constexpr (n == 1) running(sums, pixels);
-        else runningPixels(sums, pixels);
+        if (width_ <= directWidth)
+            direct(sums, pixels * n);
+        else if constexpr (n == 1)
+            running(sums, pixels);
+        else
+            runningPixels(sums, pixels);
         done_ += pixels * n;
     }
 

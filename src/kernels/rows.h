@@ -8,9 +8,7 @@
 namespace zmv {
 
 // A region whose rows follow each other without a gap in every image is one long row.
-inline Roi joinRows(Roi roi, bool gapless) {
-    return gapless ? Roi(roi.width * roi.height, 1) : roi;
-}
+inline Roi joinRows(Roi roi, bool gapless) { return gapless ? Roi(roi.width * roi.height, 1) : roi; }
 template <class T>
 bool gapless(Image<T> image, Len width, int channels) {
     return image.step == width * channels * Len(sizeof(T));
@@ -112,8 +110,10 @@ inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
     const Len head = width - Len(reinterpret_cast<uintptr_t>(dst) % width);
     const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + width), pattern.at(head + 2 * width)};
     eachVector(head, bytes, [&](Len at, auto k) {
-        if constexpr (streaming) stream(dst + at, period[k]);
-        else store(dst + at, period[k]);
+        if constexpr (streaming)
+            stream(dst + at, period[k]);
+        else
+            store(dst + at, period[k]);
     });
     store(dst + bytes - width, pattern.at(bytes - width));
 }

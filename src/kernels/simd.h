@@ -81,12 +81,19 @@ ZMV_INLINE bool canStream(const void* p) { return reinterpret_cast<uintptr_t>(p)
 
 // The first n bytes at p, 0 < n < 16, in the low bytes; the others are zero.  Reads no byte beyond.
 ZMV_INLINE Vec<uint64_t, 16> loadFewBytes(const uint8_t* p, int n) {
-    const auto u64 = [&](int at) { uint64_t x; return std::memcpy(&x, p + at, 8), x; };
-    const auto u32 = [&](int at) { uint32_t x; return std::memcpy(&x, p + at, 4), uint64_t(x); };
+    const auto u64 = [&](int at) {
+        uint64_t x;
+        return std::memcpy(&x, p + at, 8), x;
+    };
+    const auto u32 = [&](int at) {
+        uint32_t x;
+        return std::memcpy(&x, p + at, 4), uint64_t(x);
+    };
     if (n > 8) return Vec<uint64_t, 16>{u64(0), u64(n - 8) >> (8 * (16 - n))};
     if (n == 8) return Vec<uint64_t, 16>{u64(0), 0};
     if (n >= 4) return Vec<uint64_t, 16>{u32(0) | u32(n - 4) << (8 * (n - 4)), 0};
-    return Vec<uint64_t, 16>{uint64_t(p[0]) | uint64_t(p[n >> 1]) << (8 * (n >> 1)) | uint64_t(p[n - 1]) << (8 * (n - 1)), 0};
+    return Vec<uint64_t, 16>{
+        uint64_t(p[0]) | uint64_t(p[n >> 1]) << (8 * (n >> 1)) | uint64_t(p[n - 1]) << (8 * (n - 1)), 0};
 }
 ZMV_INLINE void storeFewBytes(uint8_t* p, Vec<uint64_t, 16> v, int n) {
     uint64_t x = v[0];
@@ -137,27 +144,24 @@ ZMV_INLINE Vec<T, bytes> loadUpTo(const T* p, int n) {
 }
 template <class V>
 ZMV_INLINE void storeUpTo(void* p, V v, int n) {
-    if (n == lanesOf<V>) store(p, v);
-    else storePart(p, v, n);
+    if (n == lanesOf<V>)
+        store(p, v);
+    else
+        storePart(p, v, n);
 }
 
 // Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
 template <class T, int bytes = width>
 ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, int laneStep) {
     if (laneStep == 16) return load<T, bytes>(p);
-    const auto lane = [&](int k) {
-        return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep);
-    };
+    const auto lane = [&](int k) { return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep); };
     if constexpr (bytes == 16) return (Vec<T, 16>)lane(0);
 #if defined(__AVX2__)
-    const auto pair = [&](int k) {
-        return _mm256_inserti128_si256(_mm256_castsi128_si256(lane(k)), lane(k + 1), 1);
-    };
+    const auto pair = [&](int k) { return _mm256_inserti128_si256(_mm256_castsi128_si256(lane(k)), lane(k + 1), 1); };
     if constexpr (bytes == 32) return (Vec<T, 32>)pair(0);
 #endif
 #if defined(__AVX512BW__)
-    if constexpr (bytes == 64)
-        return (Vec<T, 64>)_mm512_inserti64x4(_mm512_castsi256_si512(pair(0)), pair(2), 1);
+    if constexpr (bytes == 64) return (Vec<T, 64>)_mm512_inserti64x4(_mm512_castsi256_si512(pair(0)), pair(2), 1);
 #endif
 }
 template <bool streaming = false, class V>
@@ -165,8 +169,10 @@ ZMV_INLINE void storeLanes(void* p, V v, int laneStep) {
     if (!streaming && laneStep == 16) return store(p, v);
     const auto lane = [&](int k, __m128i x) {
         const auto at = static_cast<uint8_t*>(p) + k * laneStep;
-        if constexpr (streaming) stream(at, (Vec<uint8_t, 16>)x);
-        else store(at, x);
+        if constexpr (streaming)
+            stream(at, (Vec<uint8_t, 16>)x);
+        else
+            store(at, x);
     };
     if constexpr (sizeof(V) == 16) lane(0, (__m128i)v);
 #if defined(__AVX2__)
@@ -236,8 +242,10 @@ ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
         const auto raw = _mm_cvtsi64_si128(loadAs<long long>(p));
         if constexpr (sizeof(T) == 1) return (Vec<To, 16>)_mm_unpacklo_epi8(raw, __m128i{});
         // A signed element goes to the upper half of its lane and comes down with its sign.
-        else if constexpr (sign) return (Vec<To, 16>)_mm_srai_epi32(_mm_unpacklo_epi16(raw, raw), 16);
-        else return (Vec<To, 16>)_mm_unpacklo_epi16(raw, __m128i{});
+        else if constexpr (sign)
+            return (Vec<To, 16>)_mm_srai_epi32(_mm_unpacklo_epi16(raw, raw), 16);
+        else
+            return (Vec<To, 16>)_mm_unpacklo_epi16(raw, __m128i{});
     }
 }
 
@@ -285,19 +293,24 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
     static_assert(sizeof(D) <= 2 && ratio > 1);
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) {
-        if constexpr (sizeof(Element<V>) == 2) return store(p, _mm512_cvtepi16_epi8((__m512i)v));
-        else if constexpr (ratio == 4) return store(p, _mm512_cvtepi32_epi8((__m512i)v));
-        else return store(p, _mm512_cvtepi32_epi16((__m512i)v));
+        if constexpr (sizeof(Element<V>) == 2)
+            return store(p, _mm512_cvtepi16_epi8((__m512i)v));
+        else if constexpr (ratio == 4)
+            return store(p, _mm512_cvtepi32_epi8((__m512i)v));
+        else
+            return store(p, _mm512_cvtepi32_epi16((__m512i)v));
     }
 #endif
 #if defined(__AVX2__)
     if constexpr (sizeof(V) == 32) {
         const auto low = _mm256_castsi256_si128((__m256i)v), high = _mm256_extracti128_si256((__m256i)v, 1);
         if constexpr (sizeof(Element<V>) == 2) return store(p, _mm_packus_epi16(low, high));
-        const auto words = _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)),
-                                            _mm_and_si128(high, _mm_set1_epi32(0xffff)));
-        if constexpr (ratio == 4) _mm_storeu_si64(p, _mm_packus_epi16(words, words));
-        else store(p, words);
+        const auto words =
+            _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)), _mm_and_si128(high, _mm_set1_epi32(0xffff)));
+        if constexpr (ratio == 4)
+            _mm_storeu_si64(p, _mm_packus_epi16(words, words));
+        else
+            store(p, words);
         return;
     }
 #endif

@@ -106,9 +106,12 @@ struct FourVectors {
 // Odd elements in even places; what is left in odd places is not used.
 template <class V>
 ZMV_INLINE V oddToEven(V v) {
-    if constexpr (sizeof(Element<V>) == 1) return (V)((Vec<uint16_t, sizeof(V)>)v >> 8);
-    else if constexpr (sizeof(Element<V>) == 2) return (V)((Vec<uint32_t, sizeof(V)>)v >> 16);
-    else return (V)((Vec<uint64_t, sizeof(V)>)v >> 32);
+    if constexpr (sizeof(Element<V>) == 1)
+        return (V)((Vec<uint16_t, sizeof(V)>)v >> 8);
+    else if constexpr (sizeof(Element<V>) == 2)
+        return (V)((Vec<uint32_t, sizeof(V)>)v >> 16);
+    else
+        return (V)((Vec<uint64_t, sizeof(V)>)v >> 32);
 }
 
 // n vectors that are the planes of a block of pixels, or its pixels.
@@ -231,8 +234,10 @@ ZMV_INLINE V inMemoryOrder(const Block<V, n>& block) {
 template <int n, bool streaming = false, class T>
 ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
     const auto put = [&]<int... v>(std::integer_sequence<int, v...>) {
-        if constexpr (n == 1 || width == 16) (..., storeLanes<streaming>(p + v * lanes<T>, block[v], 16));
-        else (..., storeLanes<streaming>(p + v * lanes<T>, inMemoryOrder<n, v>(block), 16));
+        if constexpr (n == 1 || width == 16)
+            (..., storeLanes<streaming>(p + v * lanes<T>, block[v], 16));
+        else
+            (..., storeLanes<streaming>(p + v * lanes<T>, inMemoryOrder<n, v>(block), 16));
     };
     put(std::make_integer_sequence<int, n>{});
 }
@@ -242,8 +247,10 @@ template <class T>
 ZMV_INLINE Vec<T> loadFirstOfFour(const T* p) {
     using V = Vec<T>;
     const auto packed = even(even(load(p), load(p + lanes<T>)), even(load(p + 2 * lanes<T>), load(p + 3 * lanes<T>)));
-    if constexpr (width == 16) return packed;
-    else return (V)permute<FourVectors<Vec<uint32_t>>>((Vec<uint32_t>)packed, (Vec<uint32_t>)packed);
+    if constexpr (width == 16)
+        return packed;
+    else
+        return (V)permute<FourVectors<Vec<uint32_t>>>((Vec<uint32_t>)packed, (Vec<uint32_t>)packed);
 }
 
 }  // namespace zmv

@@ -1,12 +1,13 @@
 // Which functions ask the core library for the cache size, and from which amount of bytes on.  Runs with the core
 // library that --core names; results must be right whatever it answers.
+#include "core/streaming.h"
+
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <stdexcept>
 
-#include "core/streaming.h"
 #include "harness/case.h"
 
 namespace {
