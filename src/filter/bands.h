@@ -39,8 +39,9 @@ inline StatusCode borderValue(int word, const void* value) {
 class Scratch {
   public:
     explicit Scratch(uint8_t* buffer) : next_(buffer) {}
-    template <class T>
+    template <class T, int alignment = 1>
     T* take(Len count) {
+        next_ += -reinterpret_cast<uintptr_t>(next_) % alignment;
         T* const piece = reinterpret_cast<T*>(next_);
         next_ += count * Len(sizeof(T));
         return piece;
@@ -119,7 +120,14 @@ class Bands {
         if (!(word_ & BORDER_IN_MEM_LEFT)) fill(-window_.left, 0);
         if (!(word_ & BORDER_IN_MEM_RIGHT)) fill(roi_.width, roi_.width + window_.right);
     }
+    // The column in memory that stands for column x, or none for the constant.
+    static constexpr Len none = INT64_MIN;
+    Len column(Len x) const {
+        if (x >= firstColumn() && x < endColumn()) return x;
+        return constant() ? none : mapped(x, roi_.width);
+    }
     const T* value() const { return value_; }
+    bool inPlace() const { return inPlace_; }
 
   private:
     bool constant() const { return (word_ & 15) == BORDER_CONST; }

@@ -1,6 +1,7 @@
 // The bordered window operations, box filter and window sums: one driver, with the result as a parameter.
 #pragma once
 
+#include "filter/mean3x3.h"
 #include "filter/tree.h"
 #include "filter/windows.h"
 
@@ -39,6 +40,11 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
     const Pattern colours = Pattern::mask<D>(layout.used(), n);
     const Pattern* const kept = layout.alpha ? &colours : nullptr;
     const bool wide = !sumsFit<T>(window.area(), INT32_MAX);
+    if constexpr (requires { output.fitsShort(); })
+        if (window.width == 3 && window.height == 3 && !kept && !bands.inPlace()) {
+            bands.takeMemory(scratch);
+            return Mean3x3<n>(bands, dst, roi).run(scratch);
+        }
     const auto run = [&](auto zero) {
         using A = decltype(zero);
         eachLine<A>(bands, roi, window, scratch, [&](Len y, const A* line) {

@@ -38,23 +38,24 @@ constexpr int lanes = bytes / int(sizeof(T));
 #define ZMV_INLINE inline __attribute__((always_inline))
 
 // ---- Memory.  No address needs an alignment, except that of a streaming store. ----
+// The built-in memcpy is a plain move; the C library's may come with a checked call instead.
 
 template <class V>
 ZMV_INLINE V loadAs(const void* p) {
     V v;
-    std::memcpy(&v, p, sizeof v);
+    __builtin_memcpy(&v, p, sizeof v);
     return v;
 }
 // One element, at any address and whatever type the caller stored there.
 template <class T>
 ZMV_INLINE T get(const T* p) {
     T x;
-    std::memcpy(&x, p, sizeof x);
+    __builtin_memcpy(&x, p, sizeof x);
     return x;
 }
 template <class T>
 ZMV_INLINE void put(T* p, std::type_identity_t<T> x) {
-    std::memcpy(p, &x, sizeof x);
+    __builtin_memcpy(p, &x, sizeof x);
 }
 template <class T, int bytes = width>
 ZMV_INLINE Vec<T, bytes> load(const T* p) {
@@ -62,7 +63,7 @@ ZMV_INLINE Vec<T, bytes> load(const T* p) {
 }
 template <class V>
 ZMV_INLINE void store(void* p, V v) {
-    std::memcpy(p, &v, sizeof v);
+    __builtin_memcpy(p, &v, sizeof v);
 }
 // Past the caches; p is a multiple of the vector's size.  fence() before returning to the caller.
 template <class V>
@@ -270,6 +271,33 @@ ZMV_INLINE V mulHigh(V a, V b) {
     if constexpr (sizeof(V) == 32) return (V)_mm256_mulhi_epu16((__m256i)a, (__m256i)b);
 #endif
     if constexpr (sizeof(V) == 16) return (V)_mm_mulhi_epu16((__m128i)a, (__m128i)b);
+}
+
+// The product of unsigned 16-bit lanes over 2^15, rounded; both are below 2^15.
+template <class V>
+ZMV_INLINE V mulRounded(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, uint16_t>);
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return (V)_mm512_mulhrs_epi16((__m512i)a, (__m512i)b);
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return (V)_mm256_mulhrs_epi16((__m256i)a, (__m256i)b);
+#endif
+    const V twice = a + a;
+    if constexpr (sizeof(V) == 16) return mulHigh(twice, b) + (twice * b >> 15);
+}
+// Each even byte plus the odd one behind it.
+template <class V>
+ZMV_INLINE Vec<uint16_t, sizeof(V)> pairSums(V v) {
+    static_assert(std::is_same_v<Element<V>, uint8_t>);
+    using Sums = Vec<uint16_t, sizeof(V)>;
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return (Sums)_mm512_maddubs_epi16((__m512i)v, _mm512_set1_epi8(1));
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return (Sums)_mm256_maddubs_epi16((__m256i)v, _mm256_set1_epi8(1));
+#endif
+    if constexpr (sizeof(V) == 16) return ((Sums)v & 255) + ((Sums)v >> 8);
 }
 
 template <class V>

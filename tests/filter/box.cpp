@@ -99,6 +99,10 @@ void arrangeWindow(Case& c) {
         case 4:
             mw = c.width + c.rng.between(0, 5);
             break;
+        case 5:
+        case 6:
+            mw = mh = 3;  // has code of its own
+            break;
     }
     const bool huge = c.mode == Mode::usual && c.rng.oneIn(40);  // sums beyond 2^32
     if (huge)
