@@ -118,7 +118,8 @@ extern ZMV_API const double zmvConstantOfINF_64f;
    In place: src == dst is allowed where both have one layout (it changes nothing).  Where src and dst otherwise
    overlap, the result of whole-pixel and masked copies is undefined; all other copies and AC4R then work pixel by
    pixel, top to bottom and left to right, each reading what the ones before it wrote.
-   Whole copies of more than 1 MiB, and planar ones larger than the cache, are written past the caches.
+   Whole copies of more than 1 MiB, and planar ones (of 8u only P4C4R) that read and write more than the largest
+   cache holds, are written past the caches.
    STATUS_NULL_POINTER: src, dst, mask, or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
    src/datamove/picopyca.cpp */
 ZMV_API StatusCode zmviCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -592,7 +593,7 @@ ZMV_API StatusCode zmviFilterBoxBorderGetBufferSize(ImageSize roiSize, ImageSize
    alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
    Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an
    integer (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size,
-   times 1 / area; tiles agree with the whole to the bit, and a NaN reaches only windows that contain it.
+   times 1 / area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only windows that contain it.
    In place: src == dst with equal steps is allowed; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
    positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
@@ -639,8 +640,9 @@ ZMV_API StatusCode zmviSumWindowGetBufferSize(ImageSize roiSize, ImageSize maskS
    alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
    8u32s: the exact sum, saturated.  16u32f, 16s32f: the exact sum, rounded once to nearest even.  32f: the sum
    formed in one order for every window of that mask size, as in zmviFilterBoxBorder.
-   In place: src == dst with equal steps is allowed (a row of dst then takes the place of its row of src); other
-   overlap is undefined.
+   In place: src == dst with equal steps is allowed (a row of dst then takes the place of its row of src), but not
+   with BORDER_IN_MEM_RIGHT where the elements of dst are wider: they would overwrite those columns.  Other overlap
+   is undefined.
    Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
    positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
    STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue.

@@ -35,6 +35,8 @@ void* allocate(int64_t width, int64_t height, uint64_t pixelBytes, int64_t* step
     const uint64_t heightHigh = uint64_t(height) >> 32, heightLow = uint32_t(height);
     constexpr uint64_t limit = UINT32_MAX;
     if (stepHigh * heightHigh > limit || stepHigh * heightLow > limit || heightHigh * stepLow > limit) return nullptr;
+    // Halves of 2^32 times a little more pass that test, and wrap.
+    if (__int128(step) * height > INT64_MAX) return nullptr;
     return zmvMalloc_L(int64_t(step * uint64_t(height)));
 }
 

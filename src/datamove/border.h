@@ -15,11 +15,14 @@ inline StatusCode geometry(Roi src, Roi dst, Corner at) {
     return refuse(at.left > dst.width - src.width || at.top > dst.height - src.height, STATUS_BAD_SIZE);
 }
 
-// The source coordinate that each rule takes for a coordinate outside 0 .. n - 1.
+// The source coordinate that each rule takes for a coordinate outside 0 .. n - 1, and whether a call with one pointer
+// for source and destination means the in-place form.
 struct ReplicateRule {
+    static constexpr bool samePointerIsInPlace = true;
     static Len at(Len i, Len n) { return i < 0 ? 0 : i >= n ? n - 1 : i; }
 };
 struct MirrorRule {
+    static constexpr bool samePointerIsInPlace = true;
     static Len at(Len i, Len n) {
         if (i < 0 && -i < n) return -i;
         if (i >= 0 && i < 2 * n - 1) return i < n ? i : 2 * n - 2 - i;
@@ -29,6 +32,7 @@ struct MirrorRule {
     }
 };
 struct WrapRule {
+    static constexpr bool samePointerIsInPlace = false;
     static Len at(Len i, Len n) { return i >= 0 ? i % n : n - 1 - (-i - 1) % n; }
 };
 
@@ -108,15 +112,18 @@ Frame<T, layout> frameOf(Image<T> inner, Roi src, Roi dst, Corner at) {
     return {inner, src, at.left, dst.width - at.left - src.width, at.top, dst.height - at.top - src.height};
 }
 
-// The in-place and the out-of-place form of an operation that has a rule and no value.
+// The in-place and the out-of-place form of the operations that have a rule and no value.
 template <class Rule, Layout layout, class T>
-StatusCode copyBorderInPlace(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at) {
+StatusCode ownpi_CopyBorderI(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at) {
     if (auto bad = firstOf({pointers(srcDst.data), steps(srcDst.step), geometry(srcRoi, dstRoi, at)})) return bad;
     extendByRule<Rule, T>(frameOf<layout>(srcDst, srcRoi, dstRoi, at), nullptr);
     return STATUS_OK;
 }
 template <class Rule, Layout layout, class T>
-StatusCode copyBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, Corner at) {
+StatusCode ownpi_CopyBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, Corner at) {
+    // Looked at before any check: dst is then the place of the source inside the larger image.
+    if (Rule::samePointerIsInPlace && src.data == dst.data)
+        return ownpi_CopyBorderI<Rule, layout>(dst, srcRoi, dstRoi, at);
     if (auto bad = firstOf({pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at)}))
         return bad;
     const Image<T> inner = dst.at(at.left * layout.channels, at.top);

@@ -23,8 +23,8 @@ ZMV_INLINE void writeMaskedBlock(T* dst, const uint8_t* mask, const Source& sour
     storePixels<n>(dst, pixels);
 }
 
-// Rows of masked writes; rowSource(y) gives source(x), the block of pixels at x, and source(x, count, out), the first
-// `count` pixels at x as a padded block in memory.
+// Rows of masked writes; rowSource(y) gives source(x), the block of pixels at x, and source(x, count), a block
+// whose first `count` pixels are those at x.
 template <Layout layout, class T, class RowSource>
 void writeMasked(Image<T> dst, Roi roi, Image<const uint8_t> mask, const RowSource& rowSource) {
     constexpr int n = layout.channels, block = lanes<T>;

@@ -62,7 +62,7 @@ class Bands {
           window_(window),
           word_(word),
           inPlace_(inPlace && (window.height > 1 || !std::is_floating_point_v<T>)) {
-        for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = value[c];
+        for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = get(value + c);
     }
 
     // Elements that takeMemory wants: a row of the constant, and the history.

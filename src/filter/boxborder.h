@@ -10,15 +10,15 @@ namespace zmv {
 // Bytes of the work buffer.  The parts are those of a filter that builds the bands outside the region, keeps a row of
 // sums, and saves rows in place; the driver below has other parts but never needs more.
 inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int dataType, int channels, int* bufferSize) {
-    const bool wide = dataType == DATATYPE_16U || dataType == DATATYPE_16S;
-    const bool known = wide || dataType == DATATYPE_8U || dataType == DATATYPE_32F;
+    const bool twoBytes = dataType == DATATYPE_16U || dataType == DATATYPE_16S;
+    const bool known = twoBytes || dataType == DATATYPE_8U || dataType == DATATYPE_32F;
     if (auto bad = firstOf({pointers(bufferSize), size(roi), maskSize(mask), refuse(!known, STATUS_BAD_DATATYPE),
                             refuse(channels != 1 && channels != 3 && channels != 4, STATUS_BAD_CHANNELS)}))
         return bad;
     using Size = __int128;  // the largest arguments pass 64 bits
     const Window w(mask);
     const Size width = roi.width, height = roi.height, n = channels,
-               element = wide                       ? 2
+               element = twoBytes                   ? 2
                          : dataType == DATATYPE_32F ? 4
                                                     : 1;
     const Size extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
@@ -40,7 +40,7 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
     const Pattern colours = Pattern::mask<D>(layout.used(), n);
     const Pattern* const kept = layout.alpha ? &colours : nullptr;
     const bool wide = !sumsFit<T>(window.area(), INT32_MAX);
-    if constexpr (requires { output.fitsShort(); })
+    if constexpr (requires { requires Output::isByteMean; })
         if (window.width == 3 && window.height == 3 && !kept && !bands.inPlace()) {
             bands.takeMemory(scratch);
             return Mean3x3<n>(bands, dst, roi).run(scratch);

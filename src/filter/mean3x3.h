@@ -43,11 +43,12 @@ class Mean3x3 {
 
     void run(Scratch scratch) {
         // Rows of more than a few vectors come with a buffer of many times what the line takes.
-        Triples few[8][2];
-        const bool fits = vectors_ <= 8;
+        constexpr int few = 8;
+        Triples ours[few][2];
         const auto line =
-            fits ? few
-                 : reinterpret_cast<Triples(*)[2]>(scratch.take<Vec<uint8_t>, width>(4 * std::min(vectors_, strip)));
+            vectors_ <= few
+                ? ours
+                : reinterpret_cast<Triples(*)[2]>(scratch.take<Vec<uint8_t>, width>(4 * std::min(vectors_, strip)));
         for (Len from = 0; from < vectors_; from += strip) runStrip(line, from, std::min(vectors_, from + strip));
     }
 
@@ -73,15 +74,16 @@ class Mean3x3 {
                 for (int k = 0; k < batch; ++k) layOut(rows[k], std::min(2 * pair - 1 + k, roi_.height));
             // Behind the last row of an odd number, the second result is there to be overwritten.
             const Len y = 2 * pair - 2;
-            const auto to0 = pair == 0 ? nullptr : dst_.row(y), to1 = y + 1 < roi_.height ? dst_.row(y + 1) : to0;
-            eachVector(line, from, to, rows[slot], rows[slot + 1], to0, to1);
+            const auto to0 = pair == 0 ? nullptr : dst_.row(y);
+            const auto to1 = pair == 0 || y + 1 == roi_.height ? to0 : dst_.row(y + 1);
+            eachOfRow(line, from, to, rows[slot], rows[slot + 1], to0, to1);
         }
     }
 
     // A vector of two rows of results, which lie between the two rows of the line and two new ones; the new ones take
     // their places.  Without results, when the line is empty, it is only filled.
-    ZMV_INLINE static void step(Triples (&above)[2], Neighbours first, Neighbours second, uint8_t* to0, uint8_t* to1,
-                                int bytes) {
+    ZMV_INLINE static void mix(Triples (&above)[2], Neighbours first, Neighbours second, uint8_t* to0, uint8_t* to1,
+                               int bytes) {
         const Triples c = triplesAt<n>(first), d = triplesAt<n>(second);
         const Triples a{above[0].even, above[0].odd}, b{above[1].even, above[1].odd};
         above[0].even = c.even, above[0].odd = c.odd, above[1].even = d.even, above[1].odd = d.odd;
@@ -95,33 +97,33 @@ class Mean3x3 {
         put(to1, even + d.even, odd + d.odd);
         put(to0, even + a.even, odd + a.odd);
     }
-    static void steps(Triples (*above)[2], const uint8_t* first, const uint8_t* second, uint8_t* to0, uint8_t* to1,
-                      Len count) {
+    static void mixVectors(Triples (*above)[2], const uint8_t* first, const uint8_t* second, uint8_t* to0, uint8_t* to1,
+                           Len count) {
         const Neighbours p{first - n, first, first + n}, q{second - n, second, second + n};
         if (to0)
             for (Len i = 0; i < count; ++i) {
                 const Len x = i * width;
-                step(above[i], p + x, q + x, to0 + x, to1 + x, width);
+                mix(above[i], p + x, q + x, to0 + x, to1 + x, width);
             }
         else
-            for (Len i = 0; i < count; ++i) step(above[i], p + i * width, q + i * width, nullptr, nullptr, width);
+            for (Len i = 0; i < count; ++i) mix(above[i], p + i * width, q + i * width, nullptr, nullptr, width);
     }
 
-    void eachVector(Triples (*line)[2], Len from, Len to, const Ends& first, const Ends& second, uint8_t* to0,
-                    uint8_t* to1) const {
+    void eachOfRow(Triples (*line)[2], Len from, Len to, const Ends& first, const Ends& second, uint8_t* to0,
+                   uint8_t* to1) const {
         const int bytes = int(std::min<Len>(width, bytes_));
         const auto inEnds = [&](Len i, Len x) __attribute__((always_inline)) {
-            step(line[i - from], neighbours(first, i, x), neighbours(second, i, x), to0 ? to0 + x : nullptr, to1 + x,
-                 bytes);
+            mix(line[i - from], neighbours(first, i, x), neighbours(second, i, x), at(to0, x), at(to1, x), bytes);
         };
         Len i = from;
         if (i == 0) inEnds(0, 0), ++i;
         if (i == 1 && i < vectors_ - 1 && head_ < n) inEnds(1, head_), ++i;
         const Len end = std::min(to, vectors_ - 1), x = head_ + (i - 1) * width;
         if (i < end)
-            steps(line + (i - from), first.row + x, second.row + x, to0 ? to0 + x : nullptr, to1 + x, end - i), i = end;
+            mixVectors(line + (i - from), first.row + x, second.row + x, at(to0, x), at(to1, x), end - i), i = end;
         if (i < to) inEnds(i, bytes_ - width);
     }
+    static uint8_t* at(uint8_t* row, Len x) { return row ? row + x : nullptr; }
     Neighbours neighbours(const Ends& ends, Len i, Len x) const {
         const uint8_t *const all = ends.bytes + x, *const inRow = ends.row + x;
         if (vectors_ <= 2) return {all, all + n, all + 2 * n};

@@ -30,7 +30,7 @@ class WindowSum<float, float> {
 };
 
 // Steps are not checked, and a region without pixels is no error: there is nothing to write.
-StatusCode lineSum(const void* src, const void* dst, int maskSize, int anchor) {
+StatusCode lineContract(const void* src, const void* dst, int maskSize, int anchor) {
     return firstOf({pointers(src, dst), refuse(maskSize < 1, STATUS_BAD_MASK_SIZE),
                     refuse(anchor < 0 || anchor >= maskSize, STATUS_BAD_ANCHOR)});
 }
@@ -38,7 +38,7 @@ bool nothingToDo(Roi roi) { return roi.width < 1 || roi.height < 1; }
 
 template <Layout layout, class T>
 StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int maskSize, int anchor) {
-    if (auto bad = lineSum(src.data, dst.data, maskSize, anchor)) return bad;
+    if (auto bad = lineContract(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
     constexpr int n = layout.channels;
     const bool wide = !sumsFit<T>(maskSize, INT32_MAX);
@@ -71,7 +71,7 @@ void columnStrips(Image<const T> src, Roi roi, int n, int maskSize, int anchor, 
 
 template <Layout layout, class T>
 StatusCode ownpi_SumWindowColumn(Image<const T> src, Image<float> dst, Roi roi, int maskSize, int anchor) {
-    if (auto bad = lineSum(src.data, dst.data, maskSize, anchor)) return bad;
+    if (auto bad = lineContract(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
     const WindowSum<T, float> output{Window({1, maskSize})};
     if (sumsFit<T>(maskSize, INT32_MAX)) {

@@ -250,7 +250,7 @@ ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
     }
 }
 
-// The first n of them, 0 <= n < the lanes of To; the others are zero, and nothing beyond is read.
+// The first n of them, n below the lanes of To and none from 0 down; the others are zero, and nothing beyond is read.
 template <class To, class T>
 ZMV_INLINE Vec<To> loadWidenPart(const T* p, int n) {
     constexpr int part = width * int(sizeof(T)) / int(sizeof(To)), block = part < 16 ? 16 : part;
@@ -318,12 +318,10 @@ ZMV_INLINE auto floorToInt(V v) {
 template <class D, class V>
 ZMV_INLINE void storeNarrow(D* p, V v) {
     constexpr int ratio = int(sizeof(Element<V>) / sizeof(D));
-    static_assert(sizeof(D) <= 2 && ratio > 1);
+    static_assert(sizeof(Element<V>) == 4 && sizeof(D) <= 2);
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) {
-        if constexpr (sizeof(Element<V>) == 2)
-            return store(p, _mm512_cvtepi16_epi8((__m512i)v));
-        else if constexpr (ratio == 4)
+        if constexpr (ratio == 4)
             return store(p, _mm512_cvtepi32_epi8((__m512i)v));
         else
             return store(p, _mm512_cvtepi32_epi16((__m512i)v));
@@ -332,7 +330,6 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
 #if defined(__AVX2__)
     if constexpr (sizeof(V) == 32) {
         const auto low = _mm256_castsi256_si128((__m256i)v), high = _mm256_extracti128_si256((__m256i)v, 1);
-        if constexpr (sizeof(Element<V>) == 2) return store(p, _mm_packus_epi16(low, high));
         const auto words =
             _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)), _mm_and_si128(high, _mm_set1_epi32(0xffff)));
         if constexpr (ratio == 4)
@@ -343,7 +340,6 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
     }
 #endif
     if constexpr (sizeof(V) == 16) {
-        if constexpr (sizeof(Element<V>) == 2) return _mm_storeu_si64(p, _mm_packus_epi16((__m128i)v, (__m128i)v));
         // Sign-extended, the low halves pass a signed pack unchanged.
         const auto low = _mm_srai_epi32(_mm_slli_epi32((__m128i)v, 16), 16);
         const auto words = _mm_packs_epi32(low, low);

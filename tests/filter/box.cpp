@@ -107,6 +107,7 @@ void arrangeWindow(Case& c) {
     const bool huge = c.mode == Mode::usual && c.rng.oneIn(40);  // sums beyond 2^32
     if (huge)
         w = c.rng.between(1, 4), h = c.rng.between(1, 3), mw = c.rng.between(200, 330), mh = c.rng.between(200, 330);
+    if (mw == 3 && mh == 3 && c.rng.oneIn(3)) w = c.rng.between(3900, 9000) / c.member.to.channels, h = 3;
     if (c.mode == Mode::far) h = 4, mh = c.rng.between(1, 3);
 
     const int rules[] = {BORDER_REPL, BORDER_MIRROR, BORDER_CONST};
