@@ -123,7 +123,7 @@ StatusCode ownpi_FilterBox(Image<const double> src, Image<double> dst, Roi roi, 
                     if (!tree.full()) continue;
                     double* const to = dst.row(y - partHeight + 1) + x;
                     tree.sum([&](Len i, auto sum, int count) {
-                        if (!first) sum += loadUpTo(to + i, count);
+                        if (!first) sum = addInOrder(loadUpTo(to + i, count), sum);
                         if (last) sum /= area;
                         storeUpTo(to + i, sum, count);
                     });

@@ -300,6 +300,35 @@ ZMV_INLINE Vec<uint16_t, sizeof(V)> pairSums(V v) {
     if constexpr (sizeof(V) == 16) return ((Sums)v & 255) + ((Sums)v >> 8);
 }
 
+// a + b and a * b of floating-point lanes with a in the first place, whose NaN goes before that of b: operators would
+// let the compiler choose, and not in all builds alike.
+#if defined(__AVX__)
+#define ZMV_IN_ORDER(op, a, b)                                                                                         \
+    V result;                                                                                                          \
+    if constexpr (sizeof(Element<V>) == 4)                                                                             \
+        __asm__("v" op "ps %2, %1, %0" : "=v"(result) : "v"(a), "v"(b));                                               \
+    else                                                                                                               \
+        __asm__("v" op "pd %2, %1, %0" : "=v"(result) : "v"(a), "v"(b));                                               \
+    return result;
+#else
+#define ZMV_IN_ORDER(op, a, b)                                                                                         \
+    if constexpr (sizeof(Element<V>) == 4)                                                                             \
+        __asm__(op "ps %1, %0" : "+x"(a) : "x"(b));                                                                    \
+    else                                                                                                               \
+        __asm__(op "pd %1, %0" : "+x"(a) : "x"(b));                                                                    \
+    return a;
+#endif
+template <class V>
+ZMV_INLINE V addInOrder(V a, V b) {
+    static_assert(std::is_floating_point_v<Element<V>>);
+    ZMV_IN_ORDER("add", a, b)
+}
+template <class V>
+ZMV_INLINE V mulInOrder(V a, V b) {
+    static_assert(std::is_floating_point_v<Element<V>>);
+    ZMV_IN_ORDER("mul", a, b)
+}
+
 template <class V>
 ZMV_INLINE auto toFloat(V v) {  // from int32_t, rounded to nearest even
     return __builtin_convertvector(v, Vec<float, sizeof(V)>);

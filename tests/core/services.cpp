@@ -17,8 +17,9 @@ int64_t pixelBytes(const Member& m) { return bytesOf(m.source) * m.to.channels; 
 int64_t length(Case& c) {
     const int64_t pixel = pixelBytes(c.member);
     const int64_t rowLimit = c.member.large ? INT64_MAX / pixel : INT_MAX / pixel;
-    const int64_t limits[] = {0,     1,     -1,      rowLimit, rowLimit + 1,     rowLimit - 63,
-                              65535, 65536, INT_MAX, INT_MIN,  int64_t(1) << 32, (int64_t(1) << 32) + 1};
+    const int64_t limits[] = {
+        0,     1,       -1,      rowLimit,         int64_t(uint64_t(rowLimit) + 1), rowLimit - 63, 65535,
+        65536, INT_MAX, INT_MIN, int64_t(1) << 32, (int64_t(1) << 32) + 1};
     const int64_t n = c.rng.oneIn(2) ? c.rng.between(1, 300) : limits[c.rng.below(int(std::size(limits)))];
     return c.member.large ? n : int(n);
 }
