@@ -61,11 +61,12 @@ double Call::number(const std::string& name) const {
     if (name == "numChannels") return fromChannels;
     if (name == "value") return 5;
     if (name == "flags") return 0;
+    if (name == "scaleFactor") return setting.factor;
     unknown(name);
 }
 
 void* Call::pointer(const std::string& name, int64_t element) {
-    if (name == "src") return image(name, fromChannels * element);
+    if (name == "src" || name == "src1" || name == "src2") return image(name, fromChannels * element);
     if (name == "dst" || name == "srcDst") return image(name, toChannels * element);
     if (name == "mask") return image(name, element);
     if (name == "value" || name == "borderValue") return allocate(4 * element).data();
@@ -82,7 +83,7 @@ void* Call::planes(const std::string& name, int64_t element) {
 
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
 uint8_t* Call::image(const std::string& name, int64_t pixel) {
-    const bool isRead = name == "src" || name == "mask", bordered = has("dstRoiSize");
+    const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask", bordered = has("dstRoiSize");
     const ImageSizeL size = area(!bordered ? "roiSize" : isRead ? "srcRoiSize" : "dstRoiSize");
     const int64_t row = size.width * pixel, step = row + setting.padding;
     // Members with an anchor read round the region; so many rows also cover what lies left and right of it.

@@ -20,10 +20,11 @@ struct Build {
     void* find(const std::string& name) const;  // throws for a name that the build lacks
 };
 
-// What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length.
+// What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
+// and the scale factor.
 struct Setting {
     int64_t width, height;
-    int mask = 5, border = 16, padding = 0;
+    int mask = 5, border = 16, padding = 0, factor = 0;
     std::string about = {};  // size queries: the member that the answer is for
 };
 

@@ -25,7 +25,7 @@ struct MaskRow {
 
 const Goal goals[] = {
 #define GOAL(title, member, width, height, reach, best, goal, s3)                                                      \
-    {title, #member, {width, height, reach, reach}, best, goal, s3},
+    {title, #member, {width, height, reach, reach, 0, reach}, best, goal, s3},
 #define MASKS(...)
 #include "goals.def"
 };

@@ -698,6 +698,669 @@ ZMV_API StatusCode zmviSumWindowColumn_16s32f_C1R(const int16_t* src, int srcSte
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 
+/* zmviAdd: dst = src1 + src2.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
+   if it has that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/piadd.cpp */
+ZMV_API StatusCode zmviAdd_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C1RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C1IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C3RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C3IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_C4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_AC4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_8u_AC4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C1RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C1IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C3RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C3IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_C4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_AC4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16u_AC4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C1RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C1IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C3RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C3IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_C4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_AC4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_16s_AC4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAdd_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C1R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C1IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C3R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C3IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_C4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_AC4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAdd_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAdd_32f_AC4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+
+/* zmviAddC: dst = src + value.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/piadd.cpp */
+ZMV_API StatusCode zmviAddC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C1RSfs_L(const uint8_t* src, int64_t srcStep, uint8_t value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C1IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, uint8_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C3RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C3IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_C4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_AC4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_8u_AC4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C1RSfs_L(const uint16_t* src, int64_t srcStep, uint16_t value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C1IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, uint16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C3RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C3IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_C4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_AC4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16u_AC4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C1RSfs_L(const int16_t* src, int64_t srcStep, int16_t value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, int16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C1IRSfs_L(int16_t* srcDst, int64_t srcDstStep, int16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C3RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C3IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_C4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_AC4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_16s_AC4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviAddC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C1R_L(const float* src, int64_t srcStep, float value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_C1IR(float* srcDst, int srcDstStep, float value, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C1IR_L(float* srcDst, int64_t srcDstStep, float value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_C3R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C3R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_C3IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C3IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_C4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_C4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_C4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_AC4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_AC4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviAddC_32f_AC4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAddC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+
+/* zmviSub: dst = src2 - src1; in place, srcDst = srcDst - src.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
+   if it has that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pisub.cpp */
+ZMV_API StatusCode zmviSub_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C1RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C1IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C3RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C3IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_C4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_AC4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_8u_AC4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C1RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C1IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C3RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C3IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_C4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_AC4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16u_AC4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C1RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C1IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C3RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C3IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_C4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_AC4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_16s_AC4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSub_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C1R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C1IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C3R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C3IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_C4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_AC4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSub_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSub_32f_AC4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+
+/* zmviSubC: dst = src - value.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pisub.cpp */
+ZMV_API StatusCode zmviSubC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C1RSfs_L(const uint8_t* src, int64_t srcStep, uint8_t value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C1IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, uint8_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C3RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C3IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_C4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_AC4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_8u_AC4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C1RSfs_L(const uint16_t* src, int64_t srcStep, uint16_t value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C1IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, uint16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C3RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C3IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_C4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_AC4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16u_AC4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C1RSfs_L(const int16_t* src, int64_t srcStep, int16_t value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, int16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C1IRSfs_L(int16_t* srcDst, int64_t srcDstStep, int16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C3RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C3IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_C4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_AC4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_16s_AC4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSubC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C1R_L(const float* src, int64_t srcStep, float value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_C1IR(float* srcDst, int srcDstStep, float value, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C1IR_L(float* srcDst, int64_t srcDstStep, float value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_C3R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C3R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_C3IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C3IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_C4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_C4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_C4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_AC4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_AC4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviSubC_32f_AC4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviSubC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+
+/* zmviMul: dst = src1 * src2.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
+   if it has that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pimul.cpp */
+ZMV_API StatusCode zmviMul_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C1RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C1IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C3RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C3IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_C4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_AC4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_8u_AC4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C1RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C1IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C3RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C3IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_C4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_AC4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16u_AC4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C1RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C1IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C3RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C3IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_C4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_AC4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_16s_AC4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMul_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C1R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C1IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C3R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C3IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_C4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_AC4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMul_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMul_32f_AC4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+
+/* zmviMulC: dst = src * value.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
+   operands are NaN, that of the image that is second, or only, goes on.
+   AC4 leaves the fourth channel of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pimul.cpp */
+ZMV_API StatusCode zmviMulC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C1RSfs_L(const uint8_t* src, int64_t srcStep, uint8_t value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C1IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, uint8_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C3RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C3IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_C4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_AC4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_8u_AC4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C1RSfs_L(const uint16_t* src, int64_t srcStep, uint16_t value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C1IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, uint16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C3RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C3IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_C4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_AC4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16u_AC4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C1RSfs_L(const int16_t* src, int64_t srcStep, int16_t value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, int16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C1IRSfs_L(int16_t* srcDst, int64_t srcDstStep, int16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C3RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C3IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_C4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_AC4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_16s_AC4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviMulC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C1R_L(const float* src, int64_t srcStep, float value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_C1IR(float* srcDst, int srcDstStep, float value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C1IR_L(float* srcDst, int64_t srcDstStep, float value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_C3R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C3R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_C3IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C3IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_C4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_C4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_C4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_AC4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_AC4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviMulC_32f_AC4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+
+/* zmviAnd: dst = src1 & src2, bit by bit.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
+   that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviAndC: dst = src & value, bit by bit.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C1IR(int32_t* srcDst, int srcDstStep, int32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C3R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C3IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_C4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_AC4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAndC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+
+/* zmviOr: dst = src1 | src2, bit by bit.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
+   that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviOrC: dst = src | value, bit by bit.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C1IR(int32_t* srcDst, int srcDstStep, int32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C3R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C3IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_C4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_AC4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviOrC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+
+/* zmviXor: dst = src1 ^ src2, bit by bit.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
+   that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviXorC: dst = src ^ value, bit by bit.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C1IR(int32_t* srcDst, int srcDstStep, int32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C3R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C3IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_C4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_AC4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviXorC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
+
+/* zmviNot: dst = ~src, bit by bit.
+   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
+   need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pilogic.cpp */
+ZMV_API StatusCode zmviNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+
 #ifdef __cplusplus
 }
 #endif

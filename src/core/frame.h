@@ -101,6 +101,16 @@ const Bits<T>* valueOf(const T* const& values) {
     return bits(values);
 }
 
+// The same where the values are computed with.
+template <class T>
+const T* valuesOf(const T& value) {
+    return &value;
+}
+template <class T>
+const T* valuesOf(const T* const& values) {
+    return values;
+}
+
 // Checks.  Each names what it tests; firstOf lists a family's checks in its order of refusal.
 inline StatusCode firstOf(std::initializer_list<StatusCode> checks) {
     for (StatusCode status : checks)

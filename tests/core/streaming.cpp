@@ -26,6 +26,7 @@ int64_t bytesPerPixel(const Member& m) {
     const int64_t pixel = bytesOf(m.destination) * std::max(m.from.channels, m.to.channels);
     const bool whole = !m.masked && !m.oneChannel && !m.to.alpha && m.from == m.to;
     if (m.name.rfind("zmviSet_", 0) == 0) return whole ? pixel : 0;
+    if (m.find("src1")) return whole ? 3 * pixel : 0;
     if (m.name.rfind("zmviCopy_", 0) != 0 || !(m.from.planar || m.to.planar)) return 0;
     // Bytes only where reading and writing them costs more than the interleaving.
     return bytesOf(m.destination) > 1 || m.name == "zmviCopy_8u_P4C4R" ? 2 * pixel : 0;
@@ -65,8 +66,9 @@ TEST(Streaming, AsksFromItsThresholdOn) {
             EXPECT_EQ(check(m, enough / 7 + 1, 7, 3, 1), "");
         }
     }
-    // Set C1 C3 C4; planar copies in both directions of 3 and 4 planes, of which bytes ask in one.
-    EXPECT_TRUE(asking == 3 * 5 + 4 * 4 + 1 || !options.only.empty()) << asking;
+    // Set C1 C3 C4; planar copies in both directions of 3 and 4 planes, of which bytes ask in one; arithmetic on two
+    // images C1 C3 C4, with both widths of sizes, and logic.
+    EXPECT_TRUE(asking == 3 * 5 + 4 * 4 + 1 + 3 * 4 * 3 * 2 + 3 * 3 * 3 || !options.only.empty()) << asking;
 }
 
 TEST(Streaming, OthersNeverAsk) {

@@ -1,0 +1,32 @@
+// The drivers of operations on two images, and on an image and a constant.
+#pragma once
+
+#include "arith/scaled.h"
+
+namespace zmv {
+
+// Neither driver checks steps: any step, zero and negative ones too, walks the rows.
+
+// Past the caches where a call moves more than these hold; in place, the caches have the destination anyway.
+template <class T>
+bool binaryPastCache(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout) {
+    return !layout.alpha && src1.data != dst.data && src2.data != dst.data &&
+           writesPastCache(3 * roi.width * roi.height * layout.channels * Len(sizeof(T)));
+}
+
+template <class Op, class T>
+StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if (auto bad = firstOf({pointers(src1.data, src2.data, dst.data), size(roi)})) return bad;
+    scaled<Op>(dst, roi, layout, factor, binaryPastCache(src1, src2, dst, roi, layout), src1, src2);
+    return STATUS_OK;
+}
+
+// The constant stands in the place of the first image.
+template <class Op, class T>
+StatusCode ownpi_WithConstant(Image<const T> src, const T* value, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi)})) return bad;
+    scaled<Op>(dst, roi, layout, factor, false, Constant<T>(value, layout), src);
+    return STATUS_OK;
+}
+
+}  // namespace zmv

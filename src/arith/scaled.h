@@ -1,0 +1,104 @@
+// Integer results and their scale factor: the exact result, times 2 to the power of -factor, rounded to nearest with
+// ties to even, saturated.  What is common to all operations that have one; an operation gives
+//   exact<half>(a, b)   half of the exact results, in lanes that hold them all
+//   saturated(a, b)     the results at factor 0
+//   largest<T>          the largest magnitude of an exact result
+// and, for floating-point types, plain(a, b).
+#pragma once
+
+#include "kernels/pointwise.h"
+#include "kernels/simd_math.h"
+
+namespace zmv {
+
+// From this factor on every result rounds to zero: the largest is at most one half, and that is a tie.
+template <class Op, class T>
+constexpr int zeroFrom() {
+    int n = 0;
+    while (n == 0 || Op::template largest < T >> int64_t(1) << (n - 1)) ++n;
+    return n;
+}
+
+// x / 2^n, rounded, n > 0.  Adding 2^(n-1) - 1 plus the lowest bit that survives sends ties to even.  Where that could
+// pass the lanes, the dividend is halved first, its lost bit kept as a one in the last place: far below the tie.
+template <class W>
+class RoundShift {
+  public:
+    RoundShift(int n, int64_t largest) {
+        const int64_t lanesHold = std::numeric_limits<Element<W>>::max();
+        if (largest + (int64_t(1) << (n - 1)) > lanesHold) before_ = 1, kept_ = 1, --n;
+        n_ = n;
+        half_ = Element<W>((int64_t(1) << (n - 1)) - 1);
+    }
+    ZMV_INLINE W operator()(W x) const {
+        if constexpr (std::is_unsigned_v<Element<W>>) x = (x >> before_) | (x & kept_);
+        return (x + half_ + ((x >> n_) & 1)) >> n_;
+    }
+
+  private:
+    int n_, before_ = 0;
+    Element<W> half_, kept_ = 0;
+};
+
+// Floating-point types and bits have no factor.
+template <class Op, class T>
+constexpr bool hasFactor = std::is_integral_v<T>;
+template <class Op, class T>
+requires requires { Op::bitwise; }
+constexpr bool hasFactor<Op, T> = false;
+
+// The rules, by the sign of the factor.
+template <class Op, class T>
+struct ScaledDown {
+    template <class V>
+    using Exact = decltype(Op::template exact<0>(V{}, V{}));
+    RoundShift<Exact<Vec<T>>> shift;
+    explicit ScaledDown(int factor) : shift(factor, Op::template largest<T>) {}
+    template <class... V>
+    ZMV_INLINE Vec<T> operator()(V... v) const {
+        return narrow<T>(shift(Op::template exact<0>(v...)), shift(Op::template exact<1>(v...)));
+    }
+};
+template <class Op, class T>
+struct NotScaled {
+    template <class... V>
+    ZMV_INLINE Vec<T> operator()(V... v) const {
+        if constexpr (hasFactor<Op, T>)
+            return Op::saturated(v...);
+        else
+            return Op::plain(v...);
+    }
+};
+// What saturates before it is scaled up saturates after.  Beyond the width of the type only zero does not.
+template <class Op, class T>
+struct ScaledUp {
+    int shift;
+    explicit ScaledUp(int factor) : shift(factor < -int(8 * sizeof(T)) ? int(8 * sizeof(T)) : -factor) {}
+    template <class... V>
+    ZMV_INLINE Vec<T> operator()(V... v) const {
+        const Vec<T> x = Op::saturated(v...);
+        return narrow<T>(widen<0>(x) << shift, widen<1>(x) << shift);
+    }
+};
+template <class T>
+struct Zero {
+    ZMV_INLINE Vec<T> operator()() const { return Vec<T>{}; }
+};
+
+// Runs an operation with its factor over a region.
+template <class Op, class T, class... Operand>
+void scaled(Image<T> dst, Roi roi, Layout layout, int factor, bool pastCache, const Operand&... operands) {
+    const auto run = [&](const auto& rule) { pointwise(rule, dst, roi, layout, pastCache, operands...); };
+    if constexpr (!hasFactor<Op, T>)
+        run(NotScaled<Op, T>{});
+    else if (factor >= zeroFrom<Op, T>())
+        pointwise(Zero<T>{}, dst, roi, layout, pastCache);
+    else if (factor > 0)
+        run(ScaledDown<Op, T>(factor));
+    else if (factor == 0)
+        run(NotScaled<Op, T>{});
+    else
+        run(ScaledUp<Op, T>(factor));
+}
+
+}  // namespace zmv

@@ -1,0 +1,86 @@
+// The walker of all operations that work pixel by pixel: rows, tails, channels left alone and stores past the caches,
+// once for every rule.
+//
+// A rule makes a vector of results from a vector of each operand.  Operands are images, or constants of one value a
+// channel, which repeat along the row as an image would.
+#pragma once
+
+#include "core/streaming.h"
+#include "kernels/rows.h"
+
+namespace zmv {
+
+// One value a channel.
+template <class T>
+struct Constant {
+    Pattern pattern;
+    Constant(const T* values, Layout layout) : pattern(bits(values), layout) {}
+};
+
+// What a row of an operand gives: vectors at byte offsets, k counting the vectors modulo 3, and the first n elements of
+// one.
+template <class T>
+struct ImageRow {
+    const T* row;
+    Vec<T> at(Len offset, int) const { return loadAs<Vec<T>>(reinterpret_cast<const uint8_t*>(row) + offset); }
+    Vec<T> part(Len offset, int, int n) const { return loadPart(row + offset / Len(sizeof(T)), n); }
+};
+template <class T>
+struct ConstantRow {
+    Vec<T> period[3];
+    explicit ConstantRow(const Pattern& p) : period{(Vec<T>)p.at(0), (Vec<T>)p.at(width), (Vec<T>)p.at(2 * width)} {}
+    Vec<T> at(Len, int k) const { return period[k]; }
+    Vec<T> part(Len, int k, int) const { return period[k]; }
+};
+template <class T>
+ZMV_INLINE ImageRow<T> rowOf(Image<const T> image, Len y, Len first) {
+    return {image.row(y) + first};
+}
+template <class T>
+ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len) {
+    return ConstantRow<T>(constant.pattern);
+}
+template <class T>
+bool operandGapless(Image<const T> image, Len width, int channels) {
+    return gapless(image, width, channels);
+}
+template <class T>
+bool operandGapless(const Constant<T>&, Len, int) {
+    return true;
+}
+
+template <class T, class Rule, class... Row>
+ZMV_INLINE void pointwiseRow(const Rule& rule, T* dst, Len count, const Row&... rows) {
+    const auto to = reinterpret_cast<uint8_t*>(dst);
+    const Len bytes = count * Len(sizeof(T));
+    const Len done =
+        eachVector(0, bytes, [&](Len at, [[maybe_unused]] auto k) { store(to + at, rule(rows.at(at, k)...)); });
+    if (const int rest = int((bytes - done) / Len(sizeof(T))))
+        storePart(to + done, rule(rows.part(done, int(done / width % 3), rest)...), rest);
+}
+
+// dst = rule(operands...) over a region.  Where a channel is left alone, and past the caches, results take a detour
+// through a block that stays in the nearest cache; it holds whole periods of every pattern.
+template <class T, class Rule, class... Operand>
+void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
+    constexpr Len blockBytes = 48 * width, block = blockBytes / Len(sizeof(T));
+    roi = joinRows(
+        roi, gapless(dst, roi.width, layout.channels) && (... && operandGapless(operands, roi.width, layout.channels)));
+    const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / Len(sizeof(T));
+    const bool direct = !layout.alpha && !pastCache;
+    alignas(64) uint8_t results[blockBytes];
+    for (Len y = 0; y < roi.height; ++y)
+        for (Len x = 0; x < count; x += block) {
+            T* const to = dst.row(y) + x;
+            const Len n = direct ? count : std::min(block, count - x);
+            pointwiseRow(rule, direct ? to : reinterpret_cast<T*>(results), n, rowOf(operands, y, x)...);
+            if (direct) break;
+            if (pastCache)
+                streamRow(to, results, n * Len(sizeof(T)));
+            else
+                blendRow(to, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
+        }
+    if (pastCache) fence();
+}
+
+}  // namespace zmv
