@@ -14,8 +14,9 @@ namespace zmv {
 // From this factor on every result rounds to zero: the largest is at most one half, and that is a tie.
 template <class Op, class T>
 constexpr int zeroFrom() {
-    int n = 0;
-    while (n == 0 || Op::template largest < T >> int64_t(1) << (n - 1)) ++n;
+    constexpr int64_t most = Op::template largest<T>;
+    int n = 1;
+    while (most > int64_t(1) << (n - 1)) ++n;
     return n;
 }
 
