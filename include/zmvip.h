@@ -1152,12 +1152,11 @@ ZMV_API StatusCode zmviMulC_32f_AC4IR(float* srcDst, int srcDstStep, const float
 ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
 
 /* zmviAnd: dst = src1 & src2, bit by bit.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAnd_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1186,10 +1185,9 @@ ZMV_API StatusCode zmviAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
 
 /* zmviAndC: dst = src & value, bit by bit.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAndC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1217,12 +1215,11 @@ ZMV_API StatusCode zmviAndC_32s_AC4R(const int32_t* src, int srcStep, const int3
 ZMV_API StatusCode zmviAndC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
 
 /* zmviOr: dst = src1 | src2, bit by bit.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviOr_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1251,10 +1248,9 @@ ZMV_API StatusCode zmviOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* sr
 
 /* zmviOrC: dst = src | value, bit by bit.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviOrC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1282,12 +1278,11 @@ ZMV_API StatusCode zmviOrC_32s_AC4R(const int32_t* src, int srcStep, const int32
 ZMV_API StatusCode zmviOrC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
 
 /* zmviXor: dst = src1 ^ src2, bit by bit.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXor_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1316,10 +1311,9 @@ ZMV_API StatusCode zmviXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
 
 /* zmviXorC: dst = src ^ value, bit by bit.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+   AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXorC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1346,12 +1340,151 @@ ZMV_API StatusCode zmviXorC_32s_C4IR(int32_t* srcDst, int srcDstStep, const int3
 ZMV_API StatusCode zmviXorC_32s_AC4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXorC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
 
-/* zmviNot: dst = ~src, bit by bit.
-   AC4 leaves the fourth channel of the destination as it was.  Any step is accepted, zero and negative ones too, and
-   need not be a multiple of the element size.
+/* zmviMulScale: dst = src1 * src2 over the largest value of the type, as with numbers between 0 and 1.  8u: rounded down over
+   255.  16u: over 65535, rounded to nearest (there are no ties).
+   AC4 leaves the fourth channel of the destination as it was.
+   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
+   that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pimul.cpp */
+ZMV_API StatusCode zmviMulScale_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulScale_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviMulCScale: dst = src * value over the largest value of the type, rounded as in zmviMulScale.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
-   src/arith/pilogic.cpp */
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pimul.cpp */
+ZMV_API StatusCode zmviMulCScale_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_C3R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_C4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C3R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulCScale_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
+
+/* zmviAbs: dst = |src|; of -32768 it is 32767.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piunary.cpp */
+ZMV_API StatusCode zmviAbs_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAbs_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviSqr: dst = src * src.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piunary.cpp */
+ZMV_API StatusCode zmviSqr_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_C3RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_C4RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_C4IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_AC4RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C3RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C4RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_C4IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_AC4RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C1RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C3RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C4RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_C4IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_AC4RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqr_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqr_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviComplement: dst = -src in two's complement; the type's minimum stays as it is.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piunary.cpp */
+ZMV_API StatusCode zmviComplement_8s_C1R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_C1IR(int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_C3R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_C3IR(int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_C4R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_C4IR(int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_AC4R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_8s_AC4IR(int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_AC4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviComplement_32s_AC4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviNot: dst = ~src, bit by bit.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piunary.cpp */
 ZMV_API StatusCode zmviNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);

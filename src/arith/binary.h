@@ -5,7 +5,14 @@
 
 namespace zmv {
 
-// Neither driver checks steps: any step, zero and negative ones too, walks the rows.
+// Operations that say so check no steps: any step, zero and negative ones too, then walks the rows.
+template <class Op, class... S>
+StatusCode stepsOf(S... step) {
+    if constexpr (requires { Op::takesAnyStep; })
+        return STATUS_OK;
+    else
+        return steps(step...);
+}
 
 // Past the caches where a call moves more than these hold; in place, the caches have the destination anyway.
 template <class T>
@@ -16,7 +23,9 @@ bool binaryPastCache(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi
 
 template <class Op, class T>
 StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src1.data, src2.data, dst.data), size(roi)})) return bad;
+    if (auto bad =
+            firstOf({pointers(src1.data, src2.data, dst.data), size(roi), stepsOf<Op>(src1.step, src2.step, dst.step)}))
+        return bad;
     scaled<Op>(dst, roi, layout, factor, binaryPastCache(src1, src2, dst, roi, layout), src1, src2);
     return STATUS_OK;
 }
@@ -24,7 +33,8 @@ StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, 
 // The constant stands in the place of the first image.
 template <class Op, class T>
 StatusCode ownpi_WithConstant(Image<const T> src, const T* value, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi)})) return bad;
+    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), stepsOf<Op>(src.step, dst.step)}))
+        return bad;
     scaled<Op>(dst, roi, layout, factor, false, Constant<T>(value, layout), src);
     return STATUS_OK;
 }

@@ -5,6 +5,7 @@ namespace zmv {
 namespace {
 
 struct Add {
+    static constexpr bool takesAnyStep = true;
     template <class T>
     static constexpr int64_t largest = 2 * (int64_t(std::numeric_limits<T>::max()) + std::is_signed_v<T>);
     // Lanes of twice the width hold a sum with its sign.

@@ -1,10 +1,11 @@
-// zmviMul, zmviMulC: the product.
+// zmviMul, zmviMulC: the product.  zmviMulScale, zmviMulCScale: the product over the largest value of the type.
 #include "arith/binary.h"
 
 namespace zmv {
 namespace {
 
 struct Mul {
+    static constexpr bool takesAnyStep = true;
     template <class T>
     static constexpr int64_t largest = std::is_signed_v<T>
                                            ? int64_t(std::numeric_limits<T>::min()) * std::numeric_limits<T>::min()
@@ -23,6 +24,22 @@ struct Mul {
     }
 };
 
+// Over 2^n - 1 instead of 2^n: the quotient by 2^n, with itself over 2^n once more added.  Bytes are rounded down,
+// 16-bit numbers to nearest; there are no ties.
+struct MulScale {
+    static constexpr bool withoutFactor = true;
+    template <int half, class V>
+    ZMV_INLINE static auto quotient(V a, V b) {
+        constexpr int bits = 8 * sizeof(Element<V>);
+        const auto p = product<half>(a, b) + (bits == 8 ? 1 : 0x8000);
+        return (p + ((p - (bits == 8)) >> bits)) >> bits;
+    }
+    template <class V>
+    ZMV_INLINE static V plain(V a, V b) {
+        return narrow<Element<V>>(quotient<0>(a, b), quotient<1>(a, b));
+    }
+};
+
 }  // namespace
 }  // namespace zmv
 
@@ -31,3 +48,5 @@ using namespace zmv;
 #include "arith/binary.def"
 BINARY_FAMILY(Mul)
 CONSTANT_FAMILY(Mul)
+MUL_SCALE_FAMILY
+MUL_C_SCALE_FAMILY

@@ -5,6 +5,7 @@ namespace zmv {
 namespace {
 
 struct Sub {
+    static constexpr bool takesAnyStep = true;
     template <class T>
     static constexpr int64_t largest = std::numeric_limits<T>::max() - int64_t(std::numeric_limits<T>::min());
     // Lanes of twice the width hold a difference with its sign; one below zero saturates there in unsigned types.

@@ -1,9 +1,9 @@
 // Integer results and their scale factor: the exact result, times 2 to the power of -factor, rounded to nearest with
 // ties to even, saturated.  What is common to all operations that have one; an operation gives
-//   exact<half>(a, b)   half of the exact results, in lanes that hold them all
-//   saturated(a, b)     the results at factor 0
+//   exact<half>(a, ..)  half of the exact results, in lanes that hold them all
+//   saturated(a, ..)    the results at factor 0
 //   largest<T>          the largest magnitude of an exact result
-// and, for floating-point types, plain(a, b).
+// and, for floating-point types, plain(a, ..).
 #pragma once
 
 #include "kernels/pointwise.h"
@@ -41,21 +41,18 @@ class RoundShift {
     Element<W> half_, kept_ = 0;
 };
 
-// Floating-point types and bits have no factor.
+// Floating-point types have no factor, nor have operations that say so.
 template <class Op, class T>
 constexpr bool hasFactor = std::is_integral_v<T>;
 template <class Op, class T>
-requires requires { Op::bitwise; }
+requires requires { Op::withoutFactor; }
 constexpr bool hasFactor<Op, T> = false;
 
 // The rules, by the sign of the factor.
-template <class Op, class T>
+template <class Op, class T, class... V>
 struct ScaledDown {
-    template <class V>
-    using Exact = decltype(Op::template exact<0>(V{}, V{}));
-    RoundShift<Exact<Vec<T>>> shift;
+    RoundShift<decltype(Op::template exact<0>(V{}...))> shift;
     explicit ScaledDown(int factor) : shift(factor, Op::template largest<T>) {}
-    template <class... V>
     ZMV_INLINE Vec<T> operator()(V... v) const {
         return narrow<T>(shift(Op::template exact<0>(v...)), shift(Op::template exact<1>(v...)));
     }
@@ -81,6 +78,8 @@ struct ScaledUp {
         return narrow<T>(widen<0>(x) << shift, widen<1>(x) << shift);
     }
 };
+template <class Operand, class T>
+using VectorOf = Vec<T>;
 template <class T>
 struct Zero {
     ZMV_INLINE Vec<T> operator()() const { return Vec<T>{}; }
@@ -95,7 +94,7 @@ void scaled(Image<T> dst, Roi roi, Layout layout, int factor, bool pastCache, co
     else if (factor >= zeroFrom<Op, T>())
         pointwise(Zero<T>{}, dst, roi, layout, pastCache);
     else if (factor > 0)
-        run(ScaledDown<Op, T>(factor));
+        run(ScaledDown<Op, T, VectorOf<Operand, T>...>(factor));
     else if (factor == 0)
         run(NotScaled<Op, T>{});
     else

@@ -53,6 +53,11 @@ ZMV_INLINE auto asSigned(V v) {
     return (Vec<std::make_signed_t<Element<V>>, sizeof(V)>)v;
 }
 
+template <class V>
+ZMV_INLINE auto asUnsigned(V v) {
+    return (Vec<std::make_unsigned_t<Element<V>>, sizeof(V)>)v;
+}
+
 // The lower (0) or upper (1) half of a vector, widened.
 template <int half, class V>
 ZMV_INLINE V interleaveHalf(V a, V b) {
@@ -82,7 +87,7 @@ ZMV_INLINE auto product(V a, V b) {
     if constexpr (sizeof(T) == 1)
         return widen<half>(a) * widen<half>(b);
     else if constexpr (std::is_signed_v<T>)
-        return (Wide)interleaveHalf<half>(a * b, mulHighSigned(a, b));
+        return (Wide)interleaveHalf<half>((V)(asUnsigned(a) * asUnsigned(b)), mulHighSigned(a, b));
     else
         return (Wide)interleaveHalf<half>(a * b, mulHigh(a, b));
 }

@@ -1,4 +1,5 @@
-// zmviAdd, zmviSub, zmviMul, zmviAnd, zmviOr, zmviXor, and with a constant; zmviNot.
+// zmviAdd, zmviSub, zmviMul, zmviMulScale, zmviAnd, zmviOr, zmviXor, and with a constant; zmviAbs, zmviSqr,
+// zmviComplement, zmviNot.
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -98,46 +99,108 @@ void computeBinary(Case& c) {
                 for (int k = 0; k < c.member.to.used(); ++k) {
                     const T b = c.get<T>(second, x, y, k);
                     const T a = constant ? c.get<T>(first, 0, 0, k) : c.get<T>(first, x, y, k);
-                    if constexpr (std::is_floating_point_v<T>) {
-                        if constexpr (requires { Op()(b, a); }) c.set(to, x, y, k, singlePrecision<Op>(b, a));
-                    } else if (!c.has("scaleFactor"))
+                    if constexpr (!requires { Op()(b, a); })
+                        throw std::string("no such member");
+                    else if constexpr (std::is_floating_point_v<T>)
+                        c.set(to, x, y, k, singlePrecision<Op>(b, a));
+                    else if (!c.has("scaleFactor"))
                         c.set(to, x, y, k, T(Op()(b, a)));
-                    else
+                    else if constexpr (requires { Op()(__int128(b), __int128(a)); })
                         c.set(to, x, y, k, scaled<T>(Op()(__int128(b), __int128(a)), factor));
                 }
     });
 }
 
-void computeNot(Case& c) {
-    const Image &src = c.image(c.has("src") ? "src" : "srcDst"), &dst = c.image(c.has("dst") ? "dst" : "srcDst");
-    for (int64_t y = 0; y < c.height; ++y)
-        for (int64_t x = 0; x < c.width; ++x)
-            for (int k = 0; k < c.member.to.used(); ++k)
-                c.set(dst, x, y, k, uint8_t(255 - c.get<uint8_t>(src, x, y, k)));
-}
+// Products over the largest value of the type: rounded down, or to nearest.
+struct OverLargest {
+    template <class T>
+    requires(std::is_same_v<T, uint8_t> || std::is_same_v<T, uint16_t>) T operator()(T b, T a) const {
+        const uint64_t p = uint64_t(a) * b, most = std::numeric_limits<T>::max();
+        return T(sizeof(T) == 1 ? p / most : (2 * p + most) / (2 * most));
+    }
+};
 
-const std::vector<Check> refusals = {pointers({"src1", "src2", "src", "dst", "srcDst", "value"}), sizes({"roiSize"})};
+template <class Op>
+void computeUnary(Case& c) {
+    const Image &src = c.image(c.has("src") ? "src" : "srcDst"), &dst = c.image(c.has("dst") ? "dst" : "srcDst");
+    withElement(dst.element, [&](auto zero) {
+        using T = decltype(zero);
+        for (int64_t y = 0; y < c.height; ++y)
+            for (int64_t x = 0; x < c.width; ++x)
+                for (int k = 0; k < c.member.to.used(); ++k) {
+                    const T a = c.get<T>(src, x, y, k);
+                    if (c.has("scaleFactor"))
+                        c.set(dst, x, y, k, scaled<T>(__int128(a) * __int128(a), c.arg("scaleFactor").a));
+                    else
+                        c.set(dst, x, y, k, T(Op()(a)));
+                }
+    });
+}
+struct Square {
+    template <class T>
+    T operator()(T a) const {
+        return std::is_same_v<T, float> ? T(singlePrecision<std::multiplies<>>(float(a), float(a))) : a;
+    }
+};
+struct Magnitude {
+    template <class T>
+    T operator()(T a) const {
+        if constexpr (std::is_floating_point_v<T>) {
+            uint32_t bits;
+            std::memcpy(&bits, &a, 4);
+            bits &= 0x7fffffff;
+            return std::memcpy(&a, &bits, 4), a;
+        } else {
+            return T(std::min<int64_t>(std::abs(int64_t(a)), std::numeric_limits<T>::max()));
+        }
+    }
+};
+struct Minus {
+    template <class T>
+    T operator()(T a) const {
+        return T(-int64_t(a));
+    }
+};
+struct Inverse {
+    template <class T>
+    T operator()(T a) const {
+        return T(std::numeric_limits<T>::max() - a);
+    }
+};
+
+const std::vector<Check> anyStep = {pointers({"src1", "src2", "src", "dst", "srcDst", "value"}), sizes({"roiSize"})};
+const std::vector<Check> positiveStep = {
+    anyStep[0], anyStep[1], positive({"src1Step", "src2Step", "srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP)};
 
 }  // namespace
 
-#define ARITHMETIC(name, Op, rounded)                                                                                  \
+#define ARITHMETIC(name, Op)                                                                                           \
     extern const Family test_##name = {.arrange = arrangeBinary,                                                       \
                                        .oracle = computeBinary<Op>,                                                    \
                                        .steps = Steps::any,                                                            \
-                                       .ladder = refusals,                                                             \
-                                       .rounds = rounded,                                                              \
+                                       .ladder = anyStep,                                                              \
+                                       .rounds = true,                                                                 \
                                        .bulk = true};
-ARITHMETIC(zmviAdd, std::plus<>, true)
-ARITHMETIC(zmviAddC, std::plus<>, true)
-ARITHMETIC(zmviSub, std::minus<>, true)
-ARITHMETIC(zmviSubC, std::minus<>, true)
-ARITHMETIC(zmviMul, std::multiplies<>, true)
-ARITHMETIC(zmviMulC, std::multiplies<>, true)
-ARITHMETIC(zmviAnd, std::bit_and<>, false)
-ARITHMETIC(zmviAndC, std::bit_and<>, false)
-ARITHMETIC(zmviOr, std::bit_or<>, false)
-ARITHMETIC(zmviOrC, std::bit_or<>, false)
-ARITHMETIC(zmviXor, std::bit_xor<>, false)
-ARITHMETIC(zmviXorC, std::bit_xor<>, false)
-extern const Family test_zmviNot = {
-    .arrange = arrangeBinary, .oracle = computeNot, .steps = Steps::any, .ladder = refusals};
+ARITHMETIC(zmviAdd, std::plus<>)
+ARITHMETIC(zmviAddC, std::plus<>)
+ARITHMETIC(zmviSub, std::minus<>)
+ARITHMETIC(zmviSubC, std::minus<>)
+ARITHMETIC(zmviMul, std::multiplies<>)
+ARITHMETIC(zmviMulC, std::multiplies<>)
+
+#define LOGIC(name, compute)                                                                                           \
+    extern const Family test_##name = {                                                                                \
+        .arrange = arrangeBinary, .oracle = compute, .ladder = positiveStep, .bulk = true};
+LOGIC(zmviAnd, computeBinary<std::bit_and<>>)
+LOGIC(zmviAndC, computeBinary<std::bit_and<>>)
+LOGIC(zmviOr, computeBinary<std::bit_or<>>)
+LOGIC(zmviOrC, computeBinary<std::bit_or<>>)
+LOGIC(zmviXor, computeBinary<std::bit_xor<>>)
+LOGIC(zmviXorC, computeBinary<std::bit_xor<>>)
+LOGIC(zmviMulScale, computeBinary<OverLargest>)
+LOGIC(zmviMulCScale, computeBinary<OverLargest>)
+LOGIC(zmviAbs, computeUnary<Magnitude>)
+LOGIC(zmviComplement, computeUnary<Minus>)
+LOGIC(zmviNot, computeUnary<Inverse>)
+extern const Family test_zmviSqr = {
+    .arrange = arrangeBinary, .oracle = computeUnary<Square>, .ladder = positiveStep, .rounds = true};
