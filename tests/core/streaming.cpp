@@ -67,8 +67,8 @@ TEST(Streaming, AsksFromItsThresholdOn) {
         }
     }
     // Set C1 C3 C4; planar copies in both directions of 3 and 4 planes, of which bytes ask in one; arithmetic on two
-    // images C1 C3 C4, with both widths of sizes, and logic.
-    EXPECT_TRUE(asking == 3 * 5 + 4 * 4 + 1 + 3 * 4 * 3 * 2 + 3 * 3 * 3 || !options.only.empty()) << asking;
+    // images C1 C3 C4, with both widths of sizes; logic; scaled products.
+    EXPECT_TRUE(asking == 3 * 5 + 4 * 4 + 1 + 3 * 4 * 3 * 2 + 3 * 3 * 3 + 2 * 3 || !options.only.empty()) << asking;
 }
 
 TEST(Streaming, OthersNeverAsk) {
