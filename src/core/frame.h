@@ -71,6 +71,10 @@ template <>
 struct UnsignedOf<4> {
     using type = uint32_t;
 };
+template <>
+struct UnsignedOf<8> {
+    using type = uint64_t;
+};
 template <class T>
 using Bits = typename UnsignedOf<int(sizeof(T))>::type;
 template <class T>

@@ -22,18 +22,13 @@ Channels<T, n> inPixels(Image<T> image, int distance) {
 
 template <class T, int n>
 bool overlaps(const Channels<const T, n>& src, const Channels<T, n>& dst, Roi roi) {
-    struct Range {
-        uintptr_t from, to;
-    };
     const auto range = [&](const auto& channels, int c) {
-        const auto top = reinterpret_cast<uintptr_t>(channels.row(c, 0));
-        const auto bottom = reinterpret_cast<uintptr_t>(channels.row(c, roi.height - 1));
-        return Range{std::min(top, bottom),
-                     std::max(top, bottom) + uintptr_t(rowBytes<T>(roi.width, 1, channels.distance))};
+        return addressesOf(image(channels.first[c], channels.step), roi.height,
+                           rowBytes<T>(roi.width, 1, channels.distance));
     };
     for (int i = 0; i < n; ++i)
         for (int k = 0; k < n; ++k)
-            if (const Range a = range(src, i), b = range(dst, k); a.from < b.to && b.from < a.to) return true;
+            if (range(src, i).meets(range(dst, k))) return true;
     return false;
 }
 

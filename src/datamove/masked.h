@@ -2,6 +2,7 @@
 #pragma once
 
 #include "kernels/rows.h"
+#include "kernels/simd_convert.h"
 
 namespace zmv {
 

@@ -86,8 +86,8 @@ class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
         };
         constexpr int half = lanes<uint16_t>;
         for (Len i = 0; i < count; i += 2 * half) {
-            const auto means = narrowBytes(mean(i), i + half < count ? mean(i + half) : Vec<uint16_t>{});
-            storeUpTo(dst + i, means, int(std::min<Len>(2 * half, count - i)));
+            const std::array means{asSigned(mean(i)), i + half < count ? asSigned(mean(i + half)) : Vec<int16_t>{}};
+            storeUpTo(dst + i, joined<uint8_t>(means), int(std::min<Len>(2 * half, count - i)));
         }
     }
 

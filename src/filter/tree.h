@@ -4,6 +4,7 @@
 #pragma once
 
 #include "kernels/rows.h"
+#include "kernels/simd_convert.h"
 
 namespace zmv {
 

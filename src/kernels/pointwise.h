@@ -32,12 +32,13 @@ struct ConstantRow {
     Vec<T> at(Len, int k) const { return period[k]; }
     Vec<T> part(Len, int k, int) const { return period[k]; }
 };
+// Elements x to x + n of row y; a constant starts with its first channel.
 template <class T>
-ZMV_INLINE ImageRow<T> rowOf(Image<const T> image, Len y, Len first) {
-    return {image.row(y) + first};
+ZMV_INLINE ImageRow<T> rowOf(Image<const T> image, Len y, Len x, Len) {
+    return {image.row(y) + x};
 }
 template <class T>
-ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len) {
+ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len, Len) {
     return ConstantRow<T>(constant.pattern);
 }
 template <class T>
@@ -59,13 +60,12 @@ ZMV_INLINE void pointwiseRow(const Rule& rule, T* dst, Len count, const Row&... 
         storePart(to + done, rule(rows.part(done, int(done / width % 3), rest)...), rest);
 }
 
-// dst = rule(operands...) over a region.  Where a channel is left alone, and past the caches, results take a detour
-// through a block that stays in the nearest cache; it holds whole periods of every pattern.
-template <class T, class Rule, class... Operand>
-void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
+// Calls row(to, y, x, n) for the elements x to x + n of each row y, which it writes to `to`.  Where a channel is left
+// alone, and past the caches, results take a detour through a block that stays in the nearest cache; it holds whole
+// periods of every pattern.
+template <class T, class Row>
+void eachRow(Image<T> dst, Roi roi, Layout layout, bool pastCache, Row row) {
     constexpr Len blockBytes = 48 * width, block = blockBytes / Len(sizeof(T));
-    roi = joinRows(
-        roi, gapless(dst, roi.width, layout.channels) && (... && operandGapless(operands, roi.width, layout.channels)));
     const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / Len(sizeof(T));
     const bool direct = !layout.alpha && !pastCache;
     alignas(64) uint8_t results[blockBytes];
@@ -73,7 +73,7 @@ void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool past
         for (Len x = 0; x < count; x += block) {
             T* const to = dst.row(y) + x;
             const Len n = direct ? count : std::min(block, count - x);
-            pointwiseRow(rule, direct ? to : reinterpret_cast<T*>(results), n, rowOf(operands, y, x)...);
+            row(direct ? to : reinterpret_cast<T*>(results), y, x, n);
             if (direct) break;
             if (pastCache)
                 streamRow(to, results, n * Len(sizeof(T)));
@@ -81,6 +81,20 @@ void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool past
                 blendRow(to, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
         }
     if (pastCache) fence();
+}
+template <class T, class... Operand>
+Roi joinOperands(Roi roi, Layout layout, Image<T> dst, const Operand&... operands) {
+    return joinRows(
+        roi, gapless(dst, roi.width, layout.channels) && (... && operandGapless(operands, roi.width, layout.channels)));
+}
+
+// dst = rule(operands...) over a region.
+template <class T, class Rule, class... Operand>
+void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
+    eachRow(dst, joinOperands(roi, layout, dst, operands...), layout, pastCache,
+            [&](T* to, [[maybe_unused]] Len y, [[maybe_unused]] Len x, Len n) {
+                pointwiseRow(rule, to, n, rowOf(operands, y, x, n)...);
+            });
 }
 
 }  // namespace zmv

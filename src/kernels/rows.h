@@ -14,6 +14,18 @@ bool gapless(Image<T> image, Len width, int channels) {
     return image.step == width * channels * Len(sizeof(T));
 }
 
+// The addresses between the first and the last byte of an image.
+struct Addresses {
+    uintptr_t from, to;
+    bool meets(Addresses other) const { return from < other.to && other.from < to; }
+};
+template <class T>
+Addresses addressesOf(Image<T> image, Len height, Len rowBytes) {
+    const auto top = reinterpret_cast<uintptr_t>(image.row(0)),
+               bottom = reinterpret_cast<uintptr_t>(image.row(height - 1));
+    return {std::min(top, bottom), std::max(top, bottom) + uintptr_t(rowBytes)};
+}
+
 // Bytes that are written past the caches from here on do not sweep the caller's data out of them.
 constexpr Len largeCopy = 1048577;
 

@@ -210,56 +210,6 @@ ZMV_INLINE bool allZero(V v) {
     return any == 0;
 }
 
-// As many elements at p as To has lanes, each widened to To: one full vector, in memory's order.
-template <class To, class T, int bytes = width>
-ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
-    constexpr int ratio = int(sizeof(To) / sizeof(T));
-    [[maybe_unused]] constexpr bool sign = std::is_signed_v<T>;
-    static_assert(ratio <= 2 || (ratio == 4 && !sign));
-    if constexpr (ratio == 1) {
-        return (Vec<To, bytes>)load<T, bytes>(p);
-#if defined(__AVX512BW__)
-    } else if constexpr (bytes == 64 && ratio == 4) {
-        return (Vec<To, 64>)_mm512_cvtepu8_epi32(loadAs<__m128i>(p));
-    } else if constexpr (bytes == 64 && sizeof(T) == 1) {
-        return (Vec<To, 64>)_mm512_cvtepu8_epi16(loadAs<__m256i>(p));
-    } else if constexpr (bytes == 64) {
-        const auto raw = loadAs<__m256i>(p);
-        return (Vec<To, 64>)(sign ? _mm512_cvtepi16_epi32(raw) : _mm512_cvtepu16_epi32(raw));
-#endif
-#if defined(__AVX2__)
-    } else if constexpr (bytes == 32 && ratio == 4) {
-        return (Vec<To, 32>)_mm256_cvtepu8_epi32(_mm_cvtsi64_si128(loadAs<long long>(p)));
-    } else if constexpr (bytes == 32 && sizeof(T) == 1) {
-        return (Vec<To, 32>)_mm256_cvtepu8_epi16(loadAs<__m128i>(p));
-    } else if constexpr (bytes == 32) {
-        const auto raw = loadAs<__m128i>(p);
-        return (Vec<To, 32>)(sign ? _mm256_cvtepi16_epi32(raw) : _mm256_cvtepu16_epi32(raw));
-#endif
-    } else if constexpr (ratio == 4) {
-        const auto words = _mm_unpacklo_epi8(_mm_cvtsi32_si128(loadAs<int>(p)), __m128i{});
-        return (Vec<To, 16>)_mm_unpacklo_epi16(words, __m128i{});
-    } else {
-        const auto raw = _mm_cvtsi64_si128(loadAs<long long>(p));
-        if constexpr (sizeof(T) == 1) return (Vec<To, 16>)_mm_unpacklo_epi8(raw, __m128i{});
-        // A signed element goes to the upper half of its lane and comes down with its sign.
-        else if constexpr (sign)
-            return (Vec<To, 16>)_mm_srai_epi32(_mm_unpacklo_epi16(raw, raw), 16);
-        else
-            return (Vec<To, 16>)_mm_unpacklo_epi16(raw, __m128i{});
-    }
-}
-
-// The first n of them, n below the lanes of To and none from 0 down; the others are zero, and nothing beyond is read.
-template <class To, class T>
-ZMV_INLINE Vec<To> loadWidenPart(const T* p, int n) {
-    constexpr int part = width * int(sizeof(T)) / int(sizeof(To)), block = part < 16 ? 16 : part;
-    if (n <= 0) return Vec<To>{};
-    T few[block / sizeof(T)];
-    store(few, loadPart<T, block>(p, n));
-    return loadWiden<To>(few);
-}
-
 // The high half of the product of unsigned 16-bit lanes.
 template <class V>
 ZMV_INLINE V mulHigh(V a, V b) {
@@ -327,72 +277,6 @@ template <class V>
 ZMV_INLINE V mulInOrder(V a, V b) {
     static_assert(std::is_floating_point_v<Element<V>>);
     ZMV_IN_ORDER("mul", a, b)
-}
-
-template <class V>
-ZMV_INLINE auto toFloat(V v) {  // from int32_t, rounded to nearest even
-    return __builtin_convertvector(v, Vec<float, sizeof(V)>);
-}
-template <class V>
-ZMV_INLINE auto truncate(V v) {  // to int32_t, toward zero; in range by the caller's care
-    return __builtin_convertvector(v, Vec<int32_t, sizeof(V)>);
-}
-template <class V>
-ZMV_INLINE auto floorToInt(V v) {
-    const auto t = truncate(v);
-    return t + (toFloat(t) > v);  // a comparison is -1 where true
-}
-
-// The low parts of a vector's lanes, stored as the narrower type D, in order; the values fit D by the caller's care.
-template <class D, class V>
-ZMV_INLINE void storeNarrow(D* p, V v) {
-    constexpr int ratio = int(sizeof(Element<V>) / sizeof(D));
-    static_assert(sizeof(Element<V>) == 4 && sizeof(D) <= 2);
-#if defined(__AVX512BW__)
-    if constexpr (sizeof(V) == 64) {
-        if constexpr (ratio == 4)
-            return store(p, _mm512_cvtepi32_epi8((__m512i)v));
-        else
-            return store(p, _mm512_cvtepi32_epi16((__m512i)v));
-    }
-#endif
-#if defined(__AVX2__)
-    if constexpr (sizeof(V) == 32) {
-        const auto low = _mm256_castsi256_si128((__m256i)v), high = _mm256_extracti128_si256((__m256i)v, 1);
-        const auto words =
-            _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)), _mm_and_si128(high, _mm_set1_epi32(0xffff)));
-        if constexpr (ratio == 4)
-            _mm_storeu_si64(p, _mm_packus_epi16(words, words));
-        else
-            store(p, words);
-        return;
-    }
-#endif
-    if constexpr (sizeof(V) == 16) {
-        // Sign-extended, the low halves pass a signed pack unchanged.
-        const auto low = _mm_srai_epi32(_mm_slli_epi32((__m128i)v, 16), 16);
-        const auto words = _mm_packs_epi32(low, low);
-        if constexpr (ratio == 2) return _mm_storeu_si64(p, words);
-        const int bytes = _mm_cvtsi128_si32(_mm_packus_epi16(words, words));
-        std::memcpy(p, &bytes, sizeof bytes);
-    }
-}
-
-// Two vectors of 16-bit lanes, their low bytes in order.
-template <class V>
-ZMV_INLINE Vec<uint8_t, sizeof(V)> narrowBytes(V a, V b) {
-    static_assert(sizeof(Element<V>) == 2);
-    using Bytes = Vec<uint8_t, sizeof(V)>;
-#if defined(__AVX512BW__)
-    if constexpr (sizeof(V) == 64)
-        return (Bytes)_mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7),
-                                               _mm512_packus_epi16((__m512i)a, (__m512i)b));
-#endif
-#if defined(__AVX2__)
-    if constexpr (sizeof(V) == 32)
-        return (Bytes)_mm256_permute4x64_epi64(_mm256_packus_epi16((__m256i)a, (__m256i)b), 0xd8);
-#endif
-    if constexpr (sizeof(V) == 16) return (Bytes)_mm_packus_epi16((__m128i)a, (__m128i)b);
 }
 
 // Element i is the sum of elements 0 .. i.

@@ -129,7 +129,7 @@ ZMV_INLINE W atMostMax(W v) {
         return v | (W)((v >> 16) != 0);  // of too large ones only the low bits, all ones, are looked at
 }
 
-// Two vectors of lanes of twice the width as one of T, saturated.  Signed numbers become uint16_t from -2^31 + 2^15 on.
+// Two vectors of lanes of twice the width as one of T, saturated.
 template <class T, class W>
 ZMV_INLINE Vec<T, sizeof(W)> narrow(W low, W high) {
     using From = Element<W>;
@@ -147,8 +147,9 @@ ZMV_INLINE Vec<T, sizeof(W)> narrow(W low, W high) {
         ZMV_AT_ALL(To, packs_epi32, low, high)
     } else {
         ZMV_ABOVE_128(To, packus_epi32, low, high)
-        // The signed pack, on numbers moved down by half the range.
-        if constexpr (sizeof(W) == 16) return (To)(narrow<int16_t>(low - 32768, high - 32768) ^ int16_t(-32768));
+        // The signed pack, on numbers from 0 on, moved down by half the range.
+        const auto moved = [](W v) { return (v & ~(v >> 31)) - 32768; };
+        if constexpr (sizeof(W) == 16) return (To)(narrow<int16_t>(moved(low), moved(high)) ^ int16_t(-32768));
     }
 }
 

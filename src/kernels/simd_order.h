@@ -98,11 +98,16 @@ ZMV_INLINE V even(V a, V b) {  // the even elements of a, then those of b
 #endif
     return permute<typename InLanes<V>::Even>(a, b);
 }
-// Four vectors packed into one by two steps of even() leave a quarter of each in every lane: back to their order.
-template <class V>
-struct FourVectors {
-    static constexpr int at(int i) { return i % (lanesOf<V> / 4) * 4 + i / (lanesOf<V> / 4); }
+// n vectors packed into one, lane by lane, leave an nth of each in every lane: back to their order.
+template <class V, int n>
+struct OfVectors {
+    static constexpr int at(int i) { return i % (lanesOf<V> / n) * n + i / (lanesOf<V> / n); }
 };
+template <int n, class V>
+ZMV_INLINE V partsInOrder(V packed) {
+    using Parts = Vec<std::conditional_t<n == 2, uint64_t, uint32_t>, sizeof(V)>;
+    return (V)permute<OfVectors<Parts, n>>((Parts)packed, (Parts)packed);
+}
 // Odd elements in even places; what is left in odd places is not used.
 template <class V>
 ZMV_INLINE V oddToEven(V v) {
@@ -245,12 +250,8 @@ ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
 // The first channel of lanes<T> pixels of four at p.
 template <class T>
 ZMV_INLINE Vec<T> loadFirstOfFour(const T* p) {
-    using V = Vec<T>;
-    const auto packed = even(even(load(p), load(p + lanes<T>)), even(load(p + 2 * lanes<T>), load(p + 3 * lanes<T>)));
-    if constexpr (width == 16)
-        return packed;
-    else
-        return (V)permute<FourVectors<Vec<uint32_t>>>((Vec<uint32_t>)packed, (Vec<uint32_t>)packed);
+    return partsInOrder<4>(
+        even(even(load(p), load(p + lanes<T>)), even(load(p + 2 * lanes<T>), load(p + 3 * lanes<T>))));
 }
 
 }  // namespace zmv

@@ -1,0 +1,80 @@
+// The walker of operations whose operands or results are of other types than what is computed with: pixel by pixel too,
+// in lanes of a type W.  Operands are widened to it; results are saturated, and real numbers rounded.
+#pragma once
+
+#include "kernels/pointwise.h"
+#include "kernels/rounding.h"
+#include "kernels/simd_convert.h"
+
+namespace zmv {
+
+// One value a channel, as W.
+template <class W>
+class ConstantIn {
+  public:
+    // The fourth channel of AC4 is zero.
+    template <class T>
+    ConstantIn(const T* values, Layout layout) {
+        for (int i = 0; i < period + lanes<W>; ++i) {
+            const int channel = i % layout.channels;
+            values_[i] = channel < layout.used() ? W(get(values + channel)) : W(0);
+        }
+    }
+    Vec<W> at(Len x) const { return load(values_ + x % period); }
+
+  private:
+    static constexpr int period = 12;  // a multiple of every number of channels
+    W values_[period + lanes<W>];
+};
+
+// What a row of an operand gives: the vector that starts at element x, and one of which n elements exist.
+template <class W, class T>
+struct ImageRowIn {
+    const T* row;
+    Vec<W> at(Len x) const { return loadWiden<W>(row + x); }
+    Vec<W> part(Len x, Len n) const { return loadWidenUpTo<W>(row + x, n < lanes<W> ? int(n) : lanes<W>); }
+};
+template <class W>
+struct ConstantRowIn {
+    const ConstantIn<W>& constant;
+    Vec<W> at(Len x) const { return constant.at(x); }
+    Vec<W> part(Len x, Len) const { return constant.at(x); }
+};
+template <class W, class T>
+ZMV_INLINE ImageRowIn<W, T> rowIn(Image<const T> image, Len y, Len x, Len) {
+    return {image.row(y) + x};
+}
+template <class W>
+ZMV_INLINE ConstantRowIn<W> rowIn(const ConstantIn<W>& constant, Len, Len, Len) {
+    return {constant};
+}
+template <class W>
+bool operandGapless(const ConstantIn<W>&, Len, int) {
+    return true;
+}
+
+template <class W, class T, class Rule, class... Row>
+ZMV_INLINE void pointwiseRowIn(const Rule& rule, T* dst, Len count, const Row&... rows) {
+    constexpr size_t vectors = sizeof(W) / sizeof(T);
+    std::array<Vec<W>, vectors> results;
+    Len x = 0;
+    for (; count - x >= lanes<T>; x += lanes<T>) {
+        for (size_t i = 0; i < vectors; ++i) results[i] = rule(rows.at(x + Len(i) * lanes<W>)...);
+        store(dst + x, joined<T>(results));
+    }
+    if (x == count) return;
+    for (size_t i = 0; i < vectors; ++i) {
+        const Len at = x + Len(i) * lanes<W>;
+        results[i] = rule(rows.part(at, count - at)...);
+    }
+    storePart(dst + x, joined<T>(results), int(count - x));
+}
+
+// dst = rule(operands...) over a region, the rule in lanes of W.
+template <class W, class T, class Rule, class... Operand>
+void pointwiseIn(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
+    eachRow(dst, joinOperands(roi, layout, dst, operands...), layout, pastCache,
+            [&](T* to, Len y, Len x, Len n) { pointwiseRowIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); });
+}
+
+}  // namespace zmv
