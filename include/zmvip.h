@@ -1151,6 +1151,194 @@ ZMV_API StatusCode zmviMulC_32f_AC4R_L(const float* src, int64_t srcStep, const 
 ZMV_API StatusCode zmviMulC_32f_AC4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
 ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
 
+/* zmviDiv: dst = src2 / src1; in place, srcDst = srcDst / src.
+   Integers: the exact quotient times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
+   any scaleFactor is accepted.  32f: the quotient in single precision, under the caller's rounding mode.
+   Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
+   negative one, zero for zero, and floats what division gives; the call ends with STATUS_WARN_DIV_BY_ZERO.  A fourth
+   channel that is left alone is not looked at.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
+   if it has that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not
+   positive.
+   src/arith/pidiv.cpp */
+ZMV_API StatusCode zmviDiv_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C1RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C1IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C3RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C3IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_C4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_AC4RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_8u_AC4IRSfs_L(const uint8_t* src, int64_t srcStep, uint8_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C1RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C1IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C3RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C3IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_C4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_AC4RSfs_L(const uint16_t* src1, int64_t src1Step, const uint16_t* src2, int64_t src2Step, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16u_AC4IRSfs_L(const uint16_t* src, int64_t srcStep, uint16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C1RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C1IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C3RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C3IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_C4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_AC4RSfs_L(const int16_t* src1, int64_t src1Step, const int16_t* src2, int64_t src2Step, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_16s_AC4IRSfs_L(const int16_t* src, int64_t srcStep, int16_t* srcDst, int64_t srcDstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDiv_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C1R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C1IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C3R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C3IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_C4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_AC4R_L(const float* src1, int64_t src1Step, const float* src2, int64_t src2Step, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDiv_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDiv_32f_AC4IR_L(const float* src, int64_t srcStep, float* srcDst, int64_t srcDstStep, ImageSizeL roiSize);
+
+/* zmviDivC: dst = src / value, rounded as in zmviDiv.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_DIV_BY_ZERO: a value is zero, of either sign.
+   src/arith/pidiv.cpp */
+ZMV_API StatusCode zmviDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C1RSfs_L(const uint8_t* src, int64_t srcStep, uint8_t value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C1IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, uint8_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C3RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C3IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_C4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_AC4RSfs_L(const uint8_t* src, int64_t srcStep, const uint8_t* value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, const uint8_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_8u_AC4IRSfs_L(uint8_t* srcDst, int64_t srcDstStep, const uint8_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C1RSfs_L(const uint16_t* src, int64_t srcStep, uint16_t value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, uint16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C1IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, uint16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C3RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C3IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_C4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_AC4RSfs_L(const uint16_t* src, int64_t srcStep, const uint16_t* value, uint16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16u_AC4IRSfs_L(uint16_t* srcDst, int64_t srcDstStep, const uint16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C1RSfs_L(const int16_t* src, int64_t srcStep, int16_t value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, int16_t value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C1IRSfs_L(int16_t* srcDst, int64_t srcDstStep, int16_t value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C3RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C3IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_C4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t* value, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_AC4RSfs_L(const int16_t* src, int64_t srcStep, const int16_t* value, int16_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, const int16_t* value, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_16s_AC4IRSfs_L(int16_t* srcDst, int64_t srcDstStep, const int16_t* value, ImageSizeL roiSize, int scaleFactor);
+ZMV_API StatusCode zmviDivC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C1R_L(const float* src, int64_t srcStep, float value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_C1IR(float* srcDst, int srcDstStep, float value, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C1IR_L(float* srcDst, int64_t srcDstStep, float value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_C3R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C3R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_C3IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C3IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_C4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_C4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_C4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_AC4R(const float* src, int srcStep, const float* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_AC4R_L(const float* src, int64_t srcStep, const float* value, float* dst, int64_t dstStep, ImageSizeL roiSize);
+ZMV_API StatusCode zmviDivC_32f_AC4IR(float* srcDst, int srcDstStep, const float* value, ImageSize roiSize);
+ZMV_API StatusCode zmviDivC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
+
+/* zmviDiv_Round: dst = src2 / src1; in place, srcDst = srcDst / src.
+   The exact quotient times 2 to the power of -scaleFactor, rounded once, saturated; any scaleFactor is accepted.
+   roundMode: ROUND_ZERO toward zero; ROUND_NEAR to nearest, ties to even; ROUND_FINANCIAL to the largest integer
+   that does not exceed the result plus one half.
+   Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
+   negative one, zero for zero, and floats what division gives; the call ends with STATUS_WARN_DIV_BY_ZERO.  A fourth
+   channel that is left alone is not looked at.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
+   if it has that source's step; other overlap is undefined.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not
+   positive.  STATUS_BAD_ROUND_MODE: roundMode is none of these.
+   src/arith/pidiv.cpp */
+ZMV_API StatusCode zmviDiv_Round_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviDiv_Round_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+
 /* zmviAnd: dst = src1 & src2, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
@@ -1388,6 +1576,109 @@ ZMV_API StatusCode zmviMulCScale_16u_C4IR(uint16_t* srcDst, int srcDstStep, cons
 ZMV_API StatusCode zmviMulCScale_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviMulCScale_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint16_t* value, ImageSize roiSize);
 
+/* zmviMulC64f: dst = src * value, the product formed in double precision.
+   Integers: rounded to nearest with ties to even, saturated; a NaN gives 0.  32f: rounded to single precision, to
+   nearest even whatever the caller's rounding mode.
+   value is one number for C1, a pointer to three for C3, to four for C4.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pimul.cpp */
+ZMV_API StatusCode zmviMulC64f_8u_C1R(const uint8_t* src, int srcStep, double value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_8u_C1IR(uint8_t* srcDst, int srcDstStep, double value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_8u_C3R(const uint8_t* src, int srcStep, const double* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_8u_C3IR(uint8_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_8u_C4R(const uint8_t* src, int srcStep, const double* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_8u_C4IR(uint8_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C1R(const uint16_t* src, int srcStep, double value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C1IR(uint16_t* srcDst, int srcDstStep, double value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C3R(const uint16_t* src, int srcStep, const double* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C3IR(uint16_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C4R(const uint16_t* src, int srcStep, const double* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16u_C4IR(uint16_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C1R(const int16_t* src, int srcStep, double value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C1IR(int16_t* srcDst, int srcDstStep, double value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C3R(const int16_t* src, int srcStep, const double* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C3IR(int16_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C4R(const int16_t* src, int srcStep, const double* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_16s_C4IR(int16_t* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C1R(const float* src, int srcStep, double value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C1IR(float* srcDst, int srcDstStep, double value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C3R(const float* src, int srcStep, const double* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C3IR(float* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C4R(const float* src, int srcStep, const double* value, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMulC64f_32f_C4IR(float* srcDst, int srcDstStep, const double* value, ImageSize roiSize);
+
+/* zmviLShiftC: dst = src << value.  A value of the element's width in bits or more leaves 0.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pishift.cpp */
+ZMV_API StatusCode zmviLShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_C3R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_C4R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_AC4R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C1R(const uint16_t* src, int srcStep, uint32_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C3R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C4R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_AC4R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C1R(const int32_t* src, int srcStep, uint32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C1IR(int32_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C3R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C3IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C4R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_C4IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_AC4R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+
+/* zmviRShiftC: dst = src >> value.  Signed types keep their sign; a value of the element's width in bits or more leaves 0, or -1
+   of negative numbers.
+   value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pishift.cpp */
+ZMV_API StatusCode zmviRShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_C3R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_C3IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_C4R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_C4IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_AC4R(const uint8_t* src, int srcStep, const uint32_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C1R(const uint16_t* src, int srcStep, uint32_t value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C3R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C3IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C4R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_C4IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_AC4R(const uint16_t* src, int srcStep, const uint32_t* value, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C1R(const int16_t* src, int srcStep, uint32_t value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C1IR(int16_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C3R(const int16_t* src, int srcStep, const uint32_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C3IR(int16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C4R(const int16_t* src, int srcStep, const uint32_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_C4IR(int16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_AC4R(const int16_t* src, int srcStep, const uint32_t* value, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_16s_AC4IR(int16_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C1R(const int32_t* src, int srcStep, uint32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C1IR(int32_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C3R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C3IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C4R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_C4IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_AC4R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviRShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
+
 /* zmviAbs: dst = |src|; of -32768 it is 32767.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1450,6 +1741,90 @@ ZMV_API StatusCode zmviSqr_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roi
 ZMV_API StatusCode zmviSqr_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviSqr_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
 
+/* zmviSqrt: dst = the square root of src.
+   Integers: the exact root times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   Negative numbers give 0.  32f: the root in single precision, under the caller's rounding mode; negative numbers
+   give NaN.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piunary.cpp */
+ZMV_API StatusCode zmviSqrt_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_8u_C3RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_8u_AC4RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_8u_AC4IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_C3RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_AC4RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16u_AC4IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_C1RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_C3RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_AC4RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_16s_AC4IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviSqrt_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviSqrt_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviExp: dst = e to the power of src.
+   Integers: the result in double precision times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   32f: within one unit in the last place, the same whatever the caller's rounding mode; minus infinity gives 0.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piexpln.cpp */
+ZMV_API StatusCode zmviExp_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_8u_C3RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16u_C3RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16s_C1RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16s_C3RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviExp_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviExp_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviExp_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviExp_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviLn: dst = the natural logarithm of src.
+   Integers: the result in double precision times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   Zero and negative numbers give the smallest of the type.  32f: within one unit in the last place, the same whatever
+   the caller's rounding mode; zero gives minus infinity, negative numbers NaN.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/piexpln.cpp */
+ZMV_API StatusCode zmviLn_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_8u_C3RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_8u_C3IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16u_C1IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16u_C3RSfs(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16u_C3IRSfs(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16s_C1RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16s_C1IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16s_C3RSfs(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_16s_C3IRSfs(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+ZMV_API StatusCode zmviLn_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLn_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLn_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviLn_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
 /* zmviComplement: dst = -src in two's complement; the type's minimum stays as it is.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1493,6 +1868,125 @@ ZMV_API StatusCode zmviNot_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst,
 ZMV_API StatusCode zmviNot_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviConvert: dst = src as another element type: the name has the two types, source first.
+   Wider types hold every value; 32s32f and 32u32f round to nearest even.  Narrower types saturate.  Rs: negative
+   numbers become 0.  With roundMode: a real number becomes an integer by ROUND_ZERO, toward zero; by ROUND_NEAR, to
+   nearest with ties to even; by any other value, plus one half and then toward zero.  It saturates; NaN becomes 0.
+   RSfs: the value times 2 to the power of -scaleFactor, exactly, before that; any scaleFactor is accepted.  The
+   caller's rounding mode has no influence and is not changed.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: 32f32u_C1IRSfs, whose srcDst holds uint32_t afterwards; elsewhere src and dst must not overlap, but in Rs,
+   which then converts element by element from the first on.
+   Except in Rs, RSfs and AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive; Rs accepts any step.
+   src/datamove/piconvertca.cpp, datamove/piconvert_ort.cpp */
+ZMV_API StatusCode zmviConvert_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16u_C4R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16u_AC4R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16s_C3R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16s_C4R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u16s_AC4R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32s_C1R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32s_C3R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32s_C4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32s_AC4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8u32f_AC4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32s_C1R(const int8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32s_C3R(const int8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32s_C4R(const int8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32s_AC4R(const int8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32f_C1R(const int8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32f_C3R(const int8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32f_C4R(const int8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32f_AC4R(const int8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32s_C1R(const uint16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32s_C3R(const uint16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32s_C4R(const uint16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32s_AC4R(const uint16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32f_AC4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32s_C1R(const int16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32s_C3R(const int16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32s_C4R(const int16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32s_AC4R(const int16_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32f_AC4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s16s_C1R(const int8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s64f_C1R(const int8_t* src, int srcStep, double* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u32u_C1R(const uint16_t* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s32f_C1R(const int32_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32u32f_C1R(const uint32_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s8u_C1R(const int16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s8u_C3R(const int16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s8u_C4R(const int16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s8u_AC4R(const int16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u8u_C1R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u8u_C3R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u8u_C4R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16u8u_AC4R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8u_C1R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8u_C3R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8u_C4R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8u_AC4R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8s_C1R(const int32_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8s_C3R(const int32_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8s_C4R(const int32_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s8s_AC4R(const int32_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s8u_C1Rs(const int8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s16u_C1Rs(const int8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_8s32u_C1Rs(const int8_t* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s16u_C1Rs(const int16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_16s32u_C1Rs(const int16_t* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32s32u_C1Rs(const int32_t* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviConvert_32f8u_C1R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8u_C3R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8u_C4R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8u_AC4R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8s_C1R(const float* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8s_C3R(const float* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8s_C4R(const float* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f8s_AC4R(const float* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16u_C1R(const float* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16u_C3R(const float* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16u_C4R(const float* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16u_AC4R(const float* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16s_C1R(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16s_C3R(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16s_C4R(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_32f16s_AC4R(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode);
+ZMV_API StatusCode zmviConvert_8u8s_C1RSfs(const uint8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_16s8s_C1RSfs(const int16_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_16u8s_C1RSfs(const uint16_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_16u16s_C1RSfs(const uint16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32s16s_C1RSfs(const int32_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32s16u_C1RSfs(const int32_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32u8u_C1RSfs(const uint32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32u8s_C1RSfs(const uint32_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32u16u_C1RSfs(const uint32_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32u16s_C1RSfs(const uint32_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32u32s_C1RSfs(const uint32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f8u_C1RSfs(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f8s_C1RSfs(const float* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f16u_C1RSfs(const float* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f16s_C1RSfs(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f32s_C1RSfs(const float* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f32u_C1RSfs(const float* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_32f32u_C1IRSfs(float* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_64f8u_C1RSfs(const double* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_64f8s_C1RSfs(const double* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_64f16u_C1RSfs(const double* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
+ZMV_API StatusCode zmviConvert_64f16s_C1RSfs(const double* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
 
 #ifdef __cplusplus
 }

@@ -92,6 +92,10 @@ typedef struct Complex32f {
 /* Element types as arguments of size queries. */
 enum { DATATYPE_8U = 1, DATATYPE_16U = 5, DATATYPE_16S = 7, DATATYPE_32F = 13, DATATYPE_64F = 19 };
 
+/* How a real number becomes an integer.  The financial mode adds one half, then cuts down: zmviDiv_Round to the integer
+   below, zmviConvert toward zero. */
+enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };
+
 /* The border word: a rule, plus one flag for every side whose outside pixels are readable in memory and to be used
    as they are.  BORDER_IN_MEM alone means that the whole frame is readable. */
 enum {

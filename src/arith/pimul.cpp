@@ -1,5 +1,7 @@
 // zmviMul, zmviMulC: the product.  zmviMulScale, zmviMulCScale: the product over the largest value of the type.
+// zmviMulC64f: the product with numbers of double precision.
 #include "arith/binary.h"
+#include "kernels/pointwise_in.h"
 
 namespace zmv {
 namespace {
@@ -40,6 +42,17 @@ struct MulScale {
     }
 };
 
+struct MulC64f {
+    ZMV_INLINE Vec<double> operator()(Vec<double> a, Vec<double> b) const { return mulInOrder(b, a); }
+};
+template <std::same_as<MulC64f> Op, class T>
+StatusCode ownpi_WithConstant(Image<const T> src, const double* value, Image<T> dst, Roi roi, Layout layout, int) {
+    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const RoundingControl control(RoundingControl::toNearestEven);
+    pointwiseIn<double>(Op(), dst, roi, layout, false, ConstantIn<double>(value, layout), src);
+    return STATUS_OK;
+}
+
 }  // namespace
 }  // namespace zmv
 
@@ -50,3 +63,4 @@ BINARY_FAMILY(Mul)
 CONSTANT_FAMILY(Mul)
 MUL_SCALE_FAMILY
 MUL_C_SCALE_FAMILY
+MUL_C64F_FAMILY

@@ -1,4 +1,5 @@
-// zmviAbs, zmviSqr, zmviComplement, zmviNot: operations on one image.
+// zmviAbs, zmviSqr, zmviSqrt, zmviComplement, zmviNot: operations on one image.
+#include "arith/real.h"
 #include "arith/scaled.h"
 
 namespace zmv {
@@ -58,6 +59,28 @@ StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout,
     return STATUS_OK;
 }
 
+// The root of a negative integer is NaN, which becomes zero.  That of a float is rounded as the caller wants.
+struct Sqrt {
+    ZMV_INLINE Vec<float> operator()(Vec<float> a) const { return squareRoot(a); }
+};
+template <std::same_as<Sqrt> Op, class T>
+StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const bool pastCache = !layout.alpha && src.data != dst.data &&
+                           writesPastCache(2 * roi.width * roi.height * layout.channels * Len(sizeof(T)));
+    if constexpr (std::is_floating_point_v<T>) {
+        pointwise(Op(), dst, roi, layout, pastCache, src);
+    } else {
+        const RoundingControl control(RoundingControl::toNearestEven);
+        withPrecision<T>(factor, [&](auto zero) {
+            using F = decltype(zero);
+            const auto rule = [scale = scaleOf<F>(factor)](Vec<F> a) { return squareRoot(a) * scale; };
+            pointwiseIn<F>(rule, dst, roi, layout, pastCache, src);
+        });
+    }
+    return STATUS_OK;
+}
+
 }  // namespace
 }  // namespace zmv
 
@@ -66,5 +89,6 @@ using namespace zmv;
 #include "arith/unary.def"
 ABS_FAMILY
 SQR_FAMILY
+SQRT_FAMILY
 COMPLEMENT_FAMILY
 NOT_FAMILY

@@ -1,31 +1,12 @@
 // zmviAdd, zmviSub, zmviMul, zmviMulScale, zmviAnd, zmviOr, zmviXor, and with a constant; zmviAbs, zmviSqr,
-// zmviComplement, zmviNot.
-#include <cmath>
+// zmviComplement, zmviNot, zmviLShiftC, zmviRShiftC: exact in integers.
 #include <functional>
-#include <limits>
 
-#include "harness/case.h"
+#include "arith/arith.h"
+
+namespace test {
 
 namespace {
-
-using namespace test;
-
-// x * 2^-factor, rounded half to even, saturated.
-template <class T>
-T scaled(__int128 x, int64_t factor) {
-    using Limits = std::numeric_limits<T>;
-    if (factor <= 0)
-        x = factor < -40 ? (x > 0) - (x < 0) : x, x *= __int128(1) << std::min<int64_t>(-factor, 40);
-    else if (factor > 40)
-        x = 0;
-    else {
-        const __int128 unit = __int128(1) << factor;
-        __int128 whole = x >> factor, rest = x - whole * unit;
-        if (2 * rest > unit || (2 * rest == unit && (whole & 1))) ++whole;
-        x = whole;
-    }
-    return T(x < Limits::min() ? Limits::min() : x > Limits::max() ? Limits::max() : x);
-}
 
 int factorOf(Case& c) {
     static const int extremes[] = {INT32_MIN, INT32_MIN + 1, -64, -33, -32, -31, 31, 32, 33, 63, 64, INT32_MAX};
@@ -36,78 +17,62 @@ int factorOf(Case& c) {
 // Numbers near ties and limits, for which random bytes are too random.
 void fillNumbers(Case& c, const std::string& name) {
     const Image& image = c.image(name);
-    if (image.element == Element::f32 || c.rng.oneIn(3)) return;
+    if (c.rng.oneIn(3)) return;
     withElement(image.element, [&](auto zero) {
         using T = decltype(zero);
+        static constexpr double reals[] = {0, -0.0, 1, -1, 0.5, 1.5, 255, -1e-40, 1e30, 0.49999997, 3.25, 65535.5};
         for (int64_t y = 0; y < image.height; ++y)
             for (int64_t x = 0; x < image.width; ++x)
                 for (int k = 0; k < image.channels; ++k) {
-                    const T power = T(1u << c.rng.below(8 * int(sizeof(T))));
-                    if (c.rng.oneIn(2)) c.set(image, x, y, k, T(power * c.rng.between(-3, 3) + c.rng.between(-1, 1)));
+                    if (c.rng.oneIn(2)) continue;
+                    if constexpr (std::is_floating_point_v<T>) {
+                        c.set(image, x, y, k, T(reals[c.rng.below(12)]));
+                    } else {
+                        const T power = T(1u << c.rng.below(8 * int(sizeof(T))));
+                        c.set(image, x, y, k, T(int64_t(power) * c.rng.between(-3, 3) + c.rng.between(-1, 1)));
+                    }
                 }
-        if (name == "value" && !c.member.points(name)) {
-            const T value = c.get<T>(image, 0, 0);
-            std::memcpy(&c.arg(name).a, &value, sizeof value);
-        }
     });
 }
 
-void arrangeBinary(Case& c) {
-    const bool constant = c.has("value");
+}  // namespace
+
+void arrangeArithmetic(Case& c) {
     for (const char* name : {"src1", "src2", "src", "dst", "srcDst"})
         if (c.has(name)) c.place(name, c.width, c.height);
-    if (constant) c.placeValue("value", c.member.to.used());
-    const bool usual = c.mode == Mode::usual;
-    if (c.has("dst") && usual && c.rng.oneIn(4))
+    if (c.has("value")) c.placeValue("value", c.member.to.used());
+    if (c.has("dst") && c.member.source == c.member.destination && c.mode == Mode::usual && c.rng.oneIn(4))
         c.alias("dst", c.has("src") ? "src" : c.rng.oneIn(2) ? "src1" : "src2");
     for (const char* name : {"src1", "src2", "src", "srcDst", "value"})
         if (c.hasImage(name)) fillNumbers(c, name);
+    if (c.has("value")) bindValue(c);
     c.arg("roiSize") = {c.width, c.height};
     if (c.has("scaleFactor")) c.arg("scaleFactor") = factorOf(c);
 }
 
-// The processor's rule with b in the first place: its NaN, quieted, or the other's, or a NaN of its own.
-template <class Op>
-float singlePrecision(float b, float a) {
-    const auto asFloat = [](uint32_t bits) {
-        float x;
-        return std::memcpy(&x, &bits, 4), x;
-    };
-    for (const float x : {b, a})
-        if (std::isnan(x)) {
-            uint32_t bits;
-            std::memcpy(&bits, &x, 4);
-            return asFloat(bits | 0x400000);
-        }
-    const float result = Op()(b, a);
-    return std::isnan(result) ? asFloat(0xffc00000) : result;
-}
+}  // namespace test
 
-// op(second, first): the operand that is overwritten in place is the second; a constant takes the place of the first.
+namespace {
+
+using namespace test;
+
 template <class Op>
 void computeBinary(Case& c) {
-    const std::string dst = c.has("dst") ? "dst" : "srcDst";
-    const bool constant = c.has("value");
-    const Image& second = c.image(constant ? (c.has("src") ? "src" : "srcDst") : c.has("src2") ? "src2" : "srcDst");
-    const Image& first = c.image(constant ? "value" : c.has("src1") ? "src1" : "src");
-    const Image& to = c.image(dst);
+    const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));
     const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
     withElement(to.element, [&](auto zero) {
         using T = decltype(zero);
-        for (int64_t y = 0; y < c.height; ++y)
-            for (int64_t x = 0; x < c.width; ++x)
-                for (int k = 0; k < c.member.to.used(); ++k) {
-                    const T b = c.get<T>(second, x, y, k);
-                    const T a = constant ? c.get<T>(first, 0, 0, k) : c.get<T>(first, x, y, k);
-                    if constexpr (!requires { Op()(b, a); })
-                        throw std::string("no such member");
-                    else if constexpr (std::is_floating_point_v<T>)
-                        c.set(to, x, y, k, singlePrecision<Op>(b, a));
-                    else if (!c.has("scaleFactor"))
-                        c.set(to, x, y, k, T(Op()(b, a)));
-                    else if constexpr (requires { Op()(__int128(b), __int128(a)); })
-                        c.set(to, x, y, k, scaled<T>(Op()(__int128(b), __int128(a)), factor));
-                }
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T b = c.get<T>(second, x, y, k), a = firstAt<T>(c, first, x, y, k);
+            if constexpr (!requires { Op()(b, a); })
+                throw std::string("no such member");
+            else if constexpr (std::is_floating_point_v<T>)
+                c.set(to, x, y, k, nanOr<T>(Op()(b, a), b, a));
+            else if (!c.has("scaleFactor"))
+                c.set(to, x, y, k, T(Op()(b, a)));
+            else if constexpr (requires { Op()(Wide(b), Wide(a)); })
+                c.set(to, x, y, k, ratio<T>(Op()(Wide(b), Wide(a)), 1, factor));
+        });
     });
 }
 
@@ -122,24 +87,22 @@ struct OverLargest {
 
 template <class Op>
 void computeUnary(Case& c) {
-    const Image &src = c.image(c.has("src") ? "src" : "srcDst"), &dst = c.image(c.has("dst") ? "dst" : "srcDst");
+    const Image &src = c.image(onlySource(c)), &dst = c.image(overwritten(c));
     withElement(dst.element, [&](auto zero) {
         using T = decltype(zero);
-        for (int64_t y = 0; y < c.height; ++y)
-            for (int64_t x = 0; x < c.width; ++x)
-                for (int k = 0; k < c.member.to.used(); ++k) {
-                    const T a = c.get<T>(src, x, y, k);
-                    if (c.has("scaleFactor"))
-                        c.set(dst, x, y, k, scaled<T>(__int128(a) * __int128(a), c.arg("scaleFactor").a));
-                    else
-                        c.set(dst, x, y, k, T(Op()(a)));
-                }
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T a = c.get<T>(src, x, y, k);
+            if (c.has("scaleFactor"))
+                c.set(dst, x, y, k, ratio<T>(Wide(a) * Wide(a), 1, c.arg("scaleFactor").a));
+            else
+                c.set(dst, x, y, k, T(Op()(a)));
+        });
     });
 }
 struct Square {
     template <class T>
     T operator()(T a) const {
-        return std::is_same_v<T, float> ? T(singlePrecision<std::multiplies<>>(float(a), float(a))) : a;
+        return std::is_same_v<T, float> ? nanOr<T>(a * a, a) : a;
     }
 };
 struct Magnitude {
@@ -168,18 +131,35 @@ struct Inverse {
     }
 };
 
-const std::vector<Check> anyStep = {pointers({"src1", "src2", "src", "dst", "srcDst", "value"}), sizes({"roiSize"})};
-const std::vector<Check> positiveStep = {
-    anyStep[0], anyStep[1], positive({"src1Step", "src2Step", "srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP)};
+// Counts that are mostly within the width.
+void arrangeShift(Case& c) {
+    arrangeArithmetic(c);
+    const Image& value = c.image("value");
+    for (int k = 0; k < value.channels; ++k)
+        if (c.rng.below(4)) c.set(value, 0, 0, k, uint32_t(c.rng.below(36)));
+    bindValue(c);
+}
+template <bool left>
+void computeShift(Case& c) {
+    const Image &src = c.image(onlySource(c)), &dst = c.image(overwritten(c));
+    withElement(dst.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const uint32_t n = std::min(c.get<uint32_t>(c.image("value"), 0, 0, k), 40u);
+            const Wide a = c.get<T>(src, x, y, k);
+            c.set(dst, x, y, k, T(left ? a * (Wide(1) << n) : a >> n));
+        });
+    });
+}
 
 }  // namespace
 
 #define ARITHMETIC(name, Op)                                                                                           \
-    extern const Family test_##name = {.arrange = arrangeBinary,                                                       \
+    extern const Family test_##name = {.arrange = arrangeArithmetic,                                                   \
                                        .oracle = computeBinary<Op>,                                                    \
                                        .steps = Steps::any,                                                            \
-                                       .ladder = anyStep,                                                              \
-                                       .rounds = true,                                                                 \
+                                       .ladder = anyStep(),                                                            \
+                                       .rounds = Rounds::floats,                                                       \
                                        .bulk = true};
 ARITHMETIC(zmviAdd, std::plus<>)
 ARITHMETIC(zmviAddC, std::plus<>)
@@ -190,7 +170,7 @@ ARITHMETIC(zmviMulC, std::multiplies<>)
 
 #define LOGIC(name, compute)                                                                                           \
     extern const Family test_##name = {                                                                                \
-        .arrange = arrangeBinary, .oracle = compute, .ladder = positiveStep, .bulk = true};
+        .arrange = arrangeArithmetic, .oracle = compute, .ladder = positiveStep(), .bulk = true};
 LOGIC(zmviAnd, computeBinary<std::bit_and<>>)
 LOGIC(zmviAndC, computeBinary<std::bit_and<>>)
 LOGIC(zmviOr, computeBinary<std::bit_or<>>)
@@ -203,4 +183,8 @@ LOGIC(zmviAbs, computeUnary<Magnitude>)
 LOGIC(zmviComplement, computeUnary<Minus>)
 LOGIC(zmviNot, computeUnary<Inverse>)
 extern const Family test_zmviSqr = {
-    .arrange = arrangeBinary, .oracle = computeUnary<Square>, .ladder = positiveStep, .rounds = true};
+    .arrange = arrangeArithmetic, .oracle = computeUnary<Square>, .ladder = positiveStep(), .rounds = Rounds::floats};
+extern const Family test_zmviLShiftC = {
+    .arrange = arrangeShift, .oracle = computeShift<true>, .ladder = positiveStep()};
+extern const Family test_zmviRShiftC = {
+    .arrange = arrangeShift, .oracle = computeShift<false>, .ladder = positiveStep()};

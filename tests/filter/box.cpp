@@ -327,12 +327,18 @@ extern const Family test_zmviFilterBoxBorderGetBufferSize = {
 extern const Family test_zmviSumWindowGetBufferSize = {
     .arrange = arrangeQuery, .oracle = answerQuery, .ladder = queryRefusals};
 extern const Family test_zmviFilterBoxBorder = {
-    .arrange = arrangeWindow, .oracle = judgeWindow<true>, .ladder = windowRefusals, .rounds = true};
+    .arrange = arrangeWindow, .oracle = judgeWindow<true>, .ladder = windowRefusals, .rounds = Rounds::always};
 extern const Family test_zmviSumWindow = {
-    .arrange = arrangeWindow, .oracle = judgeWindow<false>, .ladder = windowRefusals, .rounds = true};
-extern const Family test_zmviSumWindowRow = {
-    .arrange = arrangeLine, .oracle = sumLines<true>, .steps = Steps::any, .ladder = lineRefusals, .rounds = true};
-extern const Family test_zmviSumWindowColumn = {
-    .arrange = arrangeLine, .oracle = sumLines<false>, .steps = Steps::any, .ladder = lineRefusals, .rounds = true};
+    .arrange = arrangeWindow, .oracle = judgeWindow<false>, .ladder = windowRefusals, .rounds = Rounds::always};
+extern const Family test_zmviSumWindowRow = {.arrange = arrangeLine,
+                                             .oracle = sumLines<true>,
+                                             .steps = Steps::any,
+                                             .ladder = lineRefusals,
+                                             .rounds = Rounds::always};
+extern const Family test_zmviSumWindowColumn = {.arrange = arrangeLine,
+                                                .oracle = sumLines<false>,
+                                                .steps = Steps::any,
+                                                .ladder = lineRefusals,
+                                                .rounds = Rounds::always};
 extern const Family test_zmviFilterBox = {
-    .arrange = arrangeBox64f, .oracle = judgeBox64f, .ladder = box64fRefusals, .rounds = true};
+    .arrange = arrangeBox64f, .oracle = judgeBox64f, .ladder = box64fRefusals, .rounds = Rounds::always};

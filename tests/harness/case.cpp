@@ -34,6 +34,15 @@ int64_t widthOf(uint64_t seed) {
 
 }  // namespace
 
+bool acceptsAnyStep(const Member& m) {
+    return m.family->steps == Steps::any || (m.family->freeSteps && m.family->freeSteps(m));
+}
+
+bool rounds(const Member& m) {
+    const bool real = m.destination == Element::f32 || m.destination == Element::f64;
+    return m.family->rounds == Rounds::always || (m.family->rounds == Rounds::floats && real);
+}
+
 Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
     : member(m), library(l), seed(number), mode(how), rng(number * 8 + unsigned(how)), args_(m.params.size()) {
     extreme_ = rng.oneIn(2);
@@ -52,7 +61,7 @@ Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
         height = m.large ? rng.between(2, 3) : rng.between(4, 5);
     }
     // Rounding to nearest, up, down, to zero; denormals kept, read as zero, written as zero; both units alike.
-    if (mode == Mode::controls || !m.family->rounds) {
+    if (mode == Mode::controls || !rounds(m)) {
         const unsigned rounding = unsigned(rng.below(4));
         mxcsr_ = 0x1f80 | rounding << 13 | unsigned(rng.below(2)) << 15 | unsigned(rng.below(2)) << 6;
         x87_ = uint16_t(0x7f | rounding << 10 | unsigned(rng.below(2)) << 9 | 0x300 * rng.below(2));
@@ -79,7 +88,7 @@ Layout Case::layoutOf(const std::string& name) const {
 int64_t Case::chooseStep(int64_t rowBytes) {
     if (packed_) return rowBytes;
     const int64_t padded = rowBytes + (rng.oneIn(3) ? 0 : rng.between(1, 67));
-    if (member.family->steps == Steps::any && mode != Mode::far) switch (rng.below(12)) {
+    if (acceptsAnyStep(member) && mode != Mode::far) switch (rng.below(12)) {
             case 0:
                 return rowsApart ? padded : 0;
             case 1:

@@ -20,6 +20,10 @@ enum class Mode {
     controls,  // any floating-point control words
 };
 
+// Whether its results depend on the rounding mode.
+bool rounds(const Member& m);
+bool acceptsAnyStep(const Member& m);
+
 class Case {
   public:
     Case(const Member& m, const Library& l, uint64_t number, Mode how = Mode::usual);

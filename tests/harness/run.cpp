@@ -51,6 +51,8 @@ void sweep(const Family& family, Mode mode, long cases) {
 bool applies(const Break& b, const Member& m) {
     const Parameter* p = m.find(b.argument);
     if (b.part == Break::plane) return p && b.value < p->planes;
+    if (b.part == Break::channel) return p && b.value < m.to.used();
+    if (b.argument.ends_with("Step") && acceptsAnyStep(m)) return false;
     return p && (p->pointer || b.argument != "value");  // a constant that is passed by value cannot be wrong
 }
 
@@ -65,7 +67,11 @@ void apply(const Break& b, Case& c) {
         c.arg(b.argument).b = value;
     else if (b.part == Break::whole)
         c.arg(b.argument).a = value;
-    else {
+    else if (b.part == Break::channel) {
+        const Image& image = c.image(b.argument);
+        withElement(image.element, [&](auto zero) { c.set(image, 0, 0, int(value), zero); });
+        if (!c.member.points(b.argument)) c.arg(b.argument) = int64_t(0);
+    } else {
         c.planePointers[b.argument][size_t(value)] = nullptr;
         c.arg(b.argument) = c.planePointers[b.argument].data();
     }
@@ -194,6 +200,12 @@ Check positive(std::vector<std::string> names, StatusCode status) {
     for (const std::string& name : names)
         for (const int64_t value : {int64_t(0), int64_t(-1), int64_t(INT32_MIN)})
             check.breaks.push_back({name, Break::whole, value});
+    return check;
+}
+
+Check zeroConstants(StatusCode status) {
+    Check check{status, {}};
+    for (const int64_t channel : {0, 1, 2, 3}) check.breaks.push_back({"value", Break::channel, channel});
     return check;
 }
 

@@ -1,0 +1,105 @@
+// zmviExp, zmviLn: e to the power of a pixel, and its natural logarithm, in double precision by rules of their own:
+// those of the C library differ from processor to processor.
+#include <bit>
+
+#include "arith/real.h"
+#include "arith/scaled.h"
+
+namespace zmv {
+namespace {
+
+using D = Vec<double>;
+using U = Vec<uint64_t>;
+
+// ln 2 in two parts: the first has 33 bits, so that its products with the powers of two of all 16-bit pixels are exact.
+constexpr double ln2 = 0x1.62e42fefp-1, ln2Rest = 0x1.473de6af278edp-34;
+
+// sum of c[k] x^k, the highest power first.
+template <size_t n>
+ZMV_INLINE D polynomial(const std::array<double, n>& c, D x) {
+    D sum = fill(c[n - 1]);
+    for (size_t k = n - 1; k-- > 0;) sum = sum * x + c[k];
+    return sum;
+}
+
+// e^x * 2^-factor.
+struct Exp {
+    double factor;
+    explicit Exp(int scaleFactor) : factor(std::clamp(scaleFactor, -200000, 200000)) {}
+
+    // 1 / k!, up to where the next term is below half a unit in the last place for |r| <= ln(2) / 2.
+    static constexpr std::array<double, 14> coefficients = [] {
+        std::array<double, 14> c{1};
+        double factorial = 1;
+        for (int k = 1; k < 14; ++k) factorial *= k, c[size_t(k)] = 1 / factorial;
+        return c;
+    }();
+
+    ZMV_INLINE D operator()(D x) const {
+        constexpr double toInteger = 0x1.8p52;  // added, it leaves whole numbers in the lowest places
+        // x = n ln 2 + r.  Beyond 16 bits all results are zero or infinite.
+        const D within = larger(fill(-70000.0), smaller(fill(70000.0), x));
+        const D n = within * (1 / 0.6931471805599453) + toInteger - toInteger;
+        const D r = within - n * ln2 - n * ln2Rest;
+        const D power = larger(fill(-1000.0), smaller(fill(1000.0), n - factor));
+        const D twoToPower = (D)((U)(power + (toInteger + 1023)) << 52);
+        return polynomial(coefficients, r) * twoToPower;
+    }
+};
+
+// ln x * 2^-factor, for numbers that are not denormal.
+struct Ln {
+    double scale;
+    explicit Ln(int scaleFactor) : scale(scaleOf<double>(scaleFactor)) {}
+
+    // 2 / (2k + 1), up to where the next term is below half a unit in the last place for |s| <= 3 - 2 sqrt(2).
+    static constexpr std::array<double, 12> coefficients = [] {
+        std::array<double, 12> c{};
+        for (int k = 0; k < 12; ++k) c[size_t(k)] = 2.0 / (2 * k + 1);
+        return c;
+    }();
+
+    ZMV_INLINE D positive(D x) const {
+        // x = 2^n m, m from sqrt(1/2) to sqrt(2): ln m = 2 artanh(s), s = (m - 1) / (m + 1).
+        constexpr uint64_t one = uint64_t(1023) << 52, leastM = 0x3fe6a09e667f3bcd, unit = 0x4330000000000000;
+        const U biased = ((U)x - leastM + one) >> 52;
+        const D n = (D)(biased | unit) - (0x1p52 + 1023), m = (D)((U)x - (biased << 52) + one);
+        const D s = (m - 1.0) / (m + 1.0);
+        return n * ln2 + (n * ln2Rest + s * polynomial(coefficients, s * s));
+    }
+};
+// Of integers, zero and what lies below give the smallest of the type.
+struct LnOfInteger : Ln {
+    using Ln::Ln;
+    ZMV_INLINE D operator()(D x) const { return (x > 0.0 ? positive(x) : fill(-__builtin_inf())) * scale; }
+};
+struct LnOfFloat : Ln {
+    using Ln::Ln;
+    ZMV_INLINE D operator()(D x) const {
+        const D inf = fill(__builtin_inf());
+        D ln = positive(x);
+        ln = x == inf ? inf : ln;
+        ln = x == 0.0 ? -inf : ln;
+        ln = x < 0.0 ? fill(std::bit_cast<double>(0xfff8000000000000)) : ln;
+        return x == x ? ln : x;
+    }
+};
+
+template <class Op, class T>
+StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const RoundingControl control(RoundingControl::toNearestEven);
+    using Rule = std::conditional_t<std::same_as<Op, Exp>, Exp,
+                                    std::conditional_t<std::is_integral_v<T>, LnOfInteger, LnOfFloat>>;
+    pointwiseIn<double>(Rule(factor), dst, roi, layout, false, src);
+    return STATUS_OK;
+}
+
+}  // namespace
+}  // namespace zmv
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE
+#include "arith/unary.def"
+EXP_LN_FAMILY(Exp)
+EXP_LN_FAMILY(Ln)

@@ -1,0 +1,54 @@
+// zmviConvert to integers with a rounding mode, and a scale factor.
+#include "datamove/convert.h"
+
+namespace zmv {
+namespace {
+
+// The financial mode adds one half and cuts toward zero.  Rounded toward zero, the sum never crosses an integer.
+RoundingControl::Mode controlOf(int roundMode) {
+    return roundMode == ROUND_NEAR ? RoundingControl::toNearestEven : RoundingControl::towardZero;
+}
+bool isFinancial(int roundMode) { return roundMode != ROUND_NEAR && roundMode != ROUND_ZERO; }
+
+template <class D>
+StatusCode ownpi_ConvertRounded(Image<const float> src, Image<D> dst, Roi roi, Layout layout, int roundMode) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const RoundingControl control(controlOf(roundMode));
+    const auto run = [&](const auto& rule) {
+        pointwiseIn<float>(rule, dst, roi, layout, convertsPastCache<float, D>(roi, layout), src);
+    };
+    if (isFinancial(roundMode))
+        run([](Vec<float> v) { return v + 0.5f; });
+    else
+        run([](Vec<float> v) { return v; });
+    return STATUS_OK;
+}
+
+// v * 2^-factor + half.  In two steps, since one power of two may lie beyond the range: what the first loses is far
+// below one half.
+struct Scaled {
+    double first, second, half;
+    Scaled(int factor, double plus) : half(plus) {
+        constexpr int most = 2 * 1022;  // there every result saturates, or vanishes
+        const int n = std::clamp(factor, -most, most);
+        first = powerOfTwo(-(n / 2));
+        second = powerOfTwo(-(n - n / 2));
+    }
+    ZMV_INLINE Vec<double> operator()(Vec<double> v) const { return v * first * second + half; }
+};
+
+template <class S, class D>
+StatusCode ownpi_ConvertScaled(Image<const S> src, Image<D> dst, Roi roi, int roundMode, int factor) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const RoundingControl control(controlOf(roundMode));
+    pointwiseIn<double>(Scaled(factor, isFinancial(roundMode) ? 0.5 : 0.0), dst, roi, C1, false, src);
+    return STATUS_OK;
+}
+
+}  // namespace
+}  // namespace zmv
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE
+#include "datamove/convert.def"
+CONVERT_ROUNDED_TYPES

@@ -1,0 +1,163 @@
+// zmviDiv, zmviDivC, zmviDiv_Round, exact in integers; zmviSqrt, zmviExp, zmviLn, zmviMulC64f in long double, whose 64
+// bits leave no doubt about the nearest integer.
+#include <algorithm>
+#include <cmath>
+
+#include "arith/arith.h"
+
+namespace {
+
+using namespace test;
+
+// A third of the cases has no zero divisor, but in the channel that is left alone; and of these half has a single one.
+void arrangeDivision(Case& c) {
+    arrangeArithmetic(c);
+    if (c.has("roundMode")) c.arg("roundMode") = c.rng.below(3);
+    const Image& divisors = c.image(firstSource(c));
+    withElement(divisors.element, [&](auto zero) {
+        using T = decltype(zero);
+        if (!c.has("value") && !c.rng.oneIn(3)) return;
+        for (int64_t y = 0; y < divisors.height; ++y)
+            for (int64_t x = 0; x < divisors.width; ++x)
+                for (int k = 0; k < divisors.channels; ++k) {
+                    const bool used = k < c.member.to.used();
+                    if (!used || c.get<T>(divisors, x, y, k) == 0) c.set(divisors, x, y, k, T(used));
+                }
+        if (!c.has("value") && c.rng.oneIn(2))
+            c.set(divisors, c.rng.below(int(c.width)), c.rng.below(int(c.height)), c.rng.below(c.member.to.used()),
+                  T(-0.0));
+    });
+    if (c.has("value")) bindValue(c);
+}
+void divide(Case& c) {
+    const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));
+    const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
+    const int mode = c.has("roundMode") ? int(c.arg("roundMode").a) : ROUND_NEAR;
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T b = c.get<T>(second, x, y, k), a = firstAt<T>(c, first, x, y, k);
+            if (a == 0) c.expected = STATUS_WARN_DIV_BY_ZERO;
+            if constexpr (std::is_floating_point_v<T>)
+                c.set(to, x, y, k, nanOr<T>(b / a, b, a));
+            else if (a == 0)
+                c.set(to, x, y, k, saturated<T>(b == 0 ? 0 : b > 0 ? INT32_MAX : INT32_MIN));
+            else
+                c.set(to, x, y, k, ratio<T>(b, a, factor, mode));
+        });
+    });
+}
+
+// The nearest integer to x * 2^-factor; 2^+-20000 is the end of the range.
+template <class T>
+T nearest(long double x, int64_t factor) {
+    using Limits = std::numeric_limits<T>;
+    x = std::nearbyint(std::ldexp(x, int(std::clamp<int64_t>(-factor, -40000, 40000))));
+    return x != x ? T(0) : x <= Limits::min() ? Limits::min() : x >= Limits::max() ? Limits::max() : T(x);
+}
+// e^x * 2^-factor, the powers of two taken together: either may lie beyond the range.
+template <class T>
+T nearestExp(long double x, int64_t factor) {
+    const long double n = std::nearbyint(x / std::log(2.0L)), r = std::fma(-n, std::log(2.0L), x);
+    return nearest<T>(std::exp(r), std::clamp<int64_t>(factor, -400000, 400000) - int64_t(n));
+}
+// What lies within one unit in the last place of the exact result passes.
+void within(Case& c, const Image& to, int64_t x, int64_t y, int k, long double exact) {
+    const float result = c.result<float>(to, x, y, k);
+    const float low = std::nextafter(float(exact), -INFINITY), high = std::nextafter(float(exact), INFINITY);
+    const bool fits = std::isinf(float(exact)) ? result == float(exact) : low <= result && result <= high;
+    c.set(to, x, y, k, fits ? result : float(exact));
+}
+
+void computeSqrt(Case& c) {
+    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T a = c.get<T>(src, x, y, k);
+            if constexpr (std::is_floating_point_v<T>)
+                c.set(to, x, y, k, nanOr<T>(std::sqrt(a), a));
+            else
+                c.set(to, x, y, k, nearest<T>(a < 0 ? 0 : std::sqrt((long double)a), c.arg("scaleFactor").a));
+        });
+    });
+}
+void computeExp(Case& c) {
+    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T a = c.get<T>(src, x, y, k);
+            if constexpr (!std::is_floating_point_v<T>)
+                c.set(to, x, y, k, nearestExp<T>(a, c.arg("scaleFactor").a));
+            else if (std::isnan(a))
+                c.set(to, x, y, k, nanOr<T>(a, a));
+            else
+                within(c, to, x, y, k, std::exp((long double)a));
+        });
+    });
+}
+void computeLn(Case& c) {
+    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T a = c.get<T>(src, x, y, k);
+            if constexpr (!std::is_floating_point_v<T>)
+                c.set(to, x, y, k, nearest<T>(a <= 0 ? -INFINITY : std::log((long double)a), c.arg("scaleFactor").a));
+            else if (std::isnan(a) || a < 0)
+                c.set(to, x, y, k, nanOr<T>(NAN, a));
+            else
+                within(c, to, x, y, k, std::log((long double)a));
+        });
+    });
+}
+
+// Factors whose products are near ties and limits.
+void arrangeMulC64f(Case& c) {
+    arrangeArithmetic(c);
+    const Image& value = c.image("value");
+    static const double factors[] = {0.5, 1.5, -0.5, 1.0 / 3, 255, 1e-3, 1e300, -INFINITY, NAN, 0x1.fffffffffffffp-2};
+    for (int k = 0; k < value.channels; ++k)
+        if (c.rng.below(4)) c.set(value, 0, 0, k, factors[c.rng.below(10)]);
+    bindValue(c);
+}
+void computeMulC64f(Case& c) {
+    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const double b = double(c.get<T>(src, x, y, k)), a = c.get<double>(c.image("value"), 0, 0, k);
+            const double product = nanOr<double>(b * a, b, a);
+            if constexpr (std::is_floating_point_v<T>)
+                c.set(to, x, y, k, T(product));
+            else
+                c.set(to, x, y, k, nearest<T>(product, 0));
+        });
+    });
+}
+
+const Check roundModes{STATUS_BAD_ROUND_MODE,
+                       {{"roundMode", Break::whole, -1},
+                        {"roundMode", Break::whole, 3},
+                        {"roundMode", Break::whole, INT32_MIN},
+                        {"roundMode", Break::whole, INT32_MAX}}};
+
+}  // namespace
+
+extern const Family test_zmviDiv = {
+    .arrange = arrangeDivision, .oracle = divide, .ladder = positiveStep(), .rounds = Rounds::floats, .bulk = true};
+extern const Family test_zmviDivC = {.arrange = arrangeDivision,
+                                     .oracle = divide,
+                                     .ladder = positiveStep({zeroConstants(STATUS_DIV_BY_ZERO)}),
+                                     .rounds = Rounds::floats};
+extern const Family test_zmviDiv_Round = {
+    .arrange = arrangeDivision, .oracle = divide, .ladder = positiveStep({roundModes}), .bulk = true};
+extern const Family test_zmviSqrt = {.arrange = arrangeArithmetic,
+                                     .oracle = computeSqrt,
+                                     .ladder = positiveStep(),
+                                     .rounds = Rounds::floats,
+                                     .bulk = true};
+extern const Family test_zmviExp = {.arrange = arrangeArithmetic, .oracle = computeExp, .ladder = positiveStep()};
+extern const Family test_zmviLn = {.arrange = arrangeArithmetic, .oracle = computeLn, .ladder = positiveStep()};
+extern const Family test_zmviMulC64f = {.arrange = arrangeMulC64f, .oracle = computeMulC64f, .ladder = positiveStep()};
