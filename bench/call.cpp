@@ -62,6 +62,7 @@ double Call::number(const std::string& name) const {
     if (name == "value") return 5;
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
+    if (name == "roundMode") return ROUND_NEAR;
     unknown(name);
 }
 
@@ -89,9 +90,12 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
     const int64_t margin = has("anchor") ? setting.mask + setting.mask / setting.width + 1 : 0;
     Memory& block = allocate(step * (size.height + 2 * margin));
-    if (name == "mask")
-        for (Line& line : block)
-            for (uint32_t& word : line.words) word &= 0x01010101;  // half of the pixels, without any order
+    for (Line& line : block)
+        for (uint32_t& word : line.words)
+            if (name == "mask")
+                word &= 0x01010101;  // half of the pixels, without any order
+            else if (name == "src1")
+                word |= 0x01010101;  // no zero divisor ends the look for one
 
     (isRead ? read : written) = &block;
     reads |= name != "dst";

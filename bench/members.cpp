@@ -26,7 +26,7 @@ class TypedCall<R(A...)> final : public Call {
                 if constexpr (std::is_pointer_v<R>)
                     failed = !result;
                 else
-                    failed = result != STATUS_OK;
+                    failed = result != STATUS_OK && result != STATUS_WARN_DIV_BY_ZERO;
                 // What is allocated is released, and timed together.
                 if constexpr (std::is_pointer_v<R> && !std::is_const_v<std::remove_pointer_t<R>>) build.release(result);
             }

@@ -2,6 +2,7 @@
 // ties to even, saturated.  What is common to all operations that have one; an operation gives
 //   exact<half>(a, ..)  half of the exact results, in lanes that hold them all
 //   saturated(a, ..)    the results at factor 0
+//   halved(a, ..)       those at factor 1, where that is less work than the rule
 //   largest<T>          the largest magnitude of an exact result
 // and, for floating-point types, plain(a, ..).
 #pragma once
@@ -67,6 +68,13 @@ struct NotScaled {
             return Op::plain(v...);
     }
 };
+template <class Op>
+struct Halved {
+    template <class... V>
+    ZMV_INLINE auto operator()(V... v) const {
+        return Op::halved(v...);
+    }
+};
 // What saturates before it is scaled up saturates after.  Beyond the width of the type only zero does not.
 template <class Op, class T>
 struct ScaledUp {
@@ -93,12 +101,14 @@ void scaled(Image<T> dst, Roi roi, Layout layout, int factor, bool pastCache, co
         run(NotScaled<Op, T>{});
     else if (factor >= zeroFrom<Op, T>())
         pointwise(Zero<T>{}, dst, roi, layout, pastCache);
-    else if (factor > 0)
-        run(ScaledDown<Op, T, VectorOf<Operand, T>...>(factor));
     else if (factor == 0)
         run(NotScaled<Op, T>{});
-    else
+    else if (factor < 0)
         run(ScaledUp<Op, T>(factor));
+    else if constexpr (requires(VectorOf<Operand, T>... v) { Op::halved(v...); })
+        factor == 1 ? run(Halved<Op>{}) : run(ScaledDown<Op, T, VectorOf<Operand, T>...>(factor));
+    else
+        run(ScaledDown<Op, T, VectorOf<Operand, T>...>(factor));
 }
 
 }  // namespace zmv

@@ -58,6 +58,7 @@ ZMV_INLINE void pointwiseRowIn(const Rule& rule, T* dst, Len count, const Row&..
     constexpr size_t vectors = sizeof(W) / sizeof(T);
     std::array<Vec<W>, vectors> results;
     Len x = 0;
+#pragma GCC unroll 4
     for (; count - x >= lanes<T>; x += lanes<T>) {
         for (size_t i = 0; i < vectors; ++i) results[i] = rule(rows.at(x + Len(i) * lanes<W>)...);
         store(dst + x, joined<T>(results));

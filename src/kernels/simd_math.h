@@ -119,6 +119,16 @@ ZMV_INLINE V subSaturated(V a, V b) {
     }
 }
 
+// Half the sum of unsigned numbers, rounded up.
+template <class V>
+ZMV_INLINE V average(V a, V b) {
+    if constexpr (sizeof(Element<V>) == 1) {
+        ZMV_AT_ALL(V, avg_epu8, a, b)
+    } else {
+        ZMV_AT_ALL(V, avg_epu16, a, b)
+    }
+}
+
 // Unsigned numbers of twice the width of T, those too large replaced by the largest of T.
 template <class T, class W>
 ZMV_INLINE W atMostMax(W v) {
