@@ -60,27 +60,29 @@ ZMV_INLINE void pointwiseRow(const Rule& rule, T* dst, Len count, const Row&... 
         storePart(to + done, rule(rows.part(done, int(done / width % 3), rest)...), rest);
 }
 
-// Calls row(to, y, x, n) for the elements x to x + n of each row y, which it writes to `to`.  Where a channel is left
-// alone, and past the caches, results take a detour through a block that stays in the nearest cache; it holds whole
-// periods of every pattern.
+// Where a channel is left alone, and past the caches, results take a detour through a block that stays in the nearest
+// cache; it holds whole periods of every pattern.
 template <class T, class Row>
-void eachRow(Image<T> dst, Roi roi, Layout layout, bool pastCache, Row row) {
+__attribute__((noinline)) void eachBlock(Image<T> dst, Len height, Len count, bool pastCache, Row row) {
     constexpr Len blockBytes = 48 * width, block = blockBytes / Len(sizeof(T));
-    const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / Len(sizeof(T));
-    const bool direct = !layout.alpha && !pastCache;
     alignas(64) uint8_t results[blockBytes];
-    for (Len y = 0; y < roi.height; ++y)
+    for (Len y = 0; y < height; ++y)
         for (Len x = 0; x < count; x += block) {
-            T* const to = dst.row(y) + x;
-            const Len n = direct ? count : std::min(block, count - x);
-            row(direct ? to : reinterpret_cast<T*>(results), y, x, n);
-            if (direct) break;
+            const Len n = std::min(block, count - x);
+            row(reinterpret_cast<T*>(results), y, x, n);
             if (pastCache)
-                streamRow(to, results, n * Len(sizeof(T)));
+                streamRow(dst.row(y) + x, results, n * Len(sizeof(T)));
             else
-                blendRow(to, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
+                blendRow(dst.row(y) + x, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
         }
     if (pastCache) fence();
+}
+// Calls row(to, y, x, n) for the elements x to x + n of each row y, which it writes to `to`.
+template <class T, class Row>
+void eachRow(Image<T> dst, Roi roi, Layout layout, bool pastCache, Row row) {
+    const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / Len(sizeof(T));
+    if (layout.alpha || pastCache) return eachBlock(dst, roi.height, count, pastCache, row);
+    for (Len y = 0; y < roi.height; ++y) row(dst.row(y), y, 0, count);
 }
 template <class T, class... Operand>
 Roi joinOperands(Roi roi, Layout layout, Image<T> dst, const Operand&... operands) {
