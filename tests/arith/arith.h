@@ -56,10 +56,6 @@ inline std::string firstSource(const Case& c) { return c.has("value") ? "value" 
 inline std::string secondSource(const Case& c) {
     return c.has("value") ? onlySource(c) : c.has("src2") ? "src2" : "srcDst";
 }
-template <class T>
-T firstAt(Case& c, const Image& first, int64_t x, int64_t y, int k) {
-    return c.has("value") ? c.get<T>(first, 0, 0, k) : c.get<T>(first, x, y, k);
-}
 
 inline std::vector<Check> anyStep() {
     return {pointers({"src1", "src2", "src", "dst", "srcDst", "value"}), sizes({"roiSize"})};
@@ -69,6 +65,28 @@ inline std::vector<Check> positiveStep(std::vector<Check> more = {}) {
     ladder.push_back(positive({"src1Step", "src2Step", "srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP));
     ladder.insert(ladder.end(), more.begin(), more.end());
     return ladder;
+}
+
+// Writes f(a, x, y, k) for every element a of the only source; and f(b, a) for every pair of elements of the second and
+// the first.
+template <class F>
+void oneByOne(Case& c, F f) {
+    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) { c.set<T>(to, x, y, k, f(c.get<T>(src, x, y, k), x, y, k)); });
+    });
+}
+template <class F>
+void pairByPair(Case& c, F f) {
+    const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T a = c.has("value") ? c.get<T>(first, 0, 0, k) : c.get<T>(first, x, y, k);
+            c.set<T>(to, x, y, k, f(c.get<T>(second, x, y, k), a));
+        });
+    });
 }
 
 // What the processor makes of an operation whose operands include NaNs, or that has none: the first one's NaN, quieted,

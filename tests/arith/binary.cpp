@@ -58,21 +58,16 @@ using namespace test;
 
 template <class Op>
 void computeBinary(Case& c) {
-    const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));
     const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T b = c.get<T>(second, x, y, k), a = firstAt<T>(c, first, x, y, k);
-            if constexpr (!requires { Op()(b, a); })
-                throw std::string("no such member");
-            else if constexpr (std::is_floating_point_v<T>)
-                c.set(to, x, y, k, nanOr<T>(Op()(b, a), b, a));
-            else if (!c.has("scaleFactor"))
-                c.set(to, x, y, k, T(Op()(b, a)));
-            else if constexpr (requires { Op()(Wide(b), Wide(a)); })
-                c.set(to, x, y, k, ratio<T>(Op()(Wide(b), Wide(a)), 1, factor));
-        });
+    pairByPair(c, [&]<class T>(T b, T a) -> T {
+        if constexpr (!requires { Op()(b, a); })
+            throw std::string("no such member");
+        else if constexpr (std::is_floating_point_v<T>)
+            return nanOr<T>(Op()(b, a), b, a);
+        else if constexpr (requires { Op()(Wide(b), Wide(a)); })
+            return c.has("scaleFactor") ? ratio<T>(Op()(Wide(b), Wide(a)), 1, factor) : T(Op()(b, a));
+        else
+            return Op()(b, a);
     });
 }
 
@@ -87,16 +82,8 @@ struct OverLargest {
 
 template <class Op>
 void computeUnary(Case& c) {
-    const Image &src = c.image(onlySource(c)), &dst = c.image(overwritten(c));
-    withElement(dst.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T a = c.get<T>(src, x, y, k);
-            if (c.has("scaleFactor"))
-                c.set(dst, x, y, k, ratio<T>(Wide(a) * Wide(a), 1, c.arg("scaleFactor").a));
-            else
-                c.set(dst, x, y, k, T(Op()(a)));
-        });
+    oneByOne(c, [&]<class T>(T a, int64_t, int64_t, int) -> T {
+        return c.has("scaleFactor") ? ratio<T>(Wide(a) * Wide(a), 1, c.arg("scaleFactor").a) : Op()(a);
     });
 }
 struct Square {
@@ -141,14 +128,9 @@ void arrangeShift(Case& c) {
 }
 template <bool left>
 void computeShift(Case& c) {
-    const Image &src = c.image(onlySource(c)), &dst = c.image(overwritten(c));
-    withElement(dst.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const uint32_t n = std::min(c.get<uint32_t>(c.image("value"), 0, 0, k), 40u);
-            const Wide a = c.get<T>(src, x, y, k);
-            c.set(dst, x, y, k, T(left ? a * (Wide(1) << n) : a >> n));
-        });
+    oneByOne(c, [&]<class T>(T a, int64_t, int64_t, int k) {
+        const uint32_t n = std::min(c.get<uint32_t>(c.image("value"), 0, 0, k), 40u);
+        return T(left ? Wide(a) * (Wide(1) << n) : Wide(a) >> n);
     });
 }
 

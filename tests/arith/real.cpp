@@ -30,25 +30,20 @@ void arrangeDivision(Case& c) {
     if (c.has("value")) bindValue(c);
 }
 void divide(Case& c) {
-    const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));
     const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
     const int mode = c.has("roundMode") ? int(c.arg("roundMode").a) : ROUND_NEAR;
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T b = c.get<T>(second, x, y, k), a = firstAt<T>(c, first, x, y, k);
-            if (a == 0) c.expected = STATUS_WARN_DIV_BY_ZERO;
-            if constexpr (std::is_floating_point_v<T>)
-                c.set(to, x, y, k, nanOr<T>(b / a, b, a));
-            else if (a == 0)
-                c.set(to, x, y, k, saturated<T>(b == 0 ? 0 : b > 0 ? INT32_MAX : INT32_MIN));
-            else
-                c.set(to, x, y, k, ratio<T>(b, a, factor, mode));
-        });
+    pairByPair(c, [&]<class T>(T b, T a) {
+        if (a == 0) c.expected = STATUS_WARN_DIV_BY_ZERO;
+        if constexpr (std::is_floating_point_v<T>)
+            return nanOr<T>(b / a, b, a);
+        else if (a == 0)
+            return saturated<T>(b == 0 ? 0 : b > 0 ? INT32_MAX : INT32_MIN);
+        else
+            return ratio<T>(b, a, factor, mode);
     });
 }
 
-// The nearest integer to x * 2^-factor; 2^+-20000 is the end of the range.
+// The nearest integer to x * 2^-factor, saturated.
 template <class T>
 T nearest(long double x, int64_t factor) {
     using Limits = std::numeric_limits<T>;
@@ -62,54 +57,35 @@ T nearestExp(long double x, int64_t factor) {
     return nearest<T>(std::exp(r), std::clamp<int64_t>(factor, -400000, 400000) - int64_t(n));
 }
 // What lies within one unit in the last place of the exact result passes.
-void within(Case& c, const Image& to, int64_t x, int64_t y, int k, long double exact) {
-    const float result = c.result<float>(to, x, y, k);
+float within(Case& c, int64_t x, int64_t y, int k, long double exact) {
+    const float result = c.result<float>(c.image(overwritten(c)), x, y, k);
     const float low = std::nextafter(float(exact), -INFINITY), high = std::nextafter(float(exact), INFINITY);
     const bool fits = std::isinf(float(exact)) ? result == float(exact) : low <= result && result <= high;
-    c.set(to, x, y, k, fits ? result : float(exact));
+    return fits ? result : float(exact);
 }
 
 void computeSqrt(Case& c) {
-    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T a = c.get<T>(src, x, y, k);
-            if constexpr (std::is_floating_point_v<T>)
-                c.set(to, x, y, k, nanOr<T>(std::sqrt(a), a));
-            else
-                c.set(to, x, y, k, nearest<T>(a < 0 ? 0 : std::sqrt((long double)a), c.arg("scaleFactor").a));
-        });
+    oneByOne(c, [&]<class T>(T a, int64_t, int64_t, int) {
+        if constexpr (std::is_floating_point_v<T>)
+            return nanOr<T>(std::sqrt(a), a);
+        else
+            return nearest<T>(a < 0 ? 0 : std::sqrt((long double)a), c.arg("scaleFactor").a);
     });
 }
 void computeExp(Case& c) {
-    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T a = c.get<T>(src, x, y, k);
-            if constexpr (!std::is_floating_point_v<T>)
-                c.set(to, x, y, k, nearestExp<T>(a, c.arg("scaleFactor").a));
-            else if (std::isnan(a))
-                c.set(to, x, y, k, nanOr<T>(a, a));
-            else
-                within(c, to, x, y, k, std::exp((long double)a));
-        });
+    oneByOne(c, [&]<class T>(T a, int64_t x, int64_t y, int k) -> T {
+        if constexpr (!std::is_floating_point_v<T>)
+            return nearestExp<T>(a, c.arg("scaleFactor").a);
+        else
+            return std::isnan(a) ? nanOr<T>(a, a) : within(c, x, y, k, std::exp((long double)a));
     });
 }
 void computeLn(Case& c) {
-    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const T a = c.get<T>(src, x, y, k);
-            if constexpr (!std::is_floating_point_v<T>)
-                c.set(to, x, y, k, nearest<T>(a <= 0 ? -INFINITY : std::log((long double)a), c.arg("scaleFactor").a));
-            else if (std::isnan(a) || a < 0)
-                c.set(to, x, y, k, nanOr<T>(NAN, a));
-            else
-                within(c, to, x, y, k, std::log((long double)a));
-        });
+    oneByOne(c, [&]<class T>(T a, int64_t x, int64_t y, int k) -> T {
+        if constexpr (!std::is_floating_point_v<T>)
+            return nearest<T>(a <= 0 ? -INFINITY : std::log((long double)a), c.arg("scaleFactor").a);
+        else
+            return std::isnan(a) || a < 0 ? nanOr<T>(NAN, a) : within(c, x, y, k, std::log((long double)a));
     });
 }
 
@@ -123,17 +99,13 @@ void arrangeMulC64f(Case& c) {
     bindValue(c);
 }
 void computeMulC64f(Case& c) {
-    const Image &src = c.image(onlySource(c)), &to = c.image(overwritten(c));
-    withElement(to.element, [&](auto zero) {
-        using T = decltype(zero);
-        eachElement(c, [&](int64_t x, int64_t y, int k) {
-            const double b = double(c.get<T>(src, x, y, k)), a = c.get<double>(c.image("value"), 0, 0, k);
-            const double product = nanOr<double>(b * a, b, a);
-            if constexpr (std::is_floating_point_v<T>)
-                c.set(to, x, y, k, T(product));
-            else
-                c.set(to, x, y, k, nearest<T>(product, 0));
-        });
+    oneByOne(c, [&]<class T>(T pixel, int64_t, int64_t, int k) -> T {
+        const double a = c.get<double>(c.image("value"), 0, 0, k), b = double(pixel);
+        const double product = nanOr<double>(b * a, b, a);
+        if constexpr (std::is_floating_point_v<T>)
+            return T(product);
+        else
+            return nearest<T>(product, 0);
     });
 }
 
