@@ -1,6 +1,7 @@
 // zmviDiv, zmviDivC, zmviDiv_Round, exact in integers; zmviSqrt, zmviExp, zmviLn, zmviMulC64f in long double, whose 64
 // bits leave no doubt about the nearest integer.
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "arith/arith.h"
@@ -29,11 +30,19 @@ void arrangeDivision(Case& c) {
     });
     if (c.has("value")) bindValue(c);
 }
+// Whatever the control word makes of small numbers.
+template <class T>
+bool isZero(T a) {
+    if constexpr (std::is_floating_point_v<T>)
+        return (std::bit_cast<std::conditional_t<sizeof a == 4, uint32_t, uint64_t>>(a) << 1) == 0;
+    else
+        return a == 0;
+}
 void divide(Case& c) {
     const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
     const int mode = c.has("roundMode") ? int(c.arg("roundMode").a) : ROUND_NEAR;
     pairByPair(c, [&]<class T>(T b, T a) {
-        if (a == 0) c.expected = STATUS_WARN_DIV_BY_ZERO;
+        if (isZero(a)) c.expected = STATUS_WARN_DIV_BY_ZERO;
         if constexpr (std::is_floating_point_v<T>)
             return nanOr<T>(b / a, b, a);
         else if (a == 0)

@@ -73,6 +73,7 @@ class Case {
         return value;
     }
 
+    void expectResults();
     void call();
     int64_t returned = 0, expected = STATUS_OK;  // the oracle may expect another status
     void fail(const std::string& what) {
