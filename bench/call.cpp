@@ -59,7 +59,10 @@ double Call::number(const std::string& name) const {
     if (name == "borderType") return BORDER_REPL;
     if (name == "dataType") return codes.at(type);
     if (name == "numChannels") return fromChannels;
-    if (name == "value") return 5;
+    if (name == "value" || name == "valueLT" || name == "valueGT") return 5;
+    if (name == "thresholdLT") return 85;
+    if (name == "threshold" || name == "thresholdGT") return 170;
+    if (name == "cmpOp") return CMP_GREATER;
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
@@ -70,7 +73,8 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "src" || name == "src1" || name == "src2") return image(name, fromChannels * element);
     if (name == "dst" || name == "srcDst") return image(name, toChannels * element);
     if (name == "mask") return image(name, element);
-    if (name == "value" || name == "borderValue") return allocate(4 * element).data();
+    if (name == "value" || name == "borderValue" || name.rfind("threshold", 0) == 0 || name.rfind("value", 0) == 0)
+        return allocate(4 * element).data();
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do

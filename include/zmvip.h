@@ -1869,6 +1869,261 @@ ZMV_API StatusCode zmviNot_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize ro
 ZMV_API StatusCode zmviNot_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 
+/* zmviThreshold: cmpOp CMP_GREATER: dst = min(src, threshold).  CMP_LESS: dst = max(src, threshold).
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_ARGUMENT: cmpOp is neither.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, int cmpOp);
+ZMV_API StatusCode zmviThreshold_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, int cmpOp);
+
+/* zmviThreshold_GT: dst = min(src, threshold).
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_GT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_GT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
+
+/* zmviThreshold_LT: dst = max(src, threshold).
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_LT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold);
+ZMV_API StatusCode zmviThreshold_LT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
+
+/* zmviThreshold_Val: dst = value where src > threshold (cmpOp CMP_GREATER) or src < threshold (CMP_LESS), elsewhere src.
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   STATUS_BAD_ARGUMENT: cmpOp is neither; this goes before the other checks.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_Val_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold, uint16_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold, uint16_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold, int16_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold, int16_t value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold, float value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value, int cmpOp);
+ZMV_API StatusCode zmviThreshold_Val_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value, int cmpOp);
+
+/* zmviThreshold_GTVal: dst = value where src > threshold, elsewhere src.
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold, uint16_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold, uint16_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold, int16_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold, int16_t value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold, float value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_GTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+
+/* zmviThreshold_LTVal: dst = value where src < threshold, elsewhere src.
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* threshold, const uint8_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t threshold, uint16_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold, uint16_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* threshold, const uint16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t threshold, int16_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold, int16_t value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* threshold, const int16_t* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float threshold, float value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold, const float* value);
+ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
+
+/* zmviThreshold_LTValGTVal: dst = valueLT where src < thresholdLT, valueGT where src > thresholdGT, elsewhere src.
+   A pixel equal to a threshold stays as it is, and so does NaN.
+   Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
+   AC4 leaves the fourth channel of the destination as it was.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_THRESHOLD: a thresholdGT lies below its thresholdLT.
+   src/arith/pithresh.cpp */
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* thresholdLT, const uint8_t* valueLT, const uint8_t* thresholdGT, const uint8_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* thresholdLT, const uint8_t* valueLT, const uint8_t* thresholdGT, const uint8_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* thresholdLT, const uint8_t* valueLT, const uint8_t* thresholdGT, const uint8_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* thresholdLT, const uint8_t* valueLT, const uint8_t* thresholdGT, const uint8_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t thresholdLT, uint16_t valueLT, uint16_t thresholdGT, uint16_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t thresholdLT, uint16_t valueLT, uint16_t thresholdGT, uint16_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* thresholdLT, const uint16_t* valueLT, const uint16_t* thresholdGT, const uint16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* thresholdLT, const uint16_t* valueLT, const uint16_t* thresholdGT, const uint16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* thresholdLT, const uint16_t* valueLT, const uint16_t* thresholdGT, const uint16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t* thresholdLT, const uint16_t* valueLT, const uint16_t* thresholdGT, const uint16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int16_t thresholdLT, int16_t valueLT, int16_t thresholdGT, int16_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t thresholdLT, int16_t valueLT, int16_t thresholdGT, int16_t valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* thresholdLT, const int16_t* valueLT, const int16_t* thresholdGT, const int16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* thresholdLT, const int16_t* valueLT, const int16_t* thresholdGT, const int16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* thresholdLT, const int16_t* valueLT, const int16_t* thresholdGT, const int16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t* thresholdLT, const int16_t* valueLT, const int16_t* thresholdGT, const int16_t* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float thresholdLT, float valueLT, float thresholdGT, float valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float thresholdLT, float valueLT, float thresholdGT, float valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
+ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
+
 /* zmviConvert: dst = src as another element type: the name has the two types, source first.
    Wider types hold every value; 32s32f and 32u32f round to nearest even.  Narrower types saturate.  Rs: negative
    numbers become 0.  With roundMode: a real number becomes an integer by ROUND_ZERO, toward zero; by ROUND_NEAR, to

@@ -96,6 +96,9 @@ enum { DATATYPE_8U = 1, DATATYPE_16U = 5, DATATYPE_16S = 7, DATATYPE_32F = 13, D
    below, zmviConvert toward zero. */
 enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };
 
+/* Which pixels a threshold changes: those below it, or those above. */
+enum { CMP_LESS = 0, CMP_GREATER = 4 };
+
 /* The border word: a rule, plus one flag for every side whose outside pixels are readable in memory and to be used
    as they are.  BORDER_IN_MEM alone means that the whole frame is readable. */
 enum {

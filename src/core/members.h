@@ -24,10 +24,14 @@
     SHAPE(name##_L, __VA_ARGS__, int64_t, ImageSizeL)
 
 // What a constant argument looks like: one value, or a pointer to one value a channel.
-#define VALUE_OF_C1(T) T value
-#define VALUE_OF_C3(T) const T* value
-#define VALUE_OF_C4(T) const T* value
-#define VALUE_OF_AC4(T) const T* value
+#define NAMED_OF_C1(T, name) T name
+#define NAMED_OF_C3(T, name) const T* name
+#define NAMED_OF_C4(T, name) const T* name
+#define NAMED_OF_AC4(T, name) const T* name
+#define VALUE_OF_C1(T) NAMED_OF_C1(T, value)
+#define VALUE_OF_C3(T) NAMED_OF_C3(T, value)
+#define VALUE_OF_C4(T) NAMED_OF_C4(T, value)
+#define VALUE_OF_AC4(T) NAMED_OF_AC4(T, value)
 
 // ENTRY(name, parameters, call): a row of the library, an operation that returns a status.
 // ENTRY_OF(result, name, parameters, call): the same for the few functions that return something else.

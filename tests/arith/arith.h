@@ -40,12 +40,12 @@ void eachElement(const Case& c, F f) {
 void arrangeArithmetic(Case& c);
 
 // Passes a constant that is passed by value as its image has it.
-inline void bindValue(Case& c) {
-    const Image& value = c.image("value");
-    if (c.member.points("value")) return;
+inline void bindValue(Case& c, const std::string& name = "value") {
+    const Image& value = c.image(name);
+    if (c.member.points(name)) return;
     withElement(value.element, [&](auto zero) {
         zero = c.get<decltype(zero)>(value, 0, 0);
-        std::memcpy(&c.arg("value").a, &zero, sizeof zero);
+        std::memcpy(&c.arg(name).a, &zero, sizeof zero);
     });
 }
 

@@ -48,12 +48,12 @@ void sweep(const Family& family, Mode mode, long cases) {
         EXPECT_TRUE(m.family != &family || !chosen(m) || Case::exercised.count(m.name)) << m.name << " never ran";
 }
 
-bool applies(const Break& b, const Member& m) {
+bool applies(const Check& check, const Break& b, const Member& m) {
     const Parameter* p = m.find(b.argument);
     if (b.part == Break::plane) return p && b.value < p->planes;
     if (b.part == Break::channel) return p && b.value < m.to.used();
     if (b.argument.ends_with("Step") && acceptsAnyStep(m)) return false;
-    return p && (p->pointer || b.argument != "value");  // a constant that is passed by value cannot be wrong
+    return p && (p->pointer || check.status != STATUS_NULL_POINTER);  // a constant may be passed by value
 }
 
 void apply(const Break& b, Case& c) {
@@ -82,7 +82,7 @@ void apply(const Break& b, Case& c) {
 std::string refuse(const Member& m, uint64_t seed) {
     std::vector<Check> ladder;
     for (Check check : m.family->ladder) {
-        std::erase_if(check.breaks, [&](const Break& b) { return !applies(b, m); });
+        std::erase_if(check.breaks, [&](const Break& b) { return !applies(check, b, m); });
         if (!check.breaks.empty()) ladder.push_back(check);
     }
     Case whole(m, underTest(), seed + 4, Mode::controls);

@@ -1,0 +1,92 @@
+// zmviThreshold and its sisters.
+#include "arith/arith.h"
+
+namespace {
+
+using namespace test;
+
+// Levels in the middle of the pixels, and some pixels at the levels.
+void arrangeThreshold(Case& c) {
+    for (const char* name : {"src", "dst", "srcDst"})
+        if (c.has(name)) c.place(name, c.width, c.height);
+    if (c.has("dst") && c.mode == Mode::usual && c.rng.oneIn(4)) c.alias("dst", "src");
+    const Image& src = c.image(onlySource(c));
+    for (const char* name : {"threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"})
+        if (c.has(name)) c.placeValue(name, c.member.to.used());
+    withElement(src.element, [&](auto zero) {
+        using T = decltype(zero);
+        for (int k = 0; k < c.member.to.used(); ++k) {
+            const T pixel = c.get<T>(src, c.rng.below(int(c.width)), c.rng.below(int(c.height)), k);
+            const T other = c.get<T>(src, c.rng.below(int(c.width)), c.rng.below(int(c.height)), k);
+            if (c.has("threshold") && c.rng.below(4)) c.set(c.image("threshold"), 0, 0, k, pixel);
+            if (c.has("thresholdLT")) {
+                c.set(c.image("thresholdLT"), 0, 0, k, other < pixel ? other : pixel);
+                c.set(c.image("thresholdGT"), 0, 0, k, other < pixel || c.rng.oneIn(8) ? pixel : other);
+                if (c.mode == Mode::usual && c.rng.oneIn(20))
+                    c.set(c.image("thresholdLT"), 0, 0, k, std::numeric_limits<T>::max());
+            }
+        }
+    });
+    for (const char* name : {"threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"})
+        if (c.has(name)) bindValue(c, name);
+    c.arg("roiSize") = {c.width, c.height};
+    if (c.has("cmpOp")) c.arg("cmpOp") = c.rng.oneIn(2) ? CMP_LESS : CMP_GREATER;
+}
+
+bool crossed(Case& c) {
+    bool any = false;
+    if (c.has("thresholdLT"))
+        withElement(c.member.source, [&](auto t) {
+            const auto at = [&](const char* name, int k) { return c.get<decltype(t)>(c.image(name), 0, 0, k); };
+            for (int k = 0; k < c.member.to.used(); ++k) any |= at("thresholdGT", k) < at("thresholdLT", k);
+        });
+    return any;
+}
+
+template <int cmpOp>
+void threshold(Case& c) {
+    const int64_t op = c.has("cmpOp") ? c.arg("cmpOp").a : cmpOp;
+    if (crossed(c)) {
+        c.expected = STATUS_BAD_THRESHOLD;
+        return;
+    }
+    oneByOne(c, [&]<class T>(T s, int64_t, int64_t, int k) {
+        const auto constant = [&](const char* name) { return c.get<T>(c.image(name), 0, 0, k); };
+        if (c.has("thresholdLT")) {
+            if (s < constant("thresholdLT")) return constant("valueLT");
+            return s > constant("thresholdGT") ? constant("valueGT") : s;
+        }
+        const T level = constant("threshold");
+        const bool beyond = op == CMP_GREATER ? s > level : s < level;
+        return beyond ? constant(c.has("value") ? "value" : "threshold") : s;
+    });
+}
+
+const Check operators{STATUS_BAD_ARGUMENT,
+                      {{"cmpOp", Break::whole, 1},
+                       {"cmpOp", Break::whole, 2},
+                       {"cmpOp", Break::whole, 3},
+                       {"cmpOp", Break::whole, 5},
+                       {"cmpOp", Break::whole, -1},
+                       {"cmpOp", Break::whole, INT32_MIN}}};
+std::vector<Check> ladder(bool operatorFirst = false) {
+    const std::vector<Check> rest = {
+        pointers({"src", "dst", "srcDst", "threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"}),
+        sizes({"roiSize"}), positive({"srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP)};
+    std::vector<Check> all = rest;
+    all.insert(operatorFirst ? all.begin() : all.end(), operators);
+    return all;
+}
+
+}  // namespace
+
+#define THRESHOLD(name, op, ...)                                                                                       \
+    extern const Family test_##name = {                                                                                \
+        .arrange = arrangeThreshold, .oracle = threshold<op>, .ladder = ladder(__VA_ARGS__), .bulk = true};
+THRESHOLD(zmviThreshold, CMP_LESS)
+THRESHOLD(zmviThreshold_GT, CMP_GREATER)
+THRESHOLD(zmviThreshold_LT, CMP_LESS)
+THRESHOLD(zmviThreshold_Val, CMP_LESS, true)
+THRESHOLD(zmviThreshold_GTVal, CMP_GREATER)
+THRESHOLD(zmviThreshold_LTVal, CMP_LESS)
+THRESHOLD(zmviThreshold_LTValGTVal, CMP_LESS)
