@@ -256,7 +256,8 @@ ZMV_API StatusCode zmviCopyManaged_8u_C1R(const uint8_t* src, int srcStep, uint8
 ZMV_API StatusCode zmviDup_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviDup_8u_C1C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 
-/* zmviSet: dst = value in every pixel: one value, or a pointer to one value a channel (three for C3 and AC4, four for C4).
+/* zmviSet: dst = value in every pixel: one value, or a pointer to one value a channel (three for C3 and AC4, four for
+   C4).
    AC4 leaves the fourth channel as it was; C3CR and C4CR set the one channel that dst points at; the M forms set
    only pixels whose byte in mask, a one-channel 8-bit image, is not zero.
    Any step is accepted, zero and negative ones too.  C1R, C3R and C4R regions larger than the cache are written
@@ -314,7 +315,8 @@ ZMV_API StatusCode zmviSet_32f_AC4MR(const float* value, float* dst, int dstStep
 ZMV_API StatusCode zmviSet_32f_C3CR(float value, float* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviSet_32f_C4CR(float value, float* dst, int dstStep, ImageSize roiSize);
 
-/* zmviCopyConstBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+/* zmviCopyConstBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to
+   dstRoiSize is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame takes value: one value, or a pointer to one value a channel (three for C3 and AC4).
    AC4 leaves the fourth channel as it was, inside and in the frame.  src and dst must not overlap.
@@ -403,7 +405,8 @@ ZMV_API StatusCode zmviCopyConstBorder_32f_AC4R_L(const float* src, int64_t srcS
 ZMV_API StatusCode zmviCopyConstBorder_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left, const float* value);
 ZMV_API StatusCode zmviCopyConstBorder_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left, const float* value);
 
-/* zmviCopyReplicateBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+/* zmviCopyReplicateBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to
+   dstRoiSize is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame repeats the nearest pixel of the source: a a|a b c d|d d.
    AC4 leaves the fourth channel as it was, inside and in the frame.  With src == dst the call is the in-place form
@@ -492,7 +495,8 @@ ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4R_L(const float* src, int64_t 
 ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
 ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
 
-/* zmviCopyMirrorBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+/* zmviCopyMirrorBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to
+   dstRoiSize is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame mirrors the source about its edge pixels, which are not repeated: c b|a b c d|c b.
    Borders may be wider than the source: the mirror images go on with period 2 * width - 2.  With src == dst the
@@ -561,7 +565,8 @@ ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4R_L(const float* src, int64_t srcS
 ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4IR(float* srcDst, int srcDstStep, ImageSize srcRoiSize, ImageSize dstRoiSize, int top, int left);
 ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
 
-/* zmviCopyWrapBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize is filled.
+/* zmviCopyWrapBorder: srcRoiSize pixels of src go to dst at column left, row top; the frame round them up to dstRoiSize
+   is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame repeats the source periodically: c d|a b c d|a b, as often as needed.
    src and dst must not overlap.
@@ -593,7 +598,8 @@ ZMV_API StatusCode zmviFilterBoxBorderGetBufferSize(ImageSize roiSize, ImageSize
    alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
    Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an
    integer (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size,
-   times 1 / area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only windows that contain it.
+   times 1 / area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only
+   windows that contain it.
    In place: src == dst with equal steps is allowed; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
    positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
@@ -616,7 +622,8 @@ ZMV_API StatusCode zmviFilterBoxBorder_32f_C3R(const float* src, int srcStep, fl
 ZMV_API StatusCode zmviFilterBoxBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
 ZMV_API StatusCode zmviFilterBoxBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
 
-/* zmviFilterBox: The mean of the window that covers columns x - anchor.x .. + maskSize.width - 1 and rows likewise, all read from
+/* zmviFilterBox: The mean of the window that covers columns x - anchor.x .. + maskSize.width - 1 and rows likewise, all
+   read from
    the caller's memory: those round the region must be readable.  src and dst must not overlap.
    Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: a region size below 1.
    STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_ANCHOR: the anchor lies outside the mask.
@@ -1161,7 +1168,8 @@ ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
    In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
    if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not
    positive.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDiv_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1233,7 +1241,8 @@ ZMV_API StatusCode zmviDiv_32f_AC4IR_L(const float* src, int64_t srcStep, float*
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_DIV_BY_ZERO: a value is zero, of either sign.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.  STATUS_DIV_BY_ZERO: a value is zero, of either sign.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviDivC_8u_C1RSfs_L(const uint8_t* src, int64_t srcStep, uint8_t value, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
@@ -1311,7 +1320,8 @@ ZMV_API StatusCode zmviDivC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
    In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
    if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not
    positive.  STATUS_BAD_ROUND_MODE: roundMode is none of these.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDiv_Round_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
@@ -1344,7 +1354,8 @@ ZMV_API StatusCode zmviDiv_Round_16s_AC4IRSfs(const int16_t* src, int srcStep, i
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAnd_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1375,7 +1386,8 @@ ZMV_API StatusCode zmviAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAndC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1407,7 +1419,8 @@ ZMV_API StatusCode zmviAndC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviOr_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1438,7 +1451,8 @@ ZMV_API StatusCode zmviOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* sr
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviOrC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1470,7 +1484,8 @@ ZMV_API StatusCode zmviOrC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int3
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXor_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1501,7 +1516,8 @@ ZMV_API StatusCode zmviXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXorC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1528,13 +1544,15 @@ ZMV_API StatusCode zmviXorC_32s_C4IR(int32_t* srcDst, int srcDstStep, const int3
 ZMV_API StatusCode zmviXorC_32s_AC4R(const int32_t* src, int srcStep, const int32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviXorC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int32_t* value, ImageSize roiSize);
 
-/* zmviMulScale: dst = src1 * src2 over the largest value of the type, as with numbers between 0 and 1.  8u: rounded down over
+/* zmviMulScale: dst = src1 * src2 over the largest value of the type, as with numbers between 0 and 1.  8u: rounded
+   down over
    255.  16u: over 65535, rounded to nearest (there are no ties).
    AC4 leaves the fourth channel of the destination as it was.
    In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
    that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulScale_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviMulScale_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1557,7 +1575,8 @@ ZMV_API StatusCode zmviMulScale_16u_AC4IR(const uint16_t* src, int srcStep, uint
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulCScale_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviMulCScale_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t value, ImageSize roiSize);
@@ -1581,7 +1600,8 @@ ZMV_API StatusCode zmviMulCScale_16u_AC4IR(uint16_t* srcDst, int srcDstStep, con
    nearest even whatever the caller's rounding mode.
    value is one number for C1, a pointer to three for C3, to four for C4.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulC64f_8u_C1R(const uint8_t* src, int srcStep, double value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviMulC64f_8u_C1IR(uint8_t* srcDst, int srcDstStep, double value, ImageSize roiSize);
@@ -1612,7 +1632,8 @@ ZMV_API StatusCode zmviMulC64f_32f_C4IR(float* srcDst, int srcDstStep, const dou
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pishift.cpp */
 ZMV_API StatusCode zmviLShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviLShiftC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
@@ -1639,12 +1660,14 @@ ZMV_API StatusCode zmviLShiftC_32s_C4IR(int32_t* srcDst, int srcDstStep, const u
 ZMV_API StatusCode zmviLShiftC_32s_AC4R(const int32_t* src, int srcStep, const uint32_t* value, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviLShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const uint32_t* value, ImageSize roiSize);
 
-/* zmviRShiftC: dst = src >> value.  Signed types keep their sign; a value of the element's width in bits or more leaves 0, or -1
+/* zmviRShiftC: dst = src >> value.  Signed types keep their sign; a value of the element's width in bits or more leaves
+   0, or -1
    of negative numbers.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/pishift.cpp */
 ZMV_API StatusCode zmviRShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviRShiftC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint32_t value, ImageSize roiSize);
@@ -1682,7 +1705,8 @@ ZMV_API StatusCode zmviRShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const 
 /* zmviAbs: dst = |src|; of -32768 it is 32767.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviAbs_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAbs_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1706,7 +1730,8 @@ ZMV_API StatusCode zmviAbs_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize ro
    any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviSqr_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviSqr_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
@@ -1742,13 +1767,15 @@ ZMV_API StatusCode zmviSqr_32f_AC4R(const float* src, int srcStep, float* dst, i
 ZMV_API StatusCode zmviSqr_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
 
 /* zmviSqrt: dst = the square root of src.
-   Integers: the exact root times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   Integers: the exact root times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.
    Negative numbers give 0.  32f: the root in single precision, under the caller's rounding mode; negative numbers
    give NaN.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviSqrt_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviSqrt_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
@@ -1777,11 +1804,13 @@ ZMV_API StatusCode zmviSqrt_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize r
 ZMV_API StatusCode zmviSqrt_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
 
 /* zmviExp: dst = e to the power of src.
-   Integers: the result in double precision times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   Integers: the result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.
    32f: within one unit in the last place, the same whatever the caller's rounding mode; minus infinity gives 0.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piexpln.cpp */
 ZMV_API StatusCode zmviExp_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviExp_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
@@ -1801,12 +1830,14 @@ ZMV_API StatusCode zmviExp_32f_C3R(const float* src, int srcStep, float* dst, in
 ZMV_API StatusCode zmviExp_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
 
 /* zmviLn: dst = the natural logarithm of src.
-   Integers: the result in double precision times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any scaleFactor is accepted.
+   Integers: the result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.
    Zero and negative numbers give the smallest of the type.  32f: within one unit in the last place, the same whatever
    the caller's rounding mode; zero gives minus infinity, negative numbers NaN.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piexpln.cpp */
 ZMV_API StatusCode zmviLn_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviLn_8u_C1IRSfs(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
@@ -1828,7 +1859,8 @@ ZMV_API StatusCode zmviLn_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiS
 /* zmviComplement: dst = -src in two's complement; the type's minimum stays as it is.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviComplement_8s_C1R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviComplement_8s_C1IR(int8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1858,7 +1890,8 @@ ZMV_API StatusCode zmviComplement_32s_AC4IR(int32_t* srcDst, int srcDstStep, Ima
 /* zmviNot: dst = ~src, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviNot_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
@@ -1971,7 +2004,8 @@ ZMV_API StatusCode zmviThreshold_LT_32f_C3IR(float* srcDst, int srcDstStep, Imag
 ZMV_API StatusCode zmviThreshold_LT_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* threshold);
 ZMV_API StatusCode zmviThreshold_LT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
 
-/* zmviThreshold_Val: dst = value where src > threshold (cmpOp CMP_GREATER) or src < threshold (CMP_LESS), elsewhere src.
+/* zmviThreshold_Val: dst = value where src > threshold (cmpOp CMP_GREATER) or src < threshold (CMP_LESS), elsewhere
+   src.
    A pixel equal to a threshold stays as it is, and so does NaN.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
@@ -2097,7 +2131,8 @@ ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, 
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
    Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_THRESHOLD: a thresholdGT lies below its thresholdLT.
+   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_THRESHOLD: a thresholdGT lies below its
+   thresholdLT.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
 ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
@@ -2133,10 +2168,11 @@ ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstS
    AC4 leaves the fourth channel of the destination as it was.
    In place: 32f32u_C1IRSfs, whose srcDst holds uint32_t afterwards; elsewhere src and dst must not overlap, but in Rs,
    which then converts element by element from the first on.
-   Except in Rs, RSfs and AC4, regions that read and write more than the largest cache holds are written past the caches.
+   Except in Rs, RSfs and AC4, regions that read and write more than the largest cache holds are written past the
+   caches.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive; Rs accepts any step.
-   src/datamove/piconvertca.cpp, datamove/piconvert_ort.cpp */
+   src/datamove/piconvertca.cpp and piconvert_ort.cpp */
 ZMV_API StatusCode zmviConvert_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviConvert_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviConvert_8u16u_C4R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);

@@ -1,17 +1,22 @@
 // Prints include/zmvip.h from the members: every prototype, one a line, under its family's banner.
 #include <cstdio>
-#include <cstring>
+#include <string>
 
 #include "core/members.h"
 
-// Prints a banner as a C comment, its lines under the family's name.
-static void banner(const char* name, const char* module, const char* text) {
-    std::printf("\n/* %s: ", name);
-    for (; *text; ++text) {
-        std::putchar(*text);
-        if (*text == '\n') std::fputs("   ", stdout);
+// Prints a banner as a C comment, its lines under the family's name, broken between words where they are too long.
+static void banner(const std::string& name, const char* module, std::string text) {
+    constexpr size_t columns = 120;
+    text.insert(0, "/* " + name + ": ");
+    for (size_t start = 0, space = 0, i = 0; i < text.size(); ++i) {
+        if (text[i] == ' ') space = i;
+        if (i - start >= columns && space > start + 3) text[i = space] = '\n';
+        if (text[i] == '\n') {
+            text.insert(i + 1, "   ");
+            start = i + 1;
+        }
     }
-    std::printf("\n   src/%s */\n", module);
+    std::printf("\n%s\n   src/%s */\n", text.c_str(), module);
 }
 
 int main() {
