@@ -63,6 +63,8 @@ double Call::number(const std::string& name) const {
     if (name == "thresholdLT") return 85;
     if (name == "threshold" || name == "thresholdGT") return 170;
     if (name == "cmpOp") return CMP_GREATER;
+    if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
+    if (name == "alphaType") return setting.factor;
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
@@ -82,8 +84,9 @@ void* Call::pointer(const std::string& name, int64_t element) {
 }
 
 void* Call::planes(const std::string& name, int64_t element) {
-    for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planePointers.push_back(image(name, element));
-    return planePointers.data();
+    auto& planes = planePointers.emplace_back();
+    for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planes.push_back(image(name, element));
+    return planes.data();
 }
 
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.

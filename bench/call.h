@@ -21,7 +21,7 @@ struct Build {
 };
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
-// and the scale factor.
+// and the scale factor or the compositing operation.
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -96,7 +96,7 @@ class Call {
     std::string type = "8u";               // of the source
     int fromChannels = 1, toChannels = 1;  // of the source and of the destination, or the number of planes
     std::map<std::string, int64_t> steps;
-    std::vector<void*> planePointers;
+    std::deque<std::vector<void*>> planePointers;
     std::deque<Memory> memory;
     Memory *read = nullptr, *written = nullptr;  // where memcpy works too
 };

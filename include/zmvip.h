@@ -2159,6 +2159,144 @@ ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C3IR(float* srcDst, int srcDstSt
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 
+/* zmviAlphaComp: dst = src1 composited with src2, each pixel by the alphas of both.
+   cA, cB: colours of src1 and src2; aA, aB: their alphas; 1: the largest number of the type, 1.0 in 32f.
+     alphaType     colour, times its alpha            alpha
+     ALPHA_OVER    cA*aA + cB*aB*(1 - aA)             aA + aB*(1 - aA)
+     ALPHA_IN      cA*aA*aB                           aA*aB
+     ALPHA_OUT     cA*aA*(1 - aB)                     aA*(1 - aB)
+     ALPHA_ATOP    cA*aA*aB + cB*aB*(1 - aA)          aB
+     ALPHA_XOR     cA*aA*(1 - aB) + cB*aB*(1 - aA)    aA*(1 - aB) + aB*(1 - aA)
+     ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
+   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA
+   or aB behind a colour, and at most 1.
+   Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
+   negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
+   rounding mode; a colour whose weight is zero has no influence, be it infinite or NaN.
+   Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
+   AC1: images of alphas alone.  AC4: the fourth channel is alpha, of dst too.  AP4: the fourth plane is.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if
+   it has that source's step, of planes each its own; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_ALPHA_TYPE: alphaType is none of the twelve.
+   src/arith/pialpha8u.cpp */
+ZMV_API StatusCode zmviAlphaComp_8u_AC1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_8u_AC4IR(const uint8_t* src1, int src1Step, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16u_AC1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16u_AC4IR(const uint16_t* src1, int src1Step, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16s_AC1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16s_AC4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16s_AC4IR(const int16_t* src1, int src1Step, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32s_AC1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32s_AC4IR(const int32_t* src1, int src1Step, int32_t* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32u_AC1R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, uint32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32u_AC4R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, uint32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32u_AC4IR(const uint32_t* src1, int src1Step, uint32_t* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32f_AC1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_32f_AC4IR(const float* src1, int src1Step, float* srcDst, int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_8u_AP4R(const uint8_t* const src1[4], int src1Step, const uint8_t* const src2[4], int src2Step, uint8_t* const dst[4], int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_8u_AP4IR(const uint8_t* const src1[4], int src1Step, uint8_t* const srcDst[4], int srcDstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16u_AP4R(const uint16_t* const src1[4], int src1Step, const uint16_t* const src2[4], int src2Step, uint16_t* const dst[4], int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaComp_16u_AP4IR(const uint16_t* const src1[4], int src1Step, uint16_t* const srcDst[4], int srcDstStep, ImageSize roiSize, int alphaType);
+
+/* zmviAlphaCompC: dst = src1 composited with src2, with one alpha for all pixels of each: alpha1, alpha2.
+   cA, cB: colours of src1 and src2; aA, aB: their alphas; 1: the largest number of the type, 1.0 in 32f.
+     alphaType     colour, times its alpha            alpha
+     ALPHA_OVER    cA*aA + cB*aB*(1 - aA)             aA + aB*(1 - aA)
+     ALPHA_IN      cA*aA*aB                           aA*aB
+     ALPHA_OUT     cA*aA*(1 - aB)                     aA*(1 - aB)
+     ALPHA_ATOP    cA*aA*aB + cB*aB*(1 - aA)          aB
+     ALPHA_XOR     cA*aA*(1 - aB) + cB*aB*(1 - aA)    aA*(1 - aB) + aB*(1 - aA)
+     ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
+   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA
+   or aB behind a colour, and at most 1.
+   Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
+   negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
+   rounding mode; a colour whose weight is zero has no influence, be it infinite or NaN.
+   Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
+   Only colours are written.  AC4 and AP4 leave the fourth channel or plane of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if
+   it has that source's step, of planes each its own; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_ALPHA_TYPE: alphaType is none of the twelve.
+   src/arith/pialpha8u.cpp */
+ZMV_API StatusCode zmviAlphaCompC_8u_C1R(const uint8_t* src1, int src1Step, uint8_t alpha1, const uint8_t* src2, int src2Step, uint8_t alpha2, uint8_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_8u_C1IR(const uint8_t* src1, int src1Step, uint8_t alpha1, uint8_t* srcDst, int srcDstStep, uint8_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_8u_AC4R(const uint8_t* src1, int src1Step, uint8_t alpha1, const uint8_t* src2, int src2Step, uint8_t alpha2, uint8_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_8u_AC4IR(const uint8_t* src1, int src1Step, uint8_t alpha1, uint8_t* srcDst, int srcDstStep, uint8_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_C1R(const uint16_t* src1, int src1Step, uint16_t alpha1, const uint16_t* src2, int src2Step, uint16_t alpha2, uint16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_C1IR(const uint16_t* src1, int src1Step, uint16_t alpha1, uint16_t* srcDst, int srcDstStep, uint16_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_AC4R(const uint16_t* src1, int src1Step, uint16_t alpha1, const uint16_t* src2, int src2Step, uint16_t alpha2, uint16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_AC4IR(const uint16_t* src1, int src1Step, uint16_t alpha1, uint16_t* srcDst, int srcDstStep, uint16_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16s_C1R(const int16_t* src1, int src1Step, int16_t alpha1, const int16_t* src2, int src2Step, int16_t alpha2, int16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16s_C1IR(const int16_t* src1, int src1Step, int16_t alpha1, int16_t* srcDst, int srcDstStep, int16_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16s_AC4R(const int16_t* src1, int src1Step, int16_t alpha1, const int16_t* src2, int src2Step, int16_t alpha2, int16_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16s_AC4IR(const int16_t* src1, int src1Step, int16_t alpha1, int16_t* srcDst, int srcDstStep, int16_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32s_C1R(const int32_t* src1, int src1Step, int32_t alpha1, const int32_t* src2, int src2Step, int32_t alpha2, int32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32s_C1IR(const int32_t* src1, int src1Step, int32_t alpha1, int32_t* srcDst, int srcDstStep, int32_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32s_AC4R(const int32_t* src1, int src1Step, int32_t alpha1, const int32_t* src2, int src2Step, int32_t alpha2, int32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32s_AC4IR(const int32_t* src1, int src1Step, int32_t alpha1, int32_t* srcDst, int srcDstStep, int32_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32u_C1R(const uint32_t* src1, int src1Step, uint32_t alpha1, const uint32_t* src2, int src2Step, uint32_t alpha2, uint32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32u_C1IR(const uint32_t* src1, int src1Step, uint32_t alpha1, uint32_t* srcDst, int srcDstStep, uint32_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32u_AC4R(const uint32_t* src1, int src1Step, uint32_t alpha1, const uint32_t* src2, int src2Step, uint32_t alpha2, uint32_t* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32u_AC4IR(const uint32_t* src1, int src1Step, uint32_t alpha1, uint32_t* srcDst, int srcDstStep, uint32_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32f_C1R(const float* src1, int src1Step, float alpha1, const float* src2, int src2Step, float alpha2, float* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32f_C1IR(const float* src1, int src1Step, float alpha1, float* srcDst, int srcDstStep, float alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32f_AC4R(const float* src1, int src1Step, float alpha1, const float* src2, int src2Step, float alpha2, float* dst, int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_32f_AC4IR(const float* src1, int src1Step, float alpha1, float* srcDst, int srcDstStep, float alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_8u_AP4R(const uint8_t* const src1[4], int src1Step, uint8_t alpha1, const uint8_t* const src2[4], int src2Step, uint8_t alpha2, uint8_t* const dst[4], int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_8u_AP4IR(const uint8_t* const src1[4], int src1Step, uint8_t alpha1, uint8_t* const srcDst[4], int srcDstStep, uint8_t alpha2, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_AP4R(const uint16_t* const src1[4], int src1Step, uint16_t alpha1, const uint16_t* const src2[4], int src2Step, uint16_t alpha2, uint16_t* const dst[4], int dstStep, ImageSize roiSize, int alphaType);
+ZMV_API StatusCode zmviAlphaCompC_16u_AP4IR(const uint16_t* const src1[4], int src1Step, uint16_t alpha1, uint16_t* const srcDst[4], int srcDstStep, uint16_t alpha2, ImageSize roiSize, int alphaType);
+
+/* zmviAlphaPremul: dst = src * alpha over the largest number of the type, rounded to nearest (there are no ties).
+   AC4: alpha is the fourth channel of src; that of dst stays as it was.  AP4: the same with planes.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pialpha8u.cpp */
+ZMV_API StatusCode zmviAlphaPremul_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_8u_AP4R(const uint8_t* const src[4], int srcStep, uint8_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_8u_AP4IR(uint8_t* const srcDst[4], int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_16u_AP4R(const uint16_t* const src[4], int srcStep, uint16_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremul_16u_AP4IR(uint16_t* const srcDst[4], int srcDstStep, ImageSize roiSize);
+
+/* zmviAlphaPremulC: dst = src * alpha over the largest number of the type, rounded to nearest (there are no ties).
+   C4: all four channels.  AC4 and AP4 leave the fourth channel or plane of the destination as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/pialpha8u.cpp */
+ZMV_API StatusCode zmviAlphaPremulC_8u_C1R(const uint8_t* src, int srcStep, uint8_t alpha, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_C1IR(uint8_t* srcDst, int srcDstStep, uint8_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_C3R(const uint8_t* src, int srcStep, uint8_t alpha, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_C3IR(uint8_t* srcDst, int srcDstStep, uint8_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_C4R(const uint8_t* src, int srcStep, uint8_t alpha, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_C4IR(uint8_t* srcDst, int srcDstStep, uint8_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_AC4R(const uint8_t* src, int srcStep, uint8_t alpha, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_AC4IR(uint8_t* srcDst, int srcDstStep, uint8_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_AP4R(const uint8_t* const src[4], int srcStep, uint8_t alpha, uint8_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_8u_AP4IR(uint8_t* const srcDst[4], int srcDstStep, uint8_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C1R(const uint16_t* src, int srcStep, uint16_t alpha, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C1IR(uint16_t* srcDst, int srcDstStep, uint16_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C3R(const uint16_t* src, int srcStep, uint16_t alpha, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C3IR(uint16_t* srcDst, int srcDstStep, uint16_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C4R(const uint16_t* src, int srcStep, uint16_t alpha, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_C4IR(uint16_t* srcDst, int srcDstStep, uint16_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_AC4R(const uint16_t* src, int srcStep, uint16_t alpha, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, uint16_t alpha, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_AP4R(const uint16_t* const src[4], int srcStep, uint16_t alpha, uint16_t* const dst[4], int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviAlphaPremulC_16u_AP4IR(uint16_t* const srcDst[4], int srcDstStep, uint16_t alpha, ImageSize roiSize);
+
 /* zmviConvert: dst = src as another element type: the name has the two types, source first.
    Wider types hold every value; 32s32f and 32u32f round to nearest even.  Narrower types saturate.  Rs: negative
    numbers become 0.  With roundMode: a real number becomes an integer by ROUND_ZERO, toward zero; by ROUND_NEAR, to

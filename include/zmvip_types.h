@@ -99,6 +99,23 @@ enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };
 /* Which pixels a threshold changes: those below it, or those above. */
 enum { CMP_LESS = 0, CMP_GREATER = 4 };
 
+/* What compositing shows of image A and of image B, each with its alpha: A over B; A inside of B; A outside of B; A
+   inside of B, over B; each outside of the other; the sum of both.  _PREMUL: colours come multiplied by their alphas. */
+enum {
+    ALPHA_OVER = 0,
+    ALPHA_IN = 1,
+    ALPHA_OUT = 2,
+    ALPHA_ATOP = 3,
+    ALPHA_XOR = 4,
+    ALPHA_PLUS = 5,
+    ALPHA_OVER_PREMUL = 6,
+    ALPHA_IN_PREMUL = 7,
+    ALPHA_OUT_PREMUL = 8,
+    ALPHA_ATOP_PREMUL = 9,
+    ALPHA_XOR_PREMUL = 10,
+    ALPHA_PLUS_PREMUL = 11
+};
+
 /* The border word: a rule, plus one flag for every side whose outside pixels are readable in memory and to be used
    as they are.  BORDER_IN_MEM alone means that the whole frame is readable. */
 enum {

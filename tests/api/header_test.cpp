@@ -38,7 +38,10 @@ struct Name {
 bool endsWith(const std::string& text, const std::string& end) {
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
-int planes(const std::string& layout) { return layout[0] == 'P' ? layout[1] - '0' : 0; }
+int planes(const std::string& layout) {
+    const size_t p = layout.find('P');
+    return p == layout.npos ? 0 : layout[p + 1] - '0';
+}
 bool isStep(const Parameter& p) { return endsWith(p.name, "Step"); }
 
 // The operands of `name` whose rows a step parameter describes, the mask left out.

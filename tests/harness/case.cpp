@@ -109,7 +109,7 @@ size_t Case::newBlock(size_t bytes) {
     size_t start = margin / 2, total = bytes + margin;
     if (mode == Mode::far) {
         const size_t n = blocks_.size();
-        block.live = ring(n).begin + n / ringCount * (Arena::ringBytes / 4) + rng.below(4096);
+        block.live = ring(n).begin + n / ringCount * (Arena::ringBytes / 8) + rng.below(4096);
     } else {
         Arena& a = arena(blocks_.size(), total);
         start = flushEnd_ ? margin : 0;

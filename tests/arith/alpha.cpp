@@ -1,0 +1,189 @@
+// zmviAlphaComp, zmviAlphaCompC, zmviAlphaPremul, zmviAlphaPremulC.
+#include <gtest/gtest.h>
+
+#include "arith/arith.h"
+
+namespace {
+
+using namespace test;
+
+std::string firstImage(const Case& c) { return c.has("src1") ? "src1" : onlySource(c); }
+std::string secondImage(const Case& c) { return c.has("src2") ? "src2" : "srcDst"; }
+
+// Alphas near the ends and the middle of their range and beyond it; of floats, most pixels between 0 and 1.
+template <class T>
+T someFraction(Rng& rng) {
+    if constexpr (std::is_floating_point_v<T>) {
+        const T few[] = {0, 1, T(0.5), T(1) / 3, T(-0.25), 2, std::numeric_limits<T>::denorm_min(), T(-0.0)};
+        return rng.oneIn(3) ? few[rng.below(8)] : T(rng.next() >> 40) / T(1 << 24);
+    } else {
+        constexpr T most = std::numeric_limits<T>::max();
+        const T few[] = {0, 1, T(most / 2), T(most / 2 + 1), T(most - 1), most, std::numeric_limits<T>::min()};
+        return few[rng.below(7)];
+    }
+}
+
+void arrangeAlpha(Case& c) {
+    for (const char* name : {"src1", "src2", "src", "dst", "srcDst"})
+        if (c.has(name)) {
+            const Image& image = c.place(name, c.width, c.height);
+            if (c.mode == Mode::bulk || c.mode == Mode::far) continue;
+            withElement(image.element, [&](auto zero) {
+                for (int64_t y = 0; y < c.height; ++y)
+                    for (int64_t x = 0; x < c.width; ++x)
+                        for (int k = 0; k < std::max(image.planes, image.channels); ++k)
+                            if (!c.rng.oneIn(3)) c.set(image, x, y, k, someFraction<decltype(zero)>(c.rng));
+            });
+        }
+    if (c.has("dst") && c.mode == Mode::usual && c.rng.oneIn(4))
+        c.alias("dst", c.has("src2") && c.rng.oneIn(2) ? "src2" : firstImage(c));
+    for (const char* name : {"alpha1", "alpha2", "alpha"})
+        if (c.has(name)) {
+            const Image& value = c.placeValue(name, 1);
+            withElement(value.element, [&](auto zero) {
+                if (!c.rng.oneIn(3)) c.set(value, 0, 0, 0, someFraction<decltype(zero)>(c.rng));
+            });
+            bindValue(c, name);
+        }
+    c.arg("roiSize") = {c.width, c.height};
+    if (c.has("alphaType")) c.arg("alphaType") = int64_t(c.seed % 12);
+}
+
+template <class T>
+constexpr Wide one = std::numeric_limits<T>::max();
+
+// The table of the operations, written out: the weight of colour A, that of colour B, and alpha.  Numbers are integers
+// over 1, which is `one`; of floats they are floats.
+template <class N>
+struct Row {
+    N a, b, alpha;
+};
+template <class N>
+Row<N> row(int64_t type, N aA, N aB, N one, auto times) {
+    const N notA = one - aA, notB = one - aB;
+    // What a premultiplied colour lacks is its own alpha.
+    const N ownA = type < 6 ? aA : one, ownB = type < 6 ? aB : one;
+    switch (type % 6) {
+        case ALPHA_OVER:
+            return {times(ownA, one), times(ownB, notA), times(aA, one) + times(aB, notA)};
+        case ALPHA_IN:
+            return {times(ownA, aB), 0, times(aA, aB)};
+        case ALPHA_OUT:
+            return {times(ownA, notB), 0, times(aA, notB)};
+        case ALPHA_ATOP:
+            return {times(ownA, aB), times(ownB, notA), times(aA, aB) + times(aB, notA)};
+        case ALPHA_XOR:
+            return {times(ownA, notB), times(ownB, notA), times(aA, notB) + times(aB, notA)};
+        default:
+            return {times(ownA, one), times(ownB, one), std::min(times(aA, one) + times(aB, one), times(one, one))};
+    }
+}
+
+template <class T>
+struct Reference {
+    int64_t type;
+    static T clamped(T alpha) {
+        if (std::is_floating_point_v<T>) return alpha > 0 ? std::min(alpha, T(1)) : T(0);
+        return std::max(alpha, T(0));
+    }
+    auto table(T aA, T aB) const {
+        if constexpr (std::is_floating_point_v<T>)
+            return row<T>(type, clamped(aA), clamped(aB), 1, [](T x, T y) { return x * y; });
+        else
+            return row<Wide>(type, clamped(aA), clamped(aB), one<T>, [](Wide x, Wide y) { return x * y; });
+    }
+    T colour(T a, T b, T aA, T aB) const {
+        const auto weights = table(aA, aB);
+        if constexpr (std::is_floating_point_v<T>) {
+            const T termA = weights.a == 0 ? 0 : nanOr(a * weights.a, a);
+            const T termB = weights.b == 0 ? 0 : nanOr(b * weights.b, b);
+            const T sum = nanOr(termA + termB, termA, termB);
+            return type >= ALPHA_PLUS && sum > 1 ? 1 : sum;
+        } else {
+            return ratio<T>(a * weights.a + b * weights.b, one<T> * one<T>, 0);
+        }
+    }
+    T alpha(T aA, T aB) const {
+        if (type % 6 == ALPHA_ATOP) return clamped(aB);
+        if constexpr (std::is_floating_point_v<T>)
+            return table(aA, aB).alpha;
+        else
+            return ratio<T>(table(aA, aB).alpha, one<T>, 0);
+    }
+};
+
+void composite(Case& c) {
+    const Image &a = c.image(firstImage(c)), &b = c.image(secondImage(c)), &to = c.image(overwritten(c));
+    const bool constants = c.has("alpha1");
+    const Layout& layout = c.member.to;
+    withElement(to.element, [&](auto zero) {
+        using T = decltype(zero);
+        const Reference<T> due{c.arg("alphaType").a};
+        const auto put = [&](int64_t x, int64_t y, int k) {
+            const bool alphas = layout.alpha && !constants && k == layout.channels - 1;
+            const int at = layout.channels - 1;
+            const T aA = constants ? c.get<T>(c.image("alpha1"), 0, 0) : c.get<T>(a, x, y, at);
+            const T aB = constants ? c.get<T>(c.image("alpha2"), 0, 0) : c.get<T>(b, x, y, at);
+            c.set(to, x, y, k,
+                  alphas ? due.alpha(aA, aB) : due.colour(c.get<T>(a, x, y, k), c.get<T>(b, x, y, k), aA, aB));
+        };
+        // In place, alphas are read until they are overwritten: after the colours of the pixel, or of the image.
+        const int written = layout.channels - (constants && layout.alpha);
+        for (int plane = 0; plane < (layout.planar ? written : 1); ++plane)
+            for (int64_t y = 0; y < c.height; ++y)
+                for (int64_t x = 0; x < c.width; ++x)
+                    for (int k = layout.planar ? plane : 0; k < (layout.planar ? plane + 1 : written); ++k)
+                        put(x, y, k);
+    });
+}
+
+void premultiply(Case& c) {
+    const Image& src = c.image(onlySource(c));
+    oneByOne(c, [&]<class T>(T colour, int64_t x, int64_t y, int) {
+        const T alpha = c.has("alpha") ? c.get<T>(c.image("alpha"), 0, 0) : c.get<T>(src, x, y, 3);
+        if constexpr (std::is_integral_v<T>)
+            return ratio<T>(Wide(colour) * alpha, one<T>, 0);
+        else
+            return colour;
+    });
+}
+
+const Check types{
+    STATUS_BAD_ALPHA_TYPE,
+    {{"alphaType", Break::whole, 12}, {"alphaType", Break::whole, -1}, {"alphaType", Break::whole, INT32_MIN}}};
+const std::vector<Check> ladder = {pointers({"src1", "src2", "src", "dst", "srcDst"}), sizes({"roiSize"}), types};
+
+// Every operation on bytes, for all alphas and colours on a grid with the ends and the middle of their range.
+TEST(Alpha, AllBytesOnAGrid) {
+    const uint8_t grid[] = {0, 1, 2, 63, 84, 85, 86, 127, 128, 129, 170, 200, 253, 254, 255};
+    constexpr int n = std::size(grid), count = n * n * n * n;
+    std::vector<uint8_t> a(4 * count), b(4 * count), result(4 * count);
+    for (int i = 0; i < count; ++i)
+        for (int k = 0; k < 4; ++k) {
+            a[size_t(4 * i + k)] = grid[k == 3 ? i % n : (i / n / n + k) % n];
+            b[size_t(4 * i + k)] = grid[k == 3 ? i / n % n : i / n / n / n % n];
+        }
+    const auto call =
+        reinterpret_cast<StatusCode (*)(const uint8_t*, int, const uint8_t*, int, uint8_t*, int, ImageSize, int)>(
+            underTest().find("zmviAlphaComp_8u_AC4R"));
+    for (int type = 0; type < 12; ++type) {
+        ASSERT_EQ(call(a.data(), 4 * count, b.data(), 4 * count, result.data(), 4 * count, {count, 1}, type),
+                  STATUS_OK);
+        const Reference<uint8_t> due{type};
+        for (size_t i = 0; i < result.size(); ++i) {
+            const uint8_t aA = a[i | 3], aB = b[i | 3];
+            ASSERT_EQ(result[i], i % 4 == 3 ? due.alpha(aA, aB) : due.colour(a[i], b[i], aA, aB))
+                << "operation " << type << " on " << int(a[i]) << " with " << int(aA) << ", " << int(b[i]) << " with "
+                << int(aB);
+        }
+    }
+}
+
+}  // namespace
+
+extern const Family test_zmviAlphaComp = {
+    .arrange = arrangeAlpha, .oracle = composite, .steps = Steps::any, .ladder = ladder};
+extern const Family test_zmviAlphaCompC = test_zmviAlphaComp;
+extern const Family test_zmviAlphaPremul = {
+    .arrange = arrangeAlpha, .oracle = premultiply, .steps = Steps::any, .ladder = ladder};
+extern const Family test_zmviAlphaPremulC = test_zmviAlphaPremul;
