@@ -92,7 +92,7 @@ ZMV_INLINE V squareRoot(V v) {
 
 // From a vector of half the size, exactly.
 template <class V>
-ZMV_INLINE auto toDouble(V v) {
+ZMV_INLINE auto toDouble([[maybe_unused]] V v) {
     [[maybe_unused]] constexpr bool ints = std::is_same_v<Element<V>, int32_t>;
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 32 && ints) return (Vec<double, 64>)_mm512_cvtepi32_pd((__m256i)v);
