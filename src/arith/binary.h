@@ -17,8 +17,7 @@ StatusCode stepsOf(S... step) {
 // Past the caches where a call moves more than these hold; in place, the caches have the destination anyway.
 template <class T>
 bool binaryPastCache(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout) {
-    return !layout.alpha && src1.data != dst.data && src2.data != dst.data &&
-           writesPastCache(3 * roi.width * roi.height * layout.channels * Len(sizeof(T)));
+    return src1.data != dst.data && src2.data != dst.data && regionPastCache(roi, layout, 3 * sizeof(T));
 }
 
 template <class Op, class T>

@@ -21,9 +21,9 @@ StatusCode operatorOf(int cmpOp) { return refuse(cmpOp != CMP_LESS && cmpOp != C
 
 template <class T, class Rule, class... Level>
 StatusCode run(const Rule& rule, Image<const T> src, Image<T> dst, Roi roi, Layout layout, const Level*... levels) {
-    const Len moved = 2 * roi.width * roi.height * layout.channels * Len(sizeof(T));
+    const bool pastCache = regionPastCache(roi, layout, 2 * sizeof(T));
     const auto walk = [&] {
-        pointwise(rule, dst, roi, layout, !layout.alpha && writesPastCache(moved), src, Constant<T>(levels, layout)...);
+        pointwise(rule, dst, roi, layout, pastCache, src, Constant<T>(levels, layout)...);
         return STATUS_OK;
     };
     if constexpr (std::is_integral_v<T>) return walk();

@@ -66,8 +66,7 @@ struct Sqrt {
 template <std::same_as<Sqrt> Op, class T>
 StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const bool pastCache = !layout.alpha && src.data != dst.data &&
-                           writesPastCache(2 * roi.width * roi.height * layout.channels * Len(sizeof(T)));
+    const bool pastCache = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
     if constexpr (std::is_floating_point_v<T>) {
         pointwise(Op(), dst, roi, layout, pastCache, src);
     } else {

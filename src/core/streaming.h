@@ -15,4 +15,9 @@ inline bool writesPastCache(Len bytesMoved) {
     return zmvGetMaxCacheSizeB(&cacheBytes) == STATUS_OK && bytesMoved >= cacheBytes;
 }
 
+// The same of a region of which all channels are walked, a number of bytes for each element.
+inline bool regionPastCache(Roi roi, Layout layout, Len bytesPerElement) {
+    return !layout.alpha && writesPastCache(roi.width * roi.height * layout.channels * bytesPerElement);
+}
+
 }  // namespace zmv

@@ -1,5 +1,5 @@
 // zmviConvert to integers with a rounding mode, and a scale factor.
-#include "datamove/convert.h"
+#include "kernels/pointwise_in.h"
 
 namespace zmv {
 namespace {
@@ -15,7 +15,7 @@ StatusCode ownpi_ConvertRounded(Image<const float> src, Image<D> dst, Roi roi, L
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
     const RoundingControl control(controlOf(roundMode));
     const auto run = [&](const auto& rule) {
-        pointwiseIn<float>(rule, dst, roi, layout, convertsPastCache<float, D>(roi, layout), src);
+        pointwiseIn<float>(rule, dst, roi, layout, regionPastCache(roi, layout, sizeof(float) + sizeof(D)), src);
     };
     if (isFinancial(roundMode))
         run([](Vec<float> v) { return v + 0.5f; });

@@ -1,5 +1,5 @@
 // zmviConvert between element types without a rounding mode: wider, narrower with saturation, negative numbers as zero.
-#include "datamove/convert.h"
+#include "kernels/pointwise_in.h"
 
 namespace zmv {
 namespace {
@@ -13,7 +13,7 @@ StatusCode ownpi_Convert(Image<const S> src, Image<D> dst, Roi roi, Layout layou
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
     const auto same = [](auto v) { return v; };
     const auto convert = [&] {
-        pointwiseIn<WiderOfTwo<S, D>>(same, dst, roi, layout, convertsPastCache<S, D>(roi, layout), src);
+        pointwiseIn<WiderOfTwo<S, D>>(same, dst, roi, layout, regionPastCache(roi, layout, sizeof(S) + sizeof(D)), src);
     };
     if constexpr (sizeof(S) < 4 || std::is_integral_v<D>) return convert(), STATUS_OK;
     const RoundingControl control(RoundingControl::toNearestEven);

@@ -20,7 +20,7 @@ StatusCode ownpi_Set(const T* value, Image<T> dst, Roi roi) {
     if (auto bad = firstOf({pointers(value, dst.data), size(roi)})) return bad;
     const Pattern values(value, layout);
     if (layout.alpha) return setChannels(values, dst, roi, 3, 4), STATUS_OK;
-    const bool pastCache = writesPastCache(roi.width * roi.height * layout.channels * Len(sizeof(T)));
+    const bool pastCache = regionPastCache(roi, layout, sizeof(T));
     roi = joinRows(roi, gapless(dst, roi.width, layout.channels));
     const Len bytes = roi.width * layout.channels * Len(sizeof(T));
     for (Len y = 0; y < roi.height; ++y) (pastCache ? fillRow<true> : fillRow<false>)(dst.row(y), values, bytes);

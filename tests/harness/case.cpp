@@ -39,8 +39,7 @@ bool acceptsAnyStep(const Member& m) {
 }
 
 bool rounds(const Member& m) {
-    const bool real = m.destination == Element::f32 || m.destination == Element::f64;
-    return m.family->rounds == Rounds::always || (m.family->rounds == Rounds::floats && real);
+    return m.family->rounds == Rounds::always || (m.family->rounds == Rounds::floats && isReal(m.destination));
 }
 
 Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)

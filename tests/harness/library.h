@@ -14,8 +14,9 @@ struct Library {
 
 struct Options {
     std::string build = "s3", libs, core, only;
-    long seed = -1;  // run this case only
-    long cases = 1;  // multiplies the number of cases
+    long seed = -1;         // run this case only
+    long cases = 1;         // multiplies the number of cases
+    bool integers = false;  // only members whose results are integers
 };
 extern Options options;
 

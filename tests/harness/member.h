@@ -12,6 +12,7 @@ namespace test {
 
 enum class Element { none, u8, s8, u16, s16, u32, s32, s64, f32, f64, sc32, fc32 };
 int bytesOf(Element);
+inline bool isReal(Element e) { return e == Element::f32 || e == Element::f64; }
 
 // Calls f with a value of the element's type: the way from a member's name to a template.
 template <class F>

@@ -10,7 +10,9 @@
 namespace test {
 namespace {
 
-bool chosen(const Member& m) { return options.only.empty() || m.name == options.only; }
+bool chosen(const Member& m) {
+    return (options.only.empty() || m.name == options.only) && !(options.integers && isReal(m.destination));
+}
 
 bool hasStep(const Member& m) {
     for (const Parameter& p : m.params)
@@ -170,6 +172,8 @@ void readOptions(int argc, char** argv) {
             options.seed = std::atol(v);
         else if (const char* v = value("--cases="))
             options.cases = std::atol(v);
+        else if (text == "--integers")
+            options.integers = true;
         else
             throw std::runtime_error("what is " + text + "?");
     }
