@@ -2,19 +2,21 @@
 # tests/faults/run.sh [NAME-PART]: puts faults in on purpose, one at a time, and expects the tests to catch each.
 # Works on a copy of the sources; run before a release, some ten minutes.  Exit status 0: all were caught.
 #
-# faults.txt describes them in blocks, separated by an empty line:
+# The *.txt files beside it describe them in blocks, separated by an empty line:
 #   what is wrong
 #   file
 #   - a piece of one line, which the file has once
 #   + what stands there instead
 #   program GoogleTest-filter [options]
-set -euf  # f: a test filter is not a file name
+set -eu
 here=$(cd "$(dirname "$0")" && pwd)
 only=${1-}
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cp -r "$here"/../../{CMakeLists.txt,cmake,include,src,zmvcore,tools,tests} "$scratch"
 cd "$scratch"
+for file in "$here"/*.txt; do cat "$file" && echo; done >faults
+set -f  # from here on: a test filter is not a file name
 build() { nice cmake --build build --target zmvip_s3 zmvip_tests "$@" >build.log 2>&1; }
 
 # The baseline build is enough, and little optimised: one source makes all three, and faults are faults.
@@ -44,7 +46,7 @@ while IFS= read -r test; do
         tail -n 5 test.log
         exit 1
     fi
-done < <(grep -E '^(zmvip_tests|streaming|api_tests) ' "$here/faults.txt" | sort -u)
+done < <(grep -E '^(zmvip_tests|streaming|api_tests) ' faults | sort -u)
 
 caught=0 missed=0
 while IFS= read -r what && IFS= read -r file && IFS= read -r was && IFS= read -r now && IFS= read -r test; do
@@ -74,6 +76,6 @@ while IFS= read -r what && IFS= read -r file && IFS= read -r was && IFS= read -r
         caught=$((caught + 1))
     fi
     cp whole "$file"
-done <"$here/faults.txt"
+done <faults
 echo "$caught caught, $missed missed"
 [ $missed = 0 ] && [ $caught != 0 ]
