@@ -63,6 +63,9 @@ double Call::number(const std::string& name) const {
     if (name == "thresholdLT") return 85;
     if (name == "threshold" || name == "thresholdGT") return 170;
     if (name == "cmpOp") return CMP_GREATER;
+    if (name == "lowerBound") return 50;
+    if (name == "upperBound") return 200;
+    if (name == "hint") return 0;
     if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
     if (name == "alphaType") return setting.factor;
     if (name == "flags") return 0;
@@ -79,6 +82,8 @@ void* Call::pointer(const std::string& name, int64_t element) {
         return allocate(4 * element).data();
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
+    if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
+        name == "pCounts") return allocate(32).data();
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
     unknown(name);
 }
@@ -108,7 +113,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     reads |= name != "dst";
     steps[name + "Step"] = step;
     shortestRow = std::min(shortestRow, row);
-    if (!isRead) pixels = size.width * size.height;
+    if (!isRead || pixels == 0) pixels = size.width * size.height;
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
     if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
         bytes += row * size.height - setting.width * setting.height * pixel;

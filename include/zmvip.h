@@ -2417,6 +2417,459 @@ ZMV_API StatusCode zmviConvert_64f8s_C1RSfs(const double* src, int srcStep, int8
 ZMV_API StatusCode zmviConvert_64f16u_C1RSfs(const double* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
 ZMV_API StatusCode zmviConvert_64f16s_C1RSfs(const double* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
 
+/* zmviNorm_Inf: value = the largest magnitude of src, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNorm_Inf_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value );
+
+/* zmviNormDiff_Inf: value = the largest magnitude of src1 - src2, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+
+/* zmviNormRel_Inf: value = the largest magnitude of src1 - src2, over that of src2, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
+   the difference is zero, too, or NaN.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormRel_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+
+/* zmviNorm_L1: value = the sum of the magnitudes of src, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNorm_L1_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L1_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L1_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L1_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+
+/* zmviNormDiff_L1: value = the sum of the magnitudes of src1 - src2, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormDiff_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+
+/* zmviNormRel_L1: value = the sum of the magnitudes of src1 - src2, over that of src2, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
+   the difference is zero, too, or NaN.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormRel_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+
+/* zmviNorm_L2: value = the square root of the sum of the squares of src, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNorm_L2_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_L2_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L2_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L2_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+
+/* zmviNormDiff_L2: value = the square root of the sum of the squares of src1 - src2, for each channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormDiff_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+
+/* zmviNormRel_L2: value = the square root of the sum of the squares of src1 - src2, over that of src2, for each
+   channel.
+   value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
+   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   The caller's rounding mode has no influence and is not changed.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
+   the difference is zero, too, or NaN.
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
+   src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
+ZMV_API StatusCode zmviNormRel_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+
+/* zmviSum: sum = the sum of all pixels, for each channel.
+   sum: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: with hint HINT_ACCURATE summed in double, with any
+   other in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   Any step is accepted, zero and negative ones too.
+   Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/pisum.cpp */
+ZMV_API StatusCode zmviSum_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
+ZMV_API StatusCode zmviSum_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
+ZMV_API StatusCode zmviSum_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
+ZMV_API StatusCode zmviSum_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
+
+/* zmviMean: mean = the mean of all pixels, for each channel: their sum over their number.
+   mean: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
+   Integers: exact for a region of any size, and rounded once.  32f: with hint HINT_ACCURATE summed in double, with any
+   other in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   Any step is accepted, zero and negative ones too.
+   Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/pisum.cpp */
+ZMV_API StatusCode zmviMean_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
+ZMV_API StatusCode zmviMean_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
+ZMV_API StatusCode zmviMean_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
+ZMV_API StatusCode zmviMean_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
+
+/* zmviMin: pMin = the smallest pixel, for each channel.
+   One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
+   Any step is accepted, zero and negative ones too.
+   32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
+   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMin_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
+ZMV_API StatusCode zmviMin_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
+ZMV_API StatusCode zmviMin_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
+ZMV_API StatusCode zmviMin_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
+ZMV_API StatusCode zmviMin_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin);
+ZMV_API StatusCode zmviMin_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin);
+ZMV_API StatusCode zmviMin_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin);
+ZMV_API StatusCode zmviMin_16u_AC4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin);
+ZMV_API StatusCode zmviMin_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin);
+ZMV_API StatusCode zmviMin_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin);
+ZMV_API StatusCode zmviMin_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin);
+ZMV_API StatusCode zmviMin_16s_AC4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin);
+ZMV_API StatusCode zmviMin_32f_C1R(const float* src, int srcStep, ImageSize roiSize, float* pMin);
+ZMV_API StatusCode zmviMin_32f_C3R(const float* src, int srcStep, ImageSize roiSize, float* pMin);
+ZMV_API StatusCode zmviMin_32f_C4R(const float* src, int srcStep, ImageSize roiSize, float* pMin);
+ZMV_API StatusCode zmviMin_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, float* pMin);
+
+/* zmviMax: pMax = the largest pixel, for each channel.
+   One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
+   Any step is accepted, zero and negative ones too.
+   32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
+   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMax_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
+ZMV_API StatusCode zmviMax_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
+ZMV_API StatusCode zmviMax_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
+ZMV_API StatusCode zmviMax_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
+ZMV_API StatusCode zmviMax_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax);
+ZMV_API StatusCode zmviMax_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax);
+ZMV_API StatusCode zmviMax_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax);
+ZMV_API StatusCode zmviMax_16u_AC4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax);
+ZMV_API StatusCode zmviMax_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax);
+ZMV_API StatusCode zmviMax_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax);
+ZMV_API StatusCode zmviMax_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax);
+ZMV_API StatusCode zmviMax_16s_AC4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax);
+ZMV_API StatusCode zmviMax_32f_C1R(const float* src, int srcStep, ImageSize roiSize, float* pMax);
+ZMV_API StatusCode zmviMax_32f_C3R(const float* src, int srcStep, ImageSize roiSize, float* pMax);
+ZMV_API StatusCode zmviMax_32f_C4R(const float* src, int srcStep, ImageSize roiSize, float* pMax);
+ZMV_API StatusCode zmviMax_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, float* pMax);
+
+/* zmviMinMax: pMin = the smallest pixel and pMax = the largest, for each channel.
+   One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
+   Any step is accepted, zero and negative ones too.
+   32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
+   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMinMax_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
+ZMV_API StatusCode zmviMinMax_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
+ZMV_API StatusCode zmviMinMax_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
+ZMV_API StatusCode zmviMinMax_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
+ZMV_API StatusCode zmviMinMax_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, uint16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, uint16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, uint16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16u_AC4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, uint16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int16_t* pMax);
+ZMV_API StatusCode zmviMinMax_16s_AC4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int16_t* pMax);
+ZMV_API StatusCode zmviMinMax_32f_C1R(const float* src, int srcStep, ImageSize roiSize, float* pMin, float* pMax);
+ZMV_API StatusCode zmviMinMax_32f_C3R(const float* src, int srcStep, ImageSize roiSize, float* pMin, float* pMax);
+ZMV_API StatusCode zmviMinMax_32f_C4R(const float* src, int srcStep, ImageSize roiSize, float* pMin, float* pMax);
+ZMV_API StatusCode zmviMinMax_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, float* pMin, float* pMax);
+
+/* zmviMinIndx: pMin = the smallest pixel, for each channel, and its place.
+   One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
+   Any step is accepted, zero and negative ones too.
+   pIndexX, pIndexY: the column and the row where it is found first, going from the top by rows.
+   32f: -0 and 0 are equal, and what stands there first is given; a channel of nothing but NaN gives NaN at (0, 0).
+   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMinIndx_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16u_AC4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_16s_AC4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_32f_C1R(const float* src, int srcStep, ImageSize roiSize, float* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_32f_C3R(const float* src, int srcStep, ImageSize roiSize, float* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_32f_C4R(const float* src, int srcStep, ImageSize roiSize, float* pMin, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMinIndx_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, float* pMin, int* pIndexX, int* pIndexY);
+
+/* zmviMaxIndx: pMax = the largest pixel, for each channel, and its place.
+   One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
+   Any step is accepted, zero and negative ones too.
+   pIndexX, pIndexY: the column and the row where it is found first, going from the top by rows.
+   32f: -0 and 0 are equal, and what stands there first is given; a channel of nothing but NaN gives NaN at (0, 0).
+   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMaxIndx_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16u_AC4R(const uint16_t* src, int srcStep, ImageSize roiSize, uint16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_16s_AC4R(const int16_t* src, int srcStep, ImageSize roiSize, int16_t* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_32f_C1R(const float* src, int srcStep, ImageSize roiSize, float* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_32f_C3R(const float* src, int srcStep, ImageSize roiSize, float* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_32f_C4R(const float* src, int srcStep, ImageSize roiSize, float* pMax, int* pIndexX, int* pIndexY);
+ZMV_API StatusCode zmviMaxIndx_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, float* pMax, int* pIndexX, int* pIndexY);
+
+/* zmviMinEvery: The smaller of two pixels.
+   In place: srcDst = src < srcDst ? src : srcDst; out of place: dst = src1 < src2 ? src1 : src2.
+   So a NaN in either image, and zeros of different sign, give the pixel of the second.
+   AC4 leaves the fourth channel of srcDst as it was.
+   dst may be src1 or src2 if it has that one's step; other overlap is undefined.  Out of place, regions that read and
+   write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMinEvery_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16s_C1IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16s_C3IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16s_C4IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16s_AC4IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMinEvery_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviMaxEvery: The larger of two pixels.
+   In place: srcDst = src > srcDst ? src : srcDst; out of place: dst = src1 > src2 ? src1 : src2.
+   So a NaN in either image, and zeros of different sign, give the pixel of the second.
+   AC4 leaves the fourth channel of srcDst as it was.
+   dst may be src1 or src2 if it has that one's step; other overlap is undefined.  Out of place, regions that read and
+   write more than the largest cache holds are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviMaxEvery_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16s_C1IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16s_C3IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16s_C4IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16s_AC4IR(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviMaxEvery_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviBlockMinMax: The smallest and the largest pixel of each block of blockSize: of block column i and block row j,
+   pixel (i, j) of
+   dstMin and of dstMax.  The last blocks of rows and columns may be smaller, so that the results are
+   (width + blockSize.width - 1) / blockSize.width wide, and as high by the same rule.
+   32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1, then that
+   of blockSize.  STATUS_BAD_STEP: a step is not positive.
+   src/stats/piminmax.cpp */
+ZMV_API StatusCode zmviBlockMinMax_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dstMin, int dstMinStep, uint8_t* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
+ZMV_API StatusCode zmviBlockMinMax_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dstMin, int dstMinStep, uint16_t* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
+ZMV_API StatusCode zmviBlockMinMax_16s_C1R(const int16_t* src, int srcStep, int16_t* dstMin, int dstMinStep, int16_t* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
+ZMV_API StatusCode zmviBlockMinMax_32f_C1R(const float* src, int srcStep, float* dstMin, int dstMinStep, float* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
+
+/* zmviCountInRange: pCounts = the number of pixels from lowerBound to upperBound, both included, for each channel.
+   One count for C1, an array of three for C3 and AC4, which leaves the fourth channel out; the bounds likewise.
+   NaN is in no range.  A count beyond 2147483647 is given as that.
+   Checked in this order.  STATUS_NULL_POINTER: src, pCounts or an array of bounds is null.  STATUS_BAD_STEP: the step
+   is
+   not positive.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_RANGE: a lower bound lies above its upper
+   bound,
+   or one is NaN.
+   src/stats/picount.cpp */
+ZMV_API StatusCode zmviCountInRange_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pCounts, uint8_t lowerBound, uint8_t upperBound);
+ZMV_API StatusCode zmviCountInRange_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pCounts, const uint8_t* lowerBound, const uint8_t* upperBound);
+ZMV_API StatusCode zmviCountInRange_8u_AC4R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pCounts, const uint8_t* lowerBound, const uint8_t* upperBound);
+ZMV_API StatusCode zmviCountInRange_32f_C1R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, float lowerBound, float upperBound);
+ZMV_API StatusCode zmviCountInRange_32f_C3R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, const float* lowerBound, const float* upperBound);
+ZMV_API StatusCode zmviCountInRange_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, const float* lowerBound, const float* upperBound);
+
 #ifdef __cplusplus
 }
 #endif

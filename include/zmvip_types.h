@@ -96,6 +96,9 @@ enum { DATATYPE_8U = 1, DATATYPE_16U = 5, DATATYPE_16S = 7, DATATYPE_32F = 13, D
    below, zmviConvert toward zero. */
 enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };
 
+/* The hint of sums and norms of floats: add up in double.  Any other number: in float, where that is faster. */
+enum { HINT_ACCURATE = 2 };
+
 /* Which pixels a threshold changes: those below it, or those above. */
 enum { CMP_LESS = 0, CMP_GREATER = 4 };
 

@@ -201,13 +201,17 @@ template <class V>
 ZMV_INLINE V select(V mask, V yes, V no) {
     return (mask & yes) | (~mask & no);
 }
-// Whether every bit of the vector is zero, or one.
+// Whether every bit of the vector is zero.
 template <class V>
 ZMV_INLINE bool allZero(V v) {
-    const auto parts = (Vec<uint64_t, sizeof(V)>)v;
-    uint64_t any = 0;
-    for (int i = 0; i < int(sizeof(V)) / 8; ++i) any |= parts[i];
-    return any == 0;
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return _mm512_test_epi64_mask((__m512i)v, (__m512i)v) == 0;
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return _mm256_testz_si256((__m256i)v, (__m256i)v);
+    if constexpr (sizeof(V) == 16) return _mm_testz_si128((__m128i)v, (__m128i)v);
+#endif
+    if constexpr (sizeof(V) == 16) return _mm_movemask_epi8(_mm_cmpeq_epi8((__m128i)v, __m128i{})) == 0xffff;
 }
 
 // The high half of the product of unsigned 16-bit lanes.
@@ -236,10 +240,16 @@ ZMV_INLINE V mulRounded(V a, V b) {
     const V twice = a + a;
     if constexpr (sizeof(V) == 16) return mulHigh(twice, b) + (twice * b >> 15);
 }
-// Each even byte plus the odd one behind it.
+// Each even lane plus the odd one behind it.
 template <class V>
+    requires std::is_same_v<Element<V>, uint32_t>
+ZMV_INLINE Vec<uint64_t, sizeof(V)> pairSums(V v) {
+    const auto pairs = (Vec<uint64_t, sizeof(V)>)v;
+    return (pairs & 0xffffffff) + (pairs >> 32);
+}
+template <class V>
+    requires std::is_same_v<Element<V>, uint8_t>
 ZMV_INLINE Vec<uint16_t, sizeof(V)> pairSums(V v) {
-    static_assert(std::is_same_v<Element<V>, uint8_t>);
     using Sums = Vec<uint16_t, sizeof(V)>;
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) return (Sums)_mm512_maddubs_epi16((__m512i)v, _mm512_set1_epi8(1));

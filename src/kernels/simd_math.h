@@ -74,6 +74,28 @@ ZMV_INLINE auto widen(V v) {
         return (Wide)interleaveHalf<half>(v, V{});
 }
 
+// The sum of each eight bytes.
+template <class V>
+ZMV_INLINE auto byteSums(V v) {
+    static_assert(std::is_same_v<Element<V>, uint8_t>);
+    using SumsOfEight = Vec<uint64_t, sizeof(V)>;
+    ZMV_AT_ALL(SumsOfEight, sad_epu8, v, V{})
+}
+// The sum of all lanes.
+template <class V>
+ZMV_INLINE auto laneSum(V v) {
+    Element<V> sum = 0;
+    for (int i = 0; i < lanesOf<V>; ++i) sum += v[i];
+    return sum;
+}
+// The products of two pairs of neighbours, added.
+template <class V>
+ZMV_INLINE auto pairProducts(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, int16_t>);
+    using Products = Vec<int32_t, sizeof(V)>;
+    ZMV_AT_ALL(Products, madd_epi16, a, b)
+}
+
 template <class V>
 ZMV_INLINE V mulHighSigned(V a, V b) {
     static_assert(std::is_same_v<Element<V>, int16_t>);

@@ -1,0 +1,7 @@
+// zmviNorm, zmviNormDiff and zmviNormRel of 8-bit images.
+#include "stats/norm.h"
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE
+#include "stats/norm.def"
+NORM_TYPE(NORM_INTEGERS, 8u)
