@@ -83,7 +83,8 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts") return allocate(32).data();
+        name == "pCounts")
+        return allocate(32).data();
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
     unknown(name);
 }
@@ -113,7 +114,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     reads |= name != "dst";
     steps[name + "Step"] = step;
     shortestRow = std::min(shortestRow, row);
-    if (!isRead || pixels == 0) pixels = size.width * size.height;
+    if (!isRead || pixels == 1) pixels = size.width * size.height;
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
     if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
         bytes += row * size.height - setting.width * setting.height * pixel;

@@ -45,8 +45,8 @@ class Call {
     // What a call that only writes images comes down to.
     void setSameBytes(int64_t count);
 
-    // Of a call: what it reads and writes (0 for members without images), the pixels of the destination, the bytes of
-    // the shortest row of any image, and what a size query wrote.
+    // Of a call: what it reads and writes (0 for members without images), the pixels of the destination or else of a
+    // source, the bytes of the shortest row of any image, and what a size query wrote.
     int64_t bytes = 0, pixels = 1, shortestRow = INT64_MAX, answer = 0;
     bool reads = false;  // an image
 

@@ -37,6 +37,16 @@ constexpr int lanes = bytes / int(sizeof(T));
 
 #define ZMV_INLINE inline __attribute__((always_inline))
 
+// step(0) .. step(n - 1), each number a constant: arrays of vectors stay in registers.
+template <class Step, int... k>
+ZMV_INLINE void unrolled(Step step, std::integer_sequence<int, k...>) {
+    (..., step(std::integral_constant<int, k>{}));
+}
+template <int n, class Step>
+ZMV_INLINE void unrolled(Step step) {
+    unrolled(step, std::make_integer_sequence<int, n>{});
+}
+
 // ---- Memory.  No address needs an alignment, except that of a streaming store. ----
 // The built-in memcpy is a plain move; the C library's may come with a checked call instead.
 

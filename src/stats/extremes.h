@@ -38,21 +38,31 @@ T fromRank(RankOf<T> rank) {
 }
 
 template <int n, class Pick, class T>
-struct RankFold : ExtremeFold<n, Rank<Pick>, Pick, RankOf<T>> {
-    RankFold() : ExtremeFold<n, Rank<Pick>, Pick, RankOf<T>>(Rank<Pick>{}, lastRank<Pick, T>) {}
+struct RankFold : ExtremeFold<n, T, RankOf<T>, Rank<Pick>, Pick> {
+    RankFold() : ExtremeFold<n, T, RankOf<T>, Rank<Pick>, Pick>(lastRank<Pick, T>) {}
 };
 template <int n, class T>
 struct BothRanksFold {
-    RankFold<n, Smaller, T> least;
-    RankFold<n, Larger, T> most;
-    ZMV_INLINE void add(const Group<n, Vec<T>>& group) { least.add(group), most.add(group); }
+    using Least = RankFold<n, Smaller, T>;
+    using Most = RankFold<n, Larger, T>;
+    static constexpr Len groupElements = Least::groupElements, mostGroups = Least::mostGroups;
+    struct Vectors {
+        typename Least::Vectors least = Least().vectors;
+        typename Most::Vectors most = Most().vectors;
+    } vectors;
+    ZMV_INLINE void add(Vectors& both, const Group<n, Vec<T>>& group) const {
+        Least().add(both.least, group), Most().add(both.most, group);
+    }
     void settle() {}
-};
+    auto least() const { return of(Least(), vectors.least); }
+    auto most() const { return of(Most(), vectors.most); }
 
-// Vectors are filled up with the first pixel.
-template <class T>
-Pattern firstPixel(Image<const T> src, Layout layout) {
-    return Pattern(bits(src.data), layout);
-}
+  private:
+    template <class Fold>
+    static auto of(Fold fold, const typename Fold::Vectors& vectors) {
+        fold.vectors = vectors;
+        return fold.extremes();
+    }
+};
 
 }  // namespace zmv

@@ -27,19 +27,17 @@ template <class Norm, class Term, class T, class... S>
 PerChannel<double> measured(Roi roi, int channels, int, Image<const T> first, S... more) {
     using U = std::make_unsigned_t<T>;
     constexpr T zeros[4] = {};
-    const Pattern others(zeros, Layout{channels});
     return withChannels(channels, [&](auto n) {
-        PerChannel<double> result;
-        const auto fold = [&](auto&& terms, auto results) {
-            foldRegion<n>(terms, roi, others, first, more...);
-            for (int c = 0; c < 4; ++c) result[c] = double((terms.*results)()[c]);
-        };
+        PerChannel<double> result{};
         if constexpr (std::is_same_v<Norm, Norm_Inf>) {
-            using Largest = ExtremeFold<n, Term, Larger, U>;
-            fold(Largest(Term{}, 0), &Largest::extremes);
+            ExtremeFold<n, T, U, Term, Larger> fold(0);
+            foldRegion<n>(fold, roi, zeros, first, more...);
+            const auto largest = fold.extremes();
+            for (int c = 0; c < n; ++c) result[c] = double(largest[c]);
         } else {
-            using Sum = SumFold<n, std::conditional_t<std::is_same_v<Norm, Norm_L1>, Sums<U>, SquareSums<U>>, Term>;
-            fold(Sum(Term{}), &Sum::totals);
+            SumFold<n, T, std::conditional_t<std::is_same_v<Norm, Norm_L1>, Sums<U>, SquareSums<U>>, Term> fold;
+            foldRegion<n>(fold, roi, zeros, first, more...);
+            for (int c = 0; c < n; ++c) result[c] = rounded(fold.totals()[c]);
         }
         return result;
     });

@@ -10,40 +10,43 @@ struct Outside {
     template <class V>
     ZMV_INLINE auto operator()(V v, V low, V high) const {
         using Ones = Vec<Bits<Element<V>>>;
-        return (Ones) ~((v >= low) & (v <= high)) & 1;
+        if constexpr (std::is_integral_v<Element<V>>)
+            return (Ones)(v - low > high - low) & 1;
+        else
+            return (Ones) ~((v >= low) & (v <= high)) & 1;
     }
 };
 
 template <int n, class T>
-class OutsideFold {
-  public:
-    OutsideFold(const Pattern& low, const Pattern& high) {
+struct OutsideFold : SumFold<n, T, Counts<Bits<T>>, Outside> {
+    Group<n, Vec<T>> low, high;
+    OutsideFold(const Pattern& lows, const Pattern& highs) {
         for (int k = 0; k < groupVectors<n>; ++k)
-            low_[k] = (Vec<T>)low.at(k * width), high_[k] = (Vec<T>)high.at(k * width);
+            low[k] = (Vec<T>)lows.at(k * width), high[k] = (Vec<T>)highs.at(k * width);
     }
-    ZMV_INLINE void add(const Group<n, Vec<T>>& group) { counts_.add(group, low_, high_); }
-    void settle() { counts_.settle(); }
-    const auto& counts() const { return counts_.totals(); }
-
-  private:
-    Group<n, Vec<T>> low_, high_;
-    SumFold<n, Sums<Bits<T>>, Outside> counts_{Outside{}};
+    using Sums = SumFold<n, T, Counts<Bits<T>>, Outside>;
+    ZMV_INLINE void add(typename Sums::Vectors& counts, const Group<n, Vec<T>>& group) const {
+        Sums::add(counts, group, low, high);
+    }
 };
 
 // The step is looked at before the size.
 template <class T>
 StatusCode ownpi_CountInRange(Image<const T> src, Roi roi, Layout layout, int* counts, const T* low, const T* high) {
     if (auto bad = firstOf({pointers(src.data, counts, low, high), steps(src.step), size(roi)})) return bad;
-    for (int c = 0; c < layout.used(); ++c)
-        if (!(get(low + c) <= get(high + c))) return STATUS_BAD_RANGE;  // NaN, too
-    const RoundingControl control(RoundingControl::toNearestEven);     // small numbers count as what they are
+    T inside[4] = {};
+    for (int c = 0; c < layout.used(); ++c) {
+        inside[c] = get(low + c);
+        if (!(inside[c] <= get(high + c))) return STATUS_BAD_RANGE;  // NaN, too
+    }
+    const RoundingControl control(RoundingControl::toNearestEven);  // small numbers count as what they are
     const Pattern lows(bits(low), layout), highs(bits(high), layout);
     withChannels(layout.channels, [&](auto n) {
         OutsideFold<n, T> fold(lows, highs);
-        foldRegion<n>(fold, roi, lows, src);
+        foldRegion<n>(fold, roi, inside, src);
         for (int c = 0; c < layout.used(); ++c) {
-            const Len inside = roi.width * roi.height - Len(fold.counts()[c]);
-            put(counts + c, int(std::min<Len>(inside, std::numeric_limits<int>::max())));
+            const Len count = roi.width * roi.height - Len(fold.totals()[c]);
+            put(counts + c, int(std::min<Len>(count, std::numeric_limits<int>::max())));
         }
     });
     return STATUS_OK;

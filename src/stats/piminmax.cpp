@@ -10,7 +10,7 @@ template <class Pick, class T>
 PerChannel<T> extremes(Image<const T> src, Roi roi, int channels) {
     return withChannels(channels, [&](auto n) {
         RankFold<n, Pick, T> fold;
-        foldRegion<n>(fold, roi, firstPixel(src, Layout{n}), src);
+        foldRegion<n>(fold, roi, src.data, src);
         const auto ranks = fold.extremes();
         PerChannel<T> result{};
         for (int c = 0; c < n; ++c) result[c] = fromRank<Pick, T>(ranks[c]);
@@ -33,8 +33,8 @@ StatusCode ownpi_MinMax(Image<const T> src, Roi roi, Layout layout, T* least, T*
     const RoundingControl control(RoundingControl::toNearestEven);
     withChannels(layout.channels, [&](auto n) {
         BothRanksFold<n, T> fold;
-        foldRegion<n>(fold, roi, firstPixel(src, Layout{n}), src);
-        const auto lows = fold.least.extremes(), highs = fold.most.extremes();
+        foldRegion<n>(fold, roi, src.data, src);
+        const auto lows = fold.least(), highs = fold.most();
         for (int c = 0; c < layout.used(); ++c) {
             put(least + c, fromRank<Smaller, T>(lows[c]));
             put(most + c, fromRank<Larger, T>(highs[c]));
@@ -104,7 +104,8 @@ StatusCode ownpi_Indx(Image<const T> src, Roi roi, Layout layout, T* extreme, in
 // The first where it goes before the second.
 template <class Pick, class T>
 StatusCode ownpi_Every(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout) {
-    if (auto bad = firstOf({pointers(src1.data, src2.data, dst.data), size(roi), steps(src1.step, src2.step, dst.step)}))
+    if (auto bad =
+            firstOf({pointers(src1.data, src2.data, dst.data), size(roi), steps(src1.step, src2.step, dst.step)}))
         return bad;
     const bool pastCache = dst.data != src2.data && regionPastCache(roi, layout, 3 * sizeof(T));
     const RoundingControl control(RoundingControl::toNearestEven);
@@ -134,9 +135,9 @@ class BlockRow {
 
     void foldBlock(Image<const T> src, Roi roi, T* least, T* most) {
         BothRanksFold<1, T> fold;
-        foldRegion<1>(fold, roi, firstPixel(src, C1), src);
-        put(least, fromRank<Smaller, T>(fold.least.extremes()[0]));
-        put(most, fromRank<Larger, T>(fold.most.extremes()[0]));
+        foldRegion<1>(fold, roi, src.data, src);
+        put(least, fromRank<Smaller, T>(fold.least()[0]));
+        put(most, fromRank<Larger, T>(fold.most()[0]));
     }
     void foldColumns(Image<const T> src, Roi roi, T* least, T* most) {
         RankOf<T> lows[columns + lanes<T>], highs[columns + lanes<T>];

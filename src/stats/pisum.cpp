@@ -25,11 +25,10 @@ PerChannel<double> sums(Image<const T> src, Roi roi, int channels, int) {
     using Term = std::conditional_t<lowest == 0, Itself, AboveLowest>;
     constexpr T nothing[4] = {lowest, lowest, lowest, lowest};
     return withChannels(channels, [&](auto n) {
-        SumFold<n, Sums<std::make_unsigned_t<T>>, Term> fold(Term{});
-        foldRegion<n>(fold, roi, Pattern(nothing, Layout{n}), src);
+        SumFold<n, T, Sums<std::make_unsigned_t<T>>, Term> fold;
+        foldRegion<n>(fold, roi, nothing, src);
         PerChannel<double> result{};
-        for (int c = 0; c < n; ++c)
-            result[c] = double(__int128(fold.totals()[c]) + __int128(lowest) * roi.width * roi.height);
+        for (int c = 0; c < n; ++c) result[c] = rounded(fold.totals()[c] + __int128(lowest) * roi.width * roi.height);
         return result;
     });
 }

@@ -2,8 +2,8 @@
 //
 // Element i of a row goes to partial sum i % 48, or i % 24 where the partial sums are double: whole pixels, and vectors
 // of every build.  Partial sums of float join the totals, of double, when 2^15 elements or more have gone into them,
-// which is looked at after each row and, in rows longer than 49152 elements, after each 49152.  At the end the totals of
-// a channel are added one after another, from the lowest.
+// which is looked at after each row and, in rows longer than 49152 elements, after each 49152.  At the end the totals
+// of a channel are added one after another, from the lowest.
 #pragma once
 
 #include "kernels/simd_convert.h"
@@ -19,15 +19,11 @@ template <class R>
 using Partials = std::array<Vec<R>, partialSums<R> / lanes<R>>;
 template <class R, class Step, class... T>
 ZMV_INLINE void eachPartial(Len count, Step step, const T*... rows) {
-    const auto each = [&](auto call) {
-        [&]<int... k>(std::integer_sequence<int, k...>) {
-            (..., call(std::integral_constant<int, k>{}));
-        }(std::make_integer_sequence<int, partialSums<R> / lanes<R>>{});
-    };
+    constexpr int vectors = partialSums<R> / lanes<R>;
     Len x = 0;
     for (; x + partialSums<R> <= count; x += partialSums<R>)
-        each([&](auto k) { step(k, loadWiden<R>(rows + x + k * lanes<R>)...); });
-    each([&](auto k) {
+        unrolled<vectors>([&](auto k) { step(k, loadWiden<R>(rows + x + k * lanes<R>)...); });
+    unrolled<vectors>([&](auto k) {
         if (const Len left = count - x - k * lanes<R>; left > 0)
             step(k, loadWidenUpTo<R>(rows + x + k * lanes<R>, int(std::min<Len>(left, lanes<R>)))...);
     });
@@ -53,7 +49,8 @@ PerChannel<double> realSums(Term term, Roi roi, int channels, Image<const T>... 
         for (Len x = 0; x < count; x += stretch) {
             const Len here = std::min(stretch, count - x);
             Partials<R> local = sums;  // in registers
-            eachPartial<R>(here, [&](auto k, auto... v) { local[k] += term(v...); }, (images.row(y) + x)...);
+            eachPartial<R>(
+                here, [&](auto k, auto... v) { local[k] += term(v...); }, (images.row(y) + x)...);
             sums = local;
             if ((unsettled += here) >= settleFrom) settle();
         }

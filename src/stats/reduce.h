@@ -29,7 +29,7 @@ ZMV_INLINE auto withChannels(int channels, Part part) {
 template <int n, class T>
 ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p) {
     Group<n, Vec<T>> group;
-    for (int k = 0; k < groupVectors<n>; ++k) group[k] = load(p + k * lanes<T>);
+    unrolled<groupVectors<n>>([&](auto k) { group[k] = load(p + k * lanes<T>); });
     return group;
 }
 struct LaneNumber {
@@ -50,41 +50,44 @@ ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Pattern& other
         if (here >= lanes<T>)
             group[k] = load(p + k * lanes<T>);
         else if (here > 0)
-            group[k] = (Vec<T>)select((Index)(numbers < Element<Index>(here)), (Index)loadPart(p + k * lanes<T>, int(here)),
-                                      (Index)group[k]);
+            group[k] = (Vec<T>)select((Index)(numbers < Element<Index>(here)),
+                                      (Index)loadPart(p + k * lanes<T>, int(here)), (Index)group[k]);
     }
     return group;
 }
 
-// Hands the groups of a region to fold.add(), those of all images side by side, and calls fold.settle() in between:
-// after no more than so many groups, and at the end.
-constexpr Len unsettledGroups = 1 << 14;
-template <int n, class T>
-struct GroupsOf {
-    static constexpr Len elements = groupVectors<n> * lanes<T>;
-    template <class Fold, class... S>
-    static void row(Fold& fold, Len count, const Pattern& others, const S*... rows) {
-        Fold local = fold;  // in registers
-        Len x = 0;
-        for (; x + elements <= count; x += elements) local.add(loadGroup<n>(rows + x)...);
-        if (x < count) local.add(loadGroup<n>(rows + x, count - x, others)...);
-        fold = local;
-    }
-};
-template <int n, class Fold, class T, class... S>
-void foldRegion(Fold& fold, Roi roi, const Pattern& others, Image<T> first, Image<S>... further) {
-    using Groups = GroupsOf<n, std::remove_const_t<T>>;
-    roi = joinRows(roi, (gapless(first, roi.width, n) && ... && gapless(further, roi.width, n)));
+// Hands the groups of a region to fold.add(), which keeps what it makes of them in fold.vectors, those of all images
+// side by side, and calls fold.settle() in between:
+// after no more than Fold::mostGroups, and at the end.  The last group of a row is filled up with pixels of these
+// values.
+struct WholeGroups {};  // rows need nothing to fill them up
+template <int n, class Fold, class Others, class... S>
+ZMV_INLINE void foldRow(Fold& fold, Len count, [[maybe_unused]] const Others& others, const S*... rows) {
+    constexpr Len elements = Fold::groupElements;
+    auto vectors = fold.vectors;  // a copy that stays in registers
+    Len x = 0;
+    for (; x + elements <= count; x += elements) fold.add(vectors, loadGroup<n>(rows + x)...);
+    if constexpr (std::is_same_v<Others, Pattern>)
+        if (x < count) fold.add(vectors, loadGroup<n>(rows + x, count - x, others)...);
+    fold.vectors = vectors;
+}
+template <int n, class Fold, class V, class... S>
+void foldRegion(Fold& fold, Roi roi, const V* values, Image<const S>... images) {
+    constexpr Len elements = Fold::groupElements, most = Fold::mostGroups;
+    roi = joinRows(roi, (... && gapless(images, roi.width, n)));
     const Len count = roi.width * n;
-    Len groups = 0;
-    for (Len y = 0; y < roi.height; ++y)
-        for (Len x = 0; x < count; x += unsettledGroups * Groups::elements) {
-            const Len here = std::min(unsettledGroups * Groups::elements, count - x);
-            const Len more = (here + Groups::elements - 1) / Groups::elements;
-            if ((groups += more) > unsettledGroups) fold.settle(), groups = more;
-            Groups::row(fold, here, others, first.row(y) + x, (further.row(y) + x)...);
-        }
-    fold.settle();
+    const auto walk = [&](const auto& others) {
+        Len groups = 0;
+        for (Len y = 0; y < roi.height; ++y)
+            for (Len x = 0; x < count; x += most * elements) {
+                const Len here = std::min(most * elements, count - x), more = (here + elements - 1) / elements;
+                if ((groups += more) > most) fold.settle(), groups = more;
+                foldRow<n>(fold, here, others, (images.row(y) + x)...);
+            }
+        fold.settle();
+    };
+    if (count % elements == 0) return walk(WholeGroups{});
+    walk(Pattern(bits(values), Layout{n}));
 }
 
 // The elements of a group, each vector those of one channel: of three channels and four the vector's own number.
@@ -111,17 +114,19 @@ ZMV_INLINE Group<n, V> byChannel(const Group<n, V>& group) {
 
 // ---- Sums, exact for any region ----
 
-// Of vectors of unsigned numbers, no more than the groups between two settlements.
+// Of a limited number of vectors of unsigned numbers.
 template <class T>
 struct Sums;
 template <>
 struct Sums<uint8_t> {
+    static constexpr Len mostVectors = 1 << 20;
     Vec<uint64_t> sums{};
     void add(Vec<uint8_t> v) { sums += byteSums(v); }
     uint64_t total() const { return laneSum(sums); }
 };
 template <>
 struct Sums<uint16_t> {
+    static constexpr Len mostVectors = 1 << 20;
     Vec<uint64_t> allBytes{}, lowBytes{};
     void add(Vec<uint16_t> v) {
         allBytes += byteSums((Vec<uint8_t>)v);
@@ -129,17 +134,12 @@ struct Sums<uint16_t> {
     }
     uint64_t total() const { return 256 * laneSum(allBytes) - 255 * laneSum(lowBytes); }
 };
-template <>
-struct Sums<uint32_t> {  // of numbers below 2^16
-    Vec<uint32_t> sums{};
-    void add(Vec<uint32_t> v) { sums += v; }
-    uint64_t total() const { return laneSum(pairSums(sums)); }
-};
 template <class T>
 struct SquareSums;
 template <>
 struct SquareSums<uint8_t> {
-    Vec<uint32_t> sums{};  // four squares a group of vectors at most: 2^14 * 4 * 255^2 is below 2^32
+    static constexpr Len mostVectors = 1 << 14;  // four squares a lane: 2^14 * 4 * 255^2 is below 2^32
+    Vec<uint32_t> sums{};
     void add(Vec<uint8_t> v) {
         const auto even = (Vec<int16_t>)v & 255, odd = (Vec<int16_t>)((Vec<uint16_t>)v >> 8);
         sums += (Vec<uint32_t>)(pairProducts(even, even) + pairProducts(odd, odd));
@@ -148,66 +148,94 @@ struct SquareSums<uint8_t> {
 };
 template <>
 struct SquareSums<uint16_t> {
+    static constexpr Len mostVectors = 1 << 20;
     Vec<uint64_t> sums{};
     void add(Vec<uint16_t> v) { sums += pairSums(product<0>(v, v)) + pairSums(product<1>(v, v)); }
     uint64_t total() const { return laneSum(sums); }
 };
 
+// Of ones and zeros.
+template <class T>
+struct Counts;
+template <>
+struct Counts<uint8_t> {
+    static constexpr Len mostVectors = 255;
+    Vec<uint8_t> counts{};
+    void add(Vec<uint8_t> v) { counts += v; }
+    uint64_t total() const { return laneSum(byteSums(counts)); }
+};
+template <>
+struct Counts<uint32_t> {
+    static constexpr Len mostVectors = 1 << 20;
+    Vec<uint32_t> counts{};
+    void add(Vec<uint32_t> v) { counts += v; }
+    uint64_t total() const { return laneSum(pairSums(counts)); }
+};
+
 // The sums of a term of every element, or of every pair of elements of two images.
-template <int n, class Accumulator, class Term>
+template <int n, class T, class Accumulator, class Term>
 class SumFold {
   public:
-    explicit SumFold(Term term) : term_(term) {}
-    template <class V, class... More>
-    ZMV_INLINE void add(const Group<n, V>& first, const More&... more) {
-        Group<n, decltype(term_(first[0], more[0]...))> terms;
-        for (int k = 0; k < groupVectors<n>; ++k) terms[k] = term_(first[k], more[k]...);
+    static constexpr Len groupElements = groupVectors<n> * lanes<T>, mostGroups = Accumulator::mostVectors;
+    using Vectors = std::array<Accumulator, groupVectors<n>>;
+    Vectors vectors{};
+    template <class... More>
+    ZMV_INLINE void add(Vectors& sums, const Group<n, Vec<T>>& first, const More&... more) const {
+        Group<n, decltype(Term{}(first[0], more[0]...))> terms;
+        unrolled<groupVectors<n>>([&](auto k) { terms[k] = Term{}(first[k], more[k]...); });
         terms = byChannel<n>(terms);
-        for (int k = 0; k < groupVectors<n>; ++k) sums_[k].add(terms[k]);
+        unrolled<groupVectors<n>>([&](auto k) { sums[k].add(terms[k]); });
     }
     void settle() {
-        for (int k = 0; k < groupVectors<n>; ++k) {
-            totals_[n == 1 ? 0 : k] += sums_[k].total();
-            sums_[k] = {};
-        }
+        unrolled<groupVectors<n>>([&](auto k) {
+            totals_[n == 1 ? 0 : k] += vectors[k].total();
+            vectors[k] = {};
+        });
     }
-    const PerChannel<unsigned __int128>& totals() const { return totals_; }
+    const PerChannel<__int128>& totals() const { return totals_; }
 
   private:
-    Term term_;
-    Accumulator sums_[groupVectors<n>];
-    PerChannel<unsigned __int128> totals_{};
+    PerChannel<__int128> totals_{};
 };
+
+// Rounded once.
+inline double rounded(__int128 sum) { return int64_t(sum) == sum ? double(int64_t(sum)) : double(sum); }
 
 // ---- Extrema ----
 
 // The extreme of a term of every element; Pick::of gives the one of two that goes before the other.
-template <int n, class Term, class Pick, class T>
+template <int n, class T, class Result, class Term, class Pick>
 class ExtremeFold {
   public:
-    ExtremeFold(Term term, T neutral) : term_(term) {
-        for (auto& v : extremes_) v = fill(neutral);
-    }
-    template <class V, class... More>
-    ZMV_INLINE void add(const Group<n, V>& first, const More&... more) {
-        for (int k = 0; k < groupVectors<n>; ++k)
-            extremes_[k] = Pick::of(extremes_[k], term_(first[k], more[k]...));
+    static constexpr Len groupElements = groupVectors<n> * lanes<T>, mostGroups = Len(1) << 40;
+    using Vectors = Group<n, Vec<Result>>;
+    Vectors vectors;
+    explicit ExtremeFold(Result neutral) { vectors.fill(fill(neutral)); }
+    template <class... More>
+    ZMV_INLINE void add(Vectors& extremes, const Group<n, Vec<T>>& first, const More&... more) const {
+        unrolled<groupVectors<n>>([&](auto k) { extremes[k] = Pick::of(extremes[k], Term{}(first[k], more[k]...)); });
     }
     void settle() {}
-    PerChannel<T> extremes() const {
-        T all[groupVectors<n> * lanes<T>];
-        for (int k = 0; k < groupVectors<n>; ++k) store(all + k * lanes<T>, extremes_[k]);
-        PerChannel<T> result{};
-        for (int i = 0; i < groupVectors<n> * lanes<T>; ++i) {
-            T& extreme = result[i % n];
-            extreme = i < n ? all[i] : Pick::of(extreme, all[i]);
+    PerChannel<Result> extremes() const {
+        // Of three channels each vector then has one; of one or four, 16 bytes have the same ones everywhere.
+        const auto sorted = n == 3 ? byChannel<n>(vectors) : vectors;
+        constexpr int sets = n == 3 ? 3 : 1, count = lanes<Result, 16>;
+        PerChannel<Result> result{};
+        for (int set = 0; set < sets; ++set) {
+            Result all[lanes<Result>];
+            store(all, sorted[set]);
+            auto best = load<Result, 16>(all);
+            for (int k = set; k < groupVectors<n>; k += sets) {
+                store(all, sorted[k]);
+                for (int i = 0; i < lanes<Result>; i += count) best = Pick::of(best, load<Result, 16>(all + i));
+            }
+            for (int i = 0; i < count; ++i) {
+                Result& extreme = result[n == 3 ? set : i % n];
+                extreme = i < n / sets ? best[i] : Pick::of(extreme, best[i]);
+            }
         }
         return result;
     }
-
-  private:
-    Term term_;
-    Vec<T> extremes_[groupVectors<n>];
 };
 
 }  // namespace zmv

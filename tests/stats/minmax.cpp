@@ -1,4 +1,5 @@
-// zmviMin, zmviMax, zmviMinMax, zmviMinIndx, zmviMaxIndx, zmviMinEvery, zmviMaxEvery, zmviBlockMinMax, zmviCountInRange.
+// zmviMin, zmviMax, zmviMinMax, zmviMinIndx, zmviMaxIndx, zmviMinEvery, zmviMaxEvery, zmviBlockMinMax,
+// zmviCountInRange.
 #include <climits>
 #include <cmath>
 
@@ -21,8 +22,13 @@ void fillTies(Case& c, const Image& image) {
                     T value = T(base + T(c.rng.below(values)));
                     if constexpr (std::is_floating_point_v<T>) {
                         value = T(c.rng.below(values) - values / 2);
-                        const T special[] = {T(NAN),        T(-NAN),         T(-0.0), T(0),
-                                             T(INFINITY),   T(-INFINITY),    std::numeric_limits<T>::denorm_min(),
+                        const T special[] = {T(NAN),
+                                             T(-NAN),
+                                             T(-0.0),
+                                             T(0),
+                                             T(INFINITY),
+                                             T(-INFINITY),
+                                             std::numeric_limits<T>::denorm_min(),
                                              std::numeric_limits<T>::max()};
                         if (specials && c.rng.oneIn(6)) value = special[c.rng.below(8)];
                         if (allNan && (k == 0 || c.rng.below(8))) value = special[c.rng.below(2)];
@@ -43,7 +49,8 @@ template <class T>
 bool before(T a, T b, bool toLeast) {
     if constexpr (std::is_floating_point_v<T>) {
         if (std::isnan(a) || std::isnan(b)) return std::isnan(b) && !std::isnan(a);
-        if (a == 0 && b == 0) return toLeast ? std::signbit(a) && !std::signbit(b) : std::signbit(b) && !std::signbit(a);
+        if (a == 0 && b == 0)
+            return toLeast ? std::signbit(a) && !std::signbit(b) : std::signbit(b) && !std::signbit(a);
     }
     return toLeast ? a < b : a > b;
 }
@@ -88,7 +95,8 @@ void arrangeEvery(Case& c) {
 }
 void every(Case& c) {
     const bool toLeast = c.member.name.rfind("zmviMinEvery", 0) == 0;
-    pairByPair(c, [&]<class T>(T second, T first) { return (toLeast ? first < second : first > second) ? first : second; });
+    pairByPair(
+        c, [&]<class T>(T second, T first) { return (toLeast ? first < second : first > second) ? first : second; });
 }
 
 void arrangeBlocks(Case& c) {
@@ -181,8 +189,7 @@ extern const Family test_zmviBlockMinMax = {
     .oracle = blocks,
     .ladder = {pointers({"src", "dstMin", "dstMax"}), sizes({"roiSize"}), sizes({"blockSize"}),
                positive({"srcStep", "dstMinStep", "dstMaxStep"}, STATUS_BAD_STEP)}};
-extern const Family test_zmviCountInRange = {
-    .arrange = arrangeCount,
-    .oracle = count,
-    .ladder = {pointers({"src", "pCounts", "lowerBound", "upperBound"}), positive({"srcStep"}, STATUS_BAD_STEP),
-               sizes({"roiSize"})}};
+extern const Family test_zmviCountInRange = {.arrange = arrangeCount,
+                                             .oracle = count,
+                                             .ladder = {pointers({"src", "pCounts", "lowerBound", "upperBound"}),
+                                                        positive({"srcStep"}, STATUS_BAD_STEP), sizes({"roiSize"})}};

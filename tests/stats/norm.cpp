@@ -41,7 +41,9 @@ void arrangeNorm(Case& c) {
 // The two are the elements of both images; of one the second is zero.
 template <class T, class F>
 void eachPair(Case& c, bool onlySecond, F f) {
-    const Image &one = c.image(c.has("src1") && !onlySecond ? "src1" : c.has("src2") ? "src2" : "src"),
+    const Image &one = c.image(c.has("src1") && !onlySecond ? "src1"
+                               : c.has("src2")              ? "src2"
+                                                            : "src"),
                 &two = c.image(c.has("src2") ? "src2" : "src");
     const bool pairs = c.has("src2") && !onlySecond;
     const int n = one.channels;
