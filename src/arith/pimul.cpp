@@ -26,15 +26,17 @@ struct Mul {
     }
 };
 
-// Over 2^n - 1 instead of 2^n: the quotient by 2^n, with itself over 2^n once more added.  Bytes are rounded down,
-// 16-bit numbers to nearest; there are no ties.
+// Bytes are rounded down, 16-bit numbers to nearest.
 struct MulScale {
     static constexpr bool withoutFactor = true;
     template <int half, class V>
     ZMV_INLINE static auto quotient(V a, V b) {
-        constexpr int bits = 8 * sizeof(Element<V>);
-        const auto p = product<half>(a, b) + (bits == 8 ? 1 : 0x8000);
-        return (p + ((p - (bits == 8)) >> bits)) >> bits;
+        using T = Element<V>;
+        const auto p = product<half>(a, b);
+        if constexpr (sizeof(T) == 1)
+            return overLargestDown<T>(p);
+        else
+            return overLargest<T>(p);
     }
     template <class V>
     ZMV_INLINE static V plain(V a, V b) {

@@ -141,6 +141,36 @@ ZMV_INLINE V subSaturated(V a, V b) {
     }
 }
 
+// a, which is below 256, times the low byte of b as a signed number.
+template <class V>
+ZMV_INLINE V timesLow(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, uint16_t>);
+    ZMV_ABOVE_128(V, maddubs_epi16, a, b)
+    if constexpr (sizeof(V) == 16) return a * (V)(asSigned(b << 8) >> 8);
+}
+
+// x over L = 2^n - 1, the largest number of T, in lanes of twice the width: to nearest, without ties since L is odd, or
+// rounded down.  x lies from 0 to L^2, to nearest also from -(L - 1) / 2 in two's complement; of signed types it lies
+// from -L * 2^n.  Every 2^n in x counts one and leaves one over.
+template <class T, class W>
+ZMV_INLINE W overLargestFrom(W x) {  // x - 1 over L, rounded down
+    constexpr int n = std::numeric_limits<T>::digits;
+    if constexpr (sizeof(T) == 1)
+        return mulHigh(x, fill<Element<W>, sizeof(W)>(257));
+    else if constexpr (std::is_signed_v<T>)
+        return (x + (x >> n) + ((x - 1) >> 31)) >> n;
+    else
+        return (x + (x >> n)) >> n;
+}
+template <class T, class W>
+ZMV_INLINE W overLargest(W x) {
+    return overLargestFrom<T>(x + (Element<W>(1) << (std::numeric_limits<T>::digits - 1)));
+}
+template <class T, class W>
+ZMV_INLINE W overLargestDown(W x) {
+    return overLargestFrom<T>(x + 1);
+}
+
 // Half the sum of unsigned numbers, rounded up.
 template <class V>
 ZMV_INLINE V average(V a, V b) {

@@ -20,6 +20,14 @@ ZMV_INLINE V permute(V a, V b) {
     return permute<Order>(a, b, std::make_integer_sequence<int, lanesOf<V>>{});
 }
 
+// Whether a permutation of bytes is an instruction.
+constexpr bool hasByteShuffle =
+#if defined(__SSSE3__)
+    true;
+#else
+    false;
+#endif
+
 // A constant mask: all ones where Test::at(i) holds.
 template <class Test, class V, int... i>
 ZMV_INLINE V maskWhere(std::integer_sequence<int, i...>) {
@@ -127,12 +135,7 @@ using Block = std::array<V, n>;
 // first half of a lane's 3 * perLane elements with the second half moves element p to 2p mod (3 * perLane - 1), and
 // planes are a multiplication by perLane, a power of two, away.
 template <class V>
-constexpr bool byPerfectShuffles =
-#if defined(__SSSE3__)
-    false;
-#else
-    sizeof(Element<V>) < 4;
-#endif
+constexpr bool byPerfectShuffles = !hasByteShuffle && sizeof(Element<V>) < 4;
 
 template <class V>
 ZMV_INLINE Block<V, 3> planesOf(const Block<V, 3>& pixels) {
