@@ -53,9 +53,15 @@ struct IsFourth {
 struct OfFourth {
     static constexpr int at(int i) { return i | 3; }
 };
+struct OfSecond {
+    static constexpr int at(int i) { return i | 1; }
+};
 template <class V>
 ZMV_INLINE V fourthOf(V pixels) {
-    return permute<OfFourth>(pixels, pixels);
+    if constexpr (sizeof(Element<V>) > 1 || hasByteShuffle) return permute<OfFourth>(pixels, pixels);
+    using Pairs = Vec<uint16_t, sizeof(V)>;
+    const auto pairs = (Pairs)pixels >> 8, fourth = permute<OfSecond>(pairs, pairs);
+    return (V)(fourth | fourth << 8);
 }
 template <class V>
 ZMV_INLINE V withFourth(V pixels, V fourth) {
@@ -63,21 +69,7 @@ ZMV_INLINE V withFourth(V pixels, V fourth) {
     return (V)select(maskWhere<IsFourth, Raw>(), (Raw)fourth, (Raw)pixels);
 }
 
-// x over the largest number of T, 2^n - 1, rounded to nearest; there are no ties, since that is odd.  Every 2^n in x
-// counts one and leaves one over.
-template <class T, class W>
-inline W overLargest(W x) {
-    constexpr int bits = std::numeric_limits<T>::digits;
-    constexpr W most = largestOf<T>;
-    W rest = x + most / 2, quotient = 0;
-    while (rest >> bits) {
-        quotient += rest >> bits;
-        rest = (rest >> bits) + (rest & most);
-    }
-    return quotient + (rest == most);
-}
-
-// An operation on pixels of T, which is known at run time.
+// An operation, known at run time, on pixels of 32-bit numbers.
 template <class T>
 class Compositing {
   public:
@@ -128,13 +120,25 @@ class Compositing {
     }
 
   private:
+    // x over the largest number, to nearest, however large x is: what overLargest() does once, until nothing is left.
+    template <class W>
+    static W quotient(W x) {
+        constexpr int bits = std::numeric_limits<T>::digits;
+        constexpr W most = largestOf<T>;
+        W rest = x + most / 2, quotient = 0;
+        while (rest >> bits) {
+            quotient += rest >> bits;
+            rest = (rest >> bits) + (rest & most);
+        }
+        return quotient + (rest == most);
+    }
     __attribute__((noinline)) static V eachLane(const Weights& w, V a, V b) {
-        using W = std::conditional_t<sizeof(T) == 4, __int128, int64_t>;
+        using W = __int128;
         V result;
         for (int i = 0; i < lanes<T>; ++i) {
             const W sum = W(a[i]) * w.ownA[i] * w.shownA[i] + W(b[i]) * w.ownB[i] * w.shownB[i];
             // Rounding twice is rounding once: (L^2 - 1) / 2 is L * (L - 1) / 2 + (L - 1) / 2.
-            const W colour = overLargest<T>(overLargest<T>(sum));
+            const W colour = quotient(quotient(sum));
             constexpr W least = std::numeric_limits<T>::min(), most = largestOf<T>;
             result[i] = T(colour > most ? most : colour < least ? least : colour);
         }

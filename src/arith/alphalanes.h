@@ -1,7 +1,9 @@
-// Compositing of bytes, in 16-bit lanes: the even and the odd bytes of a vector apart.
+// Compositing of 8-bit and 16-bit integers, in lanes of twice their width: the even and the odd elements of a vector
+// apart.  L is the largest number of the type, 2^n - 1.
 //
-// A weight oA * fA, at most 255^2, is 255 * u + v.  Then the colour over 255 is cA * uA + cB * uB and the rounded
-// (cA * vA + cB * vB) / 255, and every number fits 16 bits.
+// A weight oA * fA, at most L^2, is L * u + v.  Then the colour over L is cA * uA + cB * uB and the rounded
+// (cA * vA + cB * vB) / L, every number fits its lane, and rounding a second time is rounding once: half of L^2 - 1 is
+// half of L - 1, L times and once more.
 #pragma once
 
 #include "arith/alpha.h"
@@ -9,95 +11,128 @@
 namespace zmv {
 
 enum class Weighing {
-    over,               // A's weight is a multiple of 255
-    overPremultiplied,  // A's is 255^2: A itself
-    whole,              // both are multiples of 255; the sum is cut off at 255
-    both,               // together, they are at most 255^2
+    over,               // A's weight is a multiple of L
+    overPremultiplied,  // A's is L^2: A itself
+    whole,              // both are multiples of L; the sum is cut off at L
+    both,               // together, they are at most L^2
 };
 
-using Words = Vec<uint16_t>;
-// Over 255 to nearest, from 0 to 255^2; or -127, in two's complement.
-ZMV_INLINE Words over255(Words x) { return mulHigh(x + 128, fill<uint16_t>(257)); }
-struct Quotient {
-    Words whole, rest;
-};
-ZMV_INLINE Quotient divide255(Words x) {
-    const Words whole = mulHigh(x, fill<uint16_t>(0x8081)) >> 7;
-    return {whole, x - whole * 255};
-}
-
-template <Weighing weighing>
-class CompositingBytes {
-    using V = Vec<uint8_t>;
-    struct OfWords {
+template <class T, Weighing weighing>
+class CompositingLanes {
+    using V = Vec<T>;
+    using E = Wider<T>;
+    using W = Vec<E>;
+    static constexpr int n = std::numeric_limits<T>::digits, bits = 8 * sizeof(T);
+    static constexpr E most = largestOf<T>;
+    static constexpr bool isSigned = std::is_signed_v<T>;
+    struct Quotient {
+        W whole, rest;
+    };
+    struct OfLanes {
         Quotient a, b;
     };
 
   public:
     struct Weights {
-        OfWords even, odd;
+        OfLanes even, odd;
     };
 
-    explicit CompositingBytes(int alphaType) : own_(fill<uint16_t>(isPremultiplied(alphaType) ? 255 : 0)) {
-        const auto bits = [](bool set) { return fill<uint16_t>(set ? 255 : 0); };
+    explicit CompositingLanes(int alphaType) : own_(fill(isPremultiplied(alphaType) ? most : E(0))) {
+        const auto ones = [](bool set) { return fill(set ? most : E(0)); };
         const Composition c = compositionOf(alphaType);
-        maskA_ = bits(c.a.otherAlpha), flipA_ = bits(c.a.complement);
-        maskB_ = bits(c.b.otherAlpha), flipB_ = bits(c.b.complement);
-        fourth_ = isPremultiplied(alphaType) ? Words{} : Words(maskWhere<IsFourth, V>()) >> 8;
+        maskA_ = ones(c.a.otherAlpha), flipA_ = ones(c.a.complement);
+        maskB_ = ones(c.b.otherAlpha), flipB_ = ones(c.b.complement);
+        fourth_ = isPremultiplied(alphaType) ? W{} : W(maskWhere<IsFourth, V>()) >> bits & most;
     }
 
     ZMV_INLINE Weights weights(V alphaA, V alphaB) const {
-        return {ofWords(even(alphaA), even(alphaB)), ofWords(odd(alphaA), odd(alphaB))};
+        alphaA = asAlpha(alphaA), alphaB = asAlpha(alphaB);
+        return {ofLanes(even(alphaA), even(alphaB)), ofLanes(odd(alphaA), odd(alphaB))};
     }
     ZMV_INLINE V of(const Weights& w, V a, V b) const {
         return joined(a, colours(w.even, even(a), even(b)), colours(w.odd, odd(a), odd(b)));
     }
     // Whole pixels of four channels, the fourth being alpha.
     ZMV_INLINE V pixels(V a, V b) const {
-        const Words oddA = odd(a), oddB = odd(b);
-        const OfWords w = ofWords(permute<OfOdd>(oddA, oddA), permute<OfOdd>(oddB, oddB));
+        if constexpr (isSigned) a = withFourth(a, asAlpha(a)), b = withFourth(b, asAlpha(b));
+        const W oddA = odd(a), oddB = odd(b);
+        const auto spread = [](W odd) { return permute<OfSecond>(odd, odd); };
+        constexpr bool apart = weighing == Weighing::overPremultiplied && hasByteShuffle;  // spares a shift
+        const OfLanes w = ofLanes(apart ? (W)fourthOf(a) & most : spread(oddA), spread(oddB));
         return joined(a, colours(w, even(a), even(b)), colours(w, oddA | fourth_, oddB | fourth_));
     }
     // Alphas alone, of a premultiplied operation.
-    ZMV_INLINE V alphas(V a, V b) const { return of(weights(a, b), a, b); }
+    ZMV_INLINE V alphas(V a, V b) const {
+        a = asAlpha(a), b = asAlpha(b);
+        return of(weights(a, b), a, b);
+    }
 
   private:
-    static ZMV_INLINE Words even(V v) { return (Words)v & 255; }
-    static ZMV_INLINE Words odd(V v) { return (Words)v >> 8; }
-    struct OfOdd {
-        static constexpr int at(int i) { return i | 1; }
-    };
-    static ZMV_INLINE V joined(V a, Words even, Words odd) {
-        const auto sum = V(even | odd << 8);
-        return weighing == Weighing::overPremultiplied ? addSaturated(a, sum) : sum;
+    static ZMV_INLINE W even(V v) { return isSigned ? (W)v << bits >> bits : (W)v & E(Bits<T>(~0u)); }
+    static ZMV_INLINE W odd(V v) { return (W)v >> bits; }
+    static ZMV_INLINE V joined(V a, W even, W odd) {
+        const auto low = isSigned ? (W)((Vec<Bits<E>>)(even << bits) >> bits) : even;
+        const auto result = V(low | odd << bits);
+        return weighing == Weighing::overPremultiplied ? addSaturated(a, result) : result;
     }
 
-    ZMV_INLINE OfWords ofWords(Words alphaA, Words alphaB) const {
-        const Words zero{};
-        if constexpr (weighing == Weighing::overPremultiplied) return {{zero, zero}, {alphaA ^ 255, zero}};
-        if constexpr (weighing == Weighing::over) return {{alphaA, zero}, divide255(alphaB * (alphaA ^ 255))};
-        // 255 - x is x ^ 255.
-        const Words ownA = alphaA | own_, shownA = (alphaB & maskA_) ^ flipA_;
-        const Words ownB = alphaB | own_, shownB = (alphaA & maskB_) ^ flipB_;
-        if constexpr (weighing == Weighing::whole) return {{ownA & shownA, zero}, {ownB & shownB, zero}};  // one is 255
-        return {divide255(ownA * shownA), divide255(ownB * shownB)};
-    }
-    static ZMV_INLINE Words colours(const OfWords& w, Words a, Words b) {
-        if constexpr (weighing == Weighing::overPremultiplied) return over255(b * w.b.whole);
-        const Words sum = a * w.a.whole, more = b * w.b.whole;
-        if constexpr (weighing == Weighing::whole) {
-            constexpr uint16_t most = 255 * 255;
-            const Words above = subSaturated(addSaturated(sum, more), fill(most));
-            return over255(addSaturated(sum, more) - above);
+    ZMV_INLINE OfLanes ofLanes(W alphaA, W alphaB) const {
+        const W zero{};
+        // L - x is x ^ L.
+        if constexpr (weighing == Weighing::overPremultiplied) return {{zero, zero}, {alphaA ^ most, zero}};
+        if constexpr (weighing == Weighing::over) {
+            const W weight = alphaB * (alphaA ^ most), whole = overLargest<T>(weight);
+            return {{alphaA, zero}, {whole, restOf(weight, whole)}};
         }
-        if constexpr (weighing == Weighing::over) return over255(sum + more + over255(b * w.b.rest));
-        // What the first quotient leaves goes into the second.
-        const Words first = a * w.a.rest, quotient = over255(first), left = first - quotient * 255;
-        return over255(sum + more + quotient + over255(b * w.b.rest + left));
+        const W ownA = alphaA | own_, shownA = (alphaB & maskA_) ^ flipA_;
+        const W ownB = alphaB | own_, shownB = (alphaA & maskB_) ^ flipB_;
+        if constexpr (weighing == Weighing::whole) return {{ownA & shownA, zero}, {ownB & shownB, zero}};  // one is L
+        const auto quotient = [](W weight) -> Quotient {
+            const W whole = overLargestDown<T>(weight);
+            return {whole, weight - whole * most};
+        };
+        return {quotient(ownA * shownA), quotient(ownB * shownB)};
+    }
+    // The rest of a rounded quotient is small and signed.  Of bytes its low half says all, which timesLow() reads.
+    static ZMV_INLINE W restOf(W weight, W whole) { return sizeof(T) == 1 ? weight + whole : weight - whole * most; }
+    static ZMV_INLINE W timesRest(W colour, W rest) {
+        if constexpr (sizeof(T) == 1)
+            return timesLow(colour, rest);
+        else
+            return colour * rest;
     }
 
-    Words own_, maskA_, flipA_, maskB_, flipB_;
-    Words fourth_;  // of odd bytes
+    static ZMV_INLINE W colours(const OfLanes& w, W a, W b) {
+        if constexpr (weighing == Weighing::overPremultiplied) return overLargest<T>(b * w.b.whole);
+        const W ofA = a * w.a.whole, ofB = b * w.b.whole;
+        if constexpr (weighing == Weighing::whole) return overLargest<T>(cutSum(ofA, ofB));
+        if constexpr (weighing == Weighing::over) {
+            // Lanes without a sign hold a negative number moved up, and its quotient moved as well.
+            constexpr E up = isSigned ? 0 : E(1) << (n - 1);
+            return overLargest<T>(ofA + ofB + (overLargest<T>(timesRest(b, w.b.rest) + E(up * most)) - up));
+        }
+        // What the first quotient leaves goes into the second.
+        const W first = a * w.a.rest, quotient = overLargest<T>(first), left = first - quotient * most;
+        return overLargest<T>(ofA + ofB + quotient + overLargest<T>(b * w.b.rest + left));
+    }
+    // What is over L after division is L, and of signed types what is below the smallest number is that.
+    static ZMV_INLINE W cutSum(W a, W b) {
+        constexpr E largest = most * most;
+        if constexpr (sizeof(T) == 1) {
+            const W sum = addSaturated(a, b);
+            return sum - subSaturated(sum, fill(largest));
+        } else if constexpr (isSigned) {
+            constexpr E smallest = std::numeric_limits<T>::min() * most;
+            const W sum = a + b, above = sum > smallest ? sum : W{} + smallest;
+            return above < largest ? above : W{} + largest;
+        } else {
+            const W sum = a + b;
+            return ((sum < a) | (sum > largest)) ? W{} + largest : sum;
+        }
+    }
+
+    W own_, maskA_, flipA_, maskB_, flipB_;
+    W fourth_;  // of odd elements
 };
 
 }  // namespace zmv

@@ -1,7 +1,7 @@
 // zmviAlphaComp, zmviAlphaCompC: one picture over, in, out of another, by the alphas of its pixels or one for all.
 // zmviAlphaPremul, zmviAlphaPremulC: colours times alpha.
 #include "arith/alpha.h"
-#include "arith/alphabytes.h"
+#include "arith/alphalanes.h"
 #include "kernels/pointwise.h"
 #include "kernels/rounding.h"
 
@@ -41,11 +41,11 @@ StatusCode checked(Roi roi, int alphaType, Operand... operands) {
 // Calls f with the operation.
 template <class T, class F>
 void compositing(int alphaType, F f) {
-    if constexpr (std::is_same_v<T, uint8_t>) {
-        if (alphaType == ALPHA_OVER) return f(CompositingBytes<Weighing::over>(alphaType));
-        if (alphaType == ALPHA_OVER_PREMUL) return f(CompositingBytes<Weighing::overPremultiplied>(alphaType));
-        if (isCut(alphaType)) return f(CompositingBytes<Weighing::whole>(alphaType));
-        f(CompositingBytes<Weighing::both>(alphaType));
+    if constexpr (std::is_integral_v<T> && sizeof(T) <= 2) {
+        if (alphaType == ALPHA_OVER) return f(CompositingLanes<T, Weighing::over>(alphaType));
+        if (alphaType == ALPHA_OVER_PREMUL) return f(CompositingLanes<T, Weighing::overPremultiplied>(alphaType));
+        if (isCut(alphaType)) return f(CompositingLanes<T, Weighing::whole>(alphaType));
+        f(CompositingLanes<T, Weighing::both>(alphaType));
     } else if constexpr (std::is_integral_v<T>) {
         f(Compositing<T>(alphaType));
     } else {
@@ -125,11 +125,8 @@ StatusCode ownpi_AlphaCompC(Planes<const T> a, T alphaA, Planes<const T> b, T al
 // The product over the largest number, rounded to nearest.
 template <class V>
 ZMV_INLINE V premultiplied(V colour, V alpha) {
-    const auto half = [&](auto p) {
-        p += 1 << (8 * sizeof(Element<V>) - 1);
-        return (p + (p >> 8 * sizeof(Element<V>))) >> 8 * sizeof(Element<V>);
-    };
-    return narrow<Element<V>>(half(product<0>(colour, alpha)), half(product<1>(colour, alpha)));
+    using T = Element<V>;
+    return narrow<T>(overLargest<T>(product<0>(colour, alpha)), overLargest<T>(product<1>(colour, alpha)));
 }
 
 template <class T>

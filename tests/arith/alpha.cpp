@@ -153,30 +153,42 @@ const Check types{
     {{"alphaType", Break::whole, 12}, {"alphaType", Break::whole, -1}, {"alphaType", Break::whole, INT32_MIN}}};
 const std::vector<Check> ladder = {pointers({"src1", "src2", "src", "dst", "srcDst"}), sizes({"roiSize"}), types};
 
-// Every operation on bytes, for all alphas and colours on a grid with the ends and the middle of their range.
-TEST(Alpha, AllBytesOnAGrid) {
-    const uint8_t grid[] = {0, 1, 2, 63, 84, 85, 86, 127, 128, 129, 170, 200, 253, 254, 255};
-    constexpr int n = std::size(grid), count = n * n * n * n;
-    std::vector<uint8_t> a(4 * count), b(4 * count), result(4 * count);
-    for (int i = 0; i < count; ++i)
-        for (int k = 0; k < 4; ++k) {
-            a[size_t(4 * i + k)] = grid[k == 3 ? i % n : (i / n / n + k) % n];
-            b[size_t(4 * i + k)] = grid[k == 3 ? i / n % n : i / n / n / n % n];
-        }
-    const auto call =
-        reinterpret_cast<StatusCode (*)(const uint8_t*, int, const uint8_t*, int, uint8_t*, int, ImageSize, int)>(
-            underTest().find("zmviAlphaComp_8u_AC4R"));
+// Every operation on pixels of four colours and alphas drawn by draw(i), i counting them.
+template <class T, class Draw>
+void checkOperations(const char* member, size_t count, Draw draw) {
+    std::vector<T> a(4 * count), b(4 * count), result(4 * count);
+    for (size_t i = 0; i < 4 * count; ++i) a[i] = draw(i, 0), b[i] = draw(i, 1);
+    const auto call = reinterpret_cast<StatusCode (*)(const T*, int, const T*, int, T*, int, ImageSize, int)>(
+        underTest().find(member));
     for (int type = 0; type < 12; ++type) {
-        ASSERT_EQ(call(a.data(), 4 * count, b.data(), 4 * count, result.data(), 4 * count, {count, 1}, type),
-                  STATUS_OK);
-        const Reference<uint8_t> due{type};
+        ASSERT_EQ(call(a.data(), 0, b.data(), 0, result.data(), 0, {int(count), 1}, type), STATUS_OK);
+        const Reference<T> due{type};
         for (size_t i = 0; i < result.size(); ++i) {
-            const uint8_t aA = a[i | 3], aB = b[i | 3];
+            const T aA = a[i | 3], aB = b[i | 3];
             ASSERT_EQ(result[i], i % 4 == 3 ? due.alpha(aA, aB) : due.colour(a[i], b[i], aA, aB))
-                << "operation " << type << " on " << int(a[i]) << " with " << int(aA) << ", " << int(b[i]) << " with "
-                << int(aB);
+                << "operation " << type << " on " << a[i] + 0 << " with " << aA + 0 << ", " << b[i] + 0 << " with "
+                << aB + 0;
         }
     }
+}
+
+// Bytes: all alphas and colours on a grid with the ends and the middle of their range.
+TEST(Alpha, AllBytesOnAGrid) {
+    const uint8_t grid[] = {0, 1, 2, 63, 84, 85, 86, 127, 128, 129, 170, 200, 253, 254, 255};
+    constexpr size_t n = std::size(grid);
+    checkOperations<uint8_t>("zmviAlphaComp_8u_AC4R", n * n * n * n, [&](size_t i, int second) {
+        const size_t pixel = i / 4, k = i % 4;
+        if (k == 3) return grid[(second ? pixel / n : pixel) % n];
+        return grid[second ? pixel / n / n / n % n : (pixel / n / n + k) % n];
+    });
+}
+
+// Results just beside a half are rare among numbers of 16 bits: one in 2^16 tells a quotient that was rounded wrongly.
+TEST(Alpha, ManyNumbersOf16Bits) {
+    Rng rng(1);
+    const auto draw = [&]<class T>(T) { return rng.oneIn(4) ? someFraction<T>(rng) : T(rng.next()); };
+    checkOperations<uint16_t>("zmviAlphaComp_16u_AC4R", 150000, [&](size_t, int) { return draw(uint16_t()); });
+    checkOperations<int16_t>("zmviAlphaComp_16s_AC4R", 150000, [&](size_t, int) { return draw(int16_t()); });
 }
 
 }  // namespace
