@@ -68,6 +68,7 @@ double Call::number(const std::string& name) const {
     if (name == "hint") return 0;
     if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
     if (name == "alphaType") return setting.factor;
+    if (name == "axis") return AXIS_VERTICAL;
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
@@ -80,6 +81,11 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "mask") return image(name, element);
     if (name == "value" || name == "borderValue" || name.rfind("threshold", 0) == 0 || name.rfind("value", 0) == 0)
         return allocate(4 * element).data();
+    if (name == "dstOrder") {
+        // Pixels of another size keep the order of their channels, the others get the first and third exchanged.
+        static const int kept[] = {0, 1, 2, 3}, exchanged[] = {2, 1, 0, 3};
+        return const_cast<int*>(fromChannels == toChannels ? exchanged : kept);
+    }
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
@@ -98,7 +104,8 @@ void* Call::planes(const std::string& name, int64_t element) {
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
 uint8_t* Call::image(const std::string& name, int64_t pixel) {
     const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask", bordered = has("dstRoiSize");
-    const ImageSizeL size = area(!bordered ? "roiSize" : isRead ? "srcRoiSize" : "dstRoiSize");
+    ImageSizeL size = area(!bordered ? "roiSize" : isRead ? "srcRoiSize" : "dstRoiSize");
+    if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
     const int64_t row = size.width * pixel, step = row + setting.padding;
     // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
     const int64_t margin = has("anchor") ? setting.mask + setting.mask / setting.width + 1 : 0;

@@ -119,6 +119,9 @@ enum {
     ALPHA_PLUS_PREMUL = 11
 };
 
+/* The axis of a mirror: which way pixels change places. */
+enum { AXIS_HORIZONTAL = 0, AXIS_VERTICAL = 1, AXIS_BOTH = 2, AXIS_DIAGONAL_A = 3, AXIS_DIAGONAL_B = 4 };
+
 /* The border word: a rule, plus one flag for every side whose outside pixels are readable in memory and to be used
    as they are.  BORDER_IN_MEM alone means that the whole frame is readable. */
 enum {

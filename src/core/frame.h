@@ -30,7 +30,7 @@ using Len = int64_t;  // every length, step and offset inside the library
 struct Layout {
     int channels;
     bool alpha = false;
-    int used() const { return alpha ? 3 : channels; }
+    constexpr int used() const { return alpha ? 3 : channels; }
 };
 constexpr Layout C1{1}, C3{3}, C4{4}, AC4{4, true};
 

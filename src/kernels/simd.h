@@ -148,7 +148,21 @@ ZMV_INLINE void storePart(void* p, V v, int n) {
     if (left) storeFewBytes(to, loadAs<Vec<uint64_t, 16>>(from), left);
 }
 
-// The same where n may be all lanes.
+// The bytes at p where the mask has ones, elsewhere zero.  Where loadsWhere holds, no other byte is read.
+#if defined(__AVX512BW__)
+constexpr bool loadsWhere = true;
+#else
+constexpr bool loadsWhere = false;
+#endif
+template <class V>
+ZMV_INLINE V loadWhere(V mask, const void* p) {
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return (V)_mm512_maskz_loadu_epi8(_mm512_movepi8_mask((__m512i)mask), p);
+#endif
+    return mask & loadAs<V>(p);
+}
+
+// loadPart and storePart where n may be all lanes.
 template <class T, int bytes = width>
 ZMV_INLINE Vec<T, bytes> loadUpTo(const T* p, int n) {
     return n == lanes<T, bytes> ? load<T, bytes>(p) : loadPart<T, bytes>(p, n);
@@ -163,7 +177,7 @@ ZMV_INLINE void storeUpTo(void* p, V v, int n) {
 
 // Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
 template <class T, int bytes = width>
-ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, int laneStep) {
+ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, Len laneStep) {
     if (laneStep == 16) return load<T, bytes>(p);
     const auto lane = [&](int k) { return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep); };
     if constexpr (bytes == 16) return (Vec<T, 16>)lane(0);
@@ -176,7 +190,7 @@ ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, int laneStep) {
 #endif
 }
 template <bool streaming = false, class V>
-ZMV_INLINE void storeLanes(void* p, V v, int laneStep) {
+ZMV_INLINE void storeLanes(void* p, V v, Len laneStep) {
     if (!streaming && laneStep == 16) return store(p, v);
     const auto lane = [&](int k, __m128i x) {
         const auto at = static_cast<uint8_t*>(p) + k * laneStep;

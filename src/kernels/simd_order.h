@@ -127,6 +127,80 @@ ZMV_INLINE V oddToEven(V v) {
         return (V)((Vec<uint64_t, sizeof(V)>)v >> 32);
 }
 
+// Units of so many bytes in the opposite order.
+template <class V>
+struct Opposite {
+    static constexpr int at(int i) { return lanesOf<V> - 1 - i; }
+};
+template <class V>
+struct OppositeInLanes {
+    static constexpr int at(int i) { return i ^ (16 / int(sizeof(Element<V>)) - 1); }
+};
+template <int halves>
+struct LanesOpposite {  // i counts 8-byte halves of lanes
+    static constexpr int at(int i) { return (halves - 1 - i) ^ 1; }
+};
+template <int bytes, class V>
+ZMV_INLINE V opposite(V v) {
+    using Halves = Vec<uint64_t, sizeof(V)>;
+    if constexpr (bytes == 16) {
+        return (V)permute<LanesOpposite<lanesOf<Halves>>>((Halves)v, (Halves)v);
+    } else {
+        using U = Vec<typename UnsignedOf<bytes>::type, sizeof(V)>;
+        if constexpr (bytes >= 4) return (V)permute<Opposite<U>>((U)v, (U)v);
+#if !defined(__SSSE3__)
+        // Bytes of a pair, then the quarters of each half of the vector, then its halves.
+        using Pairs = Vec<uint16_t, sizeof(V)>;
+        auto pairs = (Pairs)v;
+        if constexpr (bytes == 1) pairs = pairs << 8 | pairs >> 8;
+        pairs = __builtin_shufflevector(pairs, pairs, 3, 2, 1, 0, 4, 5, 6, 7);
+        pairs = __builtin_shufflevector(pairs, pairs, 0, 1, 2, 3, 7, 6, 5, 4);
+        return opposite<8>((V)pairs);
+#else
+        return opposite<16>((V)permute<OppositeInLanes<U>>((U)v, (U)v));
+#endif
+    }
+}
+
+// Four-byte words 3k, 3k + 1, 3k + 2 of a vector to the start of its lane k, and back; what is left over is not used.
+template <class V>
+struct ThreesToLanes {
+    static constexpr int at(int i) { return i / 4 * 3 + i % 4; }
+};
+template <class V>
+struct LanesToThrees {
+    static constexpr int at(int i) { return (i / 3 * 4 + i % 3) % lanesOf<V>; }
+};
+template <class V>
+ZMV_INLINE V threesToLanes(V v) {
+    using Words = Vec<uint32_t, sizeof(V)>;
+    return (V)permute<ThreesToLanes<Words>>((Words)v, (Words)v);
+}
+template <class V>
+ZMV_INLINE V lanesToThrees(V v) {
+    using Words = Vec<uint32_t, sizeof(V)>;
+    return (V)permute<LanesToThrees<Words>>((Words)v, (Words)v);
+}
+
+// Byte i of each lane of the result is byte index[i] of that lane of v.
+#if defined(__SSSE3__)
+constexpr bool shufflesBytes = true;
+template <class V>
+ZMV_INLINE V shuffleBytes(V v, V index) {
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) return (V)_mm512_shuffle_epi8((__m512i)v, (__m512i)index);
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) return (V)_mm256_shuffle_epi8((__m256i)v, (__m256i)index);
+#endif
+    if constexpr (sizeof(V) == 16) return (V)_mm_shuffle_epi8((__m128i)v, (__m128i)index);
+}
+#else
+constexpr bool shufflesBytes = false;
+template <class V>
+V shuffleBytes(V v, V index);
+#endif
+
 // n vectors that are the planes of a block of pixels, or its pixels.
 template <class V, int n>
 using Block = std::array<V, n>;
@@ -185,20 +259,30 @@ ZMV_INLINE Block<V, 3> pixelsOf(const Block<V, 3>& planes) {
     }
 }
 
-// Four channels: the same perfect shuffle on 4 * perLane elements; pixels are two of them away from planes.
-template <class V>
-ZMV_INLINE Block<V, 4> perfectShuffle(const Block<V, 4>& x) {
-    return {interleaveLow(x[0], x[2]), interleaveHigh(x[0], x[2]), interleaveLow(x[1], x[3]),
-            interleaveHigh(x[1], x[3])};
+// Four channels: the same perfect shuffle on 4 * perLane elements; pixels are two of them away from planes.  A power of
+// two n: as many of them as there are bits in n turn n vectors of n elements a lane into their transpose.
+template <int n, class V>
+ZMV_INLINE Block<V, n> perfectShuffle(const Block<V, n>& x) {
+    Block<V, n> merged;
+    for (int i = 0; i < n / 2; ++i) {
+        merged[2 * i] = interleaveLow(x[i], x[i + n / 2]);
+        merged[2 * i + 1] = interleaveHigh(x[i], x[i + n / 2]);
+    }
+    return merged;
 }
 template <class V>
 ZMV_INLINE Block<V, 4> pixelsOf(const Block<V, 4>& planes) {
-    return perfectShuffle(perfectShuffle(planes));
+    return perfectShuffle<4, V>(perfectShuffle<4, V>(planes));
 }
 template <class V>
 ZMV_INLINE Block<V, 4> planesOf(Block<V, 4> pixels) {
-    for (int k = 1; k < InLanes<V>::perLane; k *= 2) pixels = perfectShuffle(pixels);
+    for (int k = 1; k < InLanes<V>::perLane; k *= 2) pixels = perfectShuffle<4, V>(pixels);
     return pixels;
+}
+template <int n, class V>
+ZMV_INLINE Block<V, n> transposed(Block<V, n> rows) {
+    for (int k = 1; k < n; k *= 2) rows = perfectShuffle<n, V>(rows);
+    return rows;
 }
 
 // One channel is its own plane.

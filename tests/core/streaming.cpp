@@ -30,6 +30,11 @@ int64_t bytesPerPixel(const Member& m) {
     if (m.find("src1")) return whole && m.find("dst") ? 3 * pixel : 0;
     if (m.name.rfind("zmviSqrt_", 0) == 0) return whole && !m.inPlace ? 2 * pixel : 0;
     if (m.name.rfind("zmviThreshold", 0) == 0) return whole ? 2 * pixel : 0;
+    if (m.name.rfind("zmviMirror_", 0) == 0)
+        return whole && !m.inPlace && m.to.channels == 4 && m.source != Element::s16 && m.source != Element::f32
+                   ? 2 * pixel
+                   : 0;
+    if (m.name == "zmviTranspose_32s_C1R") return 2 * pixel;
     if (m.name.rfind("zmviConvert_", 0) == 0)
         return whole && m.name.back() == 'R' ? (bytesOf(m.source) + bytesOf(m.destination)) * m.to.channels : 0;
     if (m.name.rfind("zmviCopy_", 0) != 0 || !(m.from.planar || m.to.planar)) return 0;
@@ -79,9 +84,9 @@ TEST(Streaming, AsksFromItsThresholdOn) {
     // Set C1 C3 C4; planar copies in both directions of 3 and 4 planes, of which bytes ask in one; arithmetic on two
     // images C1 C3 C4, with both widths of sizes; logic; scaled products; division with a rounding mode.  Roots of one
     // and three channels.  Conversions of 18 pairs of types with C1 C3 C4, and of 5 with C1.
-    // Thresholds of one and three channels, two with four, in place too.
-    const int all =
-        3 * 5 + 4 * 4 + 1 + 4 * 4 * 3 * 2 + 3 * 3 * 3 + 2 * 3 + 3 * 3 + 4 * 2 + 18 * 3 + 5 + (7 * 2 + 2) * 4 * 2;
+    // Thresholds of one and three channels, two with four, in place too.  Mirrors of three types, and one transpose.
+    const int all = 3 * 5 + 4 * 4 + 1 + 4 * 4 * 3 * 2 + 3 * 3 * 3 + 2 * 3 + 3 * 3 + 4 * 2 + 18 * 3 + 5 +
+                    (7 * 2 + 2) * 4 * 2 + 3 + 1;
     EXPECT_TRUE(asking == all || !options.only.empty()) << asking << ", not " << all;
 }
 

@@ -38,6 +38,8 @@ bool acceptsAnyStep(const Member& m) {
     return m.family->steps == Steps::any || (m.family->freeSteps && m.family->freeSteps(m));
 }
 
+bool acceptsNegativeSteps(const Member& m) { return acceptsAnyStep(m) || m.family->steps == Steps::nonzero; }
+
 bool rounds(const Member& m) {
     return m.family->rounds == Rounds::always || (m.family->rounds == Rounds::floats && isReal(m.destination));
 }
@@ -87,7 +89,7 @@ Layout Case::layoutOf(const std::string& name) const {
 int64_t Case::chooseStep(int64_t rowBytes) {
     if (packed_) return rowBytes;
     const int64_t padded = rowBytes + (rng.oneIn(3) ? 0 : rng.between(1, 67));
-    if (acceptsAnyStep(member) && mode != Mode::far) switch (rng.below(12)) {
+    if (acceptsNegativeSteps(member) && mode != Mode::far) switch (rng.below(12)) {
             case 0:
                 return rowsApart ? padded : 0;
             case 1:

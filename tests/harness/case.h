@@ -23,6 +23,7 @@ enum class Mode {
 // Whether its results depend on the rounding mode.
 bool rounds(const Member& m);
 bool acceptsAnyStep(const Member& m);
+bool acceptsNegativeSteps(const Member& m);
 
 class Case {
   public:

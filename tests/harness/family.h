@@ -11,7 +11,7 @@ namespace test {
 class Case;
 struct Member;
 
-enum class Steps { positive, any };
+enum class Steps { positive, nonzero, any };
 enum class Rounds { never, floats, always };  // as the caller's control word says
 
 // One way to break a precondition: a value for an argument, or for one part of it.

@@ -60,11 +60,14 @@ struct Invoker<R(P...)> {
 
 Element elementOf(const std::string& code) {
     static const std::map<std::string, Element> codes = {
-        {"8u", Element::u8},       {"8s", Element::s8},        {"16u", Element::u16},     {"16s", Element::s16},
-        {"32u", Element::u32},     {"32s", Element::s32},      {"32f", Element::f32},     {"64f", Element::f64},
-        {"32sc", Element::sc32},   {"32fc", Element::fc32},    {"uint8_t", Element::u8},  {"int8_t", Element::s8},
-        {"int", Element::s32},     {"uint16_t", Element::u16}, {"int16_t", Element::s16}, {"uint32_t", Element::u32},
-        {"int32_t", Element::s32}, {"int64_t", Element::s64},  {"float", Element::f32},   {"double", Element::f64}};
+        {"8u", Element::u8},          {"8s", Element::s8},        {"16u", Element::u16},
+        {"16s", Element::s16},        {"32u", Element::u32},      {"32s", Element::s32},
+        {"32f", Element::f32},        {"64f", Element::f64},      {"32sc", Element::sc32},
+        {"32fc", Element::fc32},      {"uint8_t", Element::u8},   {"int8_t", Element::s8},
+        {"int", Element::s32},        {"uint16_t", Element::u16}, {"int16_t", Element::s16},
+        {"uint32_t", Element::u32},   {"int32_t", Element::s32},  {"int64_t", Element::s64},
+        {"float", Element::f32},      {"double", Element::f64},   {"Complex32s", Element::sc32},
+        {"Complex32f", Element::fc32}};
     const auto found = codes.find(code);
     return found == codes.end() ? Element::none : found->second;
 }

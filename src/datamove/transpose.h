@@ -1,0 +1,132 @@
+// Regions with rows and columns changed, for every width of pixels.
+#pragma once
+
+#include "kernels/rows.h"
+
+namespace zmv {
+
+using Bytes = Image<uint8_t>;
+using ConstBytes = Image<const uint8_t>;
+template <class T>
+Bytes bytesOf(Image<T> image) {
+    return {reinterpret_cast<uint8_t*>(image.data), image.step};
+}
+template <class T>
+ConstBytes bytesOf(Image<const T> image) {
+    return {reinterpret_cast<const uint8_t*>(image.data), image.step};
+}
+
+// dst = src transposed; both are images of pixels of so many bytes that do not overlap, roi is that of src.
+template <int pixel>
+class Transposer {
+  public:
+    static void region(ConstBytes src, Bytes dst, Roi roi, bool pastCache = false) {
+        if constexpr (inVectors) {
+            if (roi.width >= across && roi.height >= lineRows) {
+                const bool aligned = (reinterpret_cast<uintptr_t>(dst.data) | uintptr_t(dst.step)) % line == 0;
+                if (!aligned) return tiles<std::min(width, line / 2), lineRows, false>(src, dst, roi);
+                if (!pastCache) return tiles<width, lineRows, false>(src, dst, roi);
+                tiles<width, lineRows, true>(src, dst, roi);
+                return fence();
+            }
+            if (roi.width >= across && roi.height >= across) return tiles<16, across, false>(src, dst, roi);
+        }
+        pixels(src, dst, roi);
+    }
+
+  private:
+    static constexpr bool inVectors = 16 % pixel == 0;
+    static constexpr int across = 16 / pixel;                 // pixels of a lane
+    static constexpr int line = 64, lineRows = line / pixel;  // rows that make a cache line of the destination
+    static constexpr Len block = 2 * line / pixel;            // columns
+
+    // Rows of the source that make a vector of the destination, and a lane of columns.
+    template <int size>
+    static ZMV_INLINE void tile(const uint8_t* src, Len srcStep, uint8_t* dst, Len dstStep) {
+        using T = typename UnsignedOf<std::min(pixel, 8)>::type;
+        Block<Vec<T, size>, across> rows;
+        for (int i = 0; i < across; ++i)
+            rows[i] = loadLanes<T, size>(reinterpret_cast<const T*>(src + i * srcStep), across * srcStep);
+        rows = transposed<across, Vec<T, size>>(rows);
+        for (int i = 0; i < across; ++i) store(dst + i * dstStep, rows[i]);
+    }
+    // Lines leave for the memory whole, one after the other.
+    static ZMV_INLINE void streamLines(const uint8_t* lines, uint8_t* dst, Len dstStep) {
+        for (int i = 0; i < across; ++i)
+            for (int at = 0; at < line; at += width)
+                stream(dst + i * dstStep + at, loadAs<Vec<uint8_t>>(lines + i * line + at));
+    }
+
+    // Columns in blocks, so that the destination's lines stay in the nearest cache until the next band of rows goes on
+    // with them.  The last band and the last columns go over pixels that are done already.
+    template <int size, int down, bool streaming>
+    static void tiles(ConstBytes src, Bytes dst, Roi roi) {
+        constexpr int tileRows = size / pixel;
+        alignas(line) uint8_t lines[streaming ? across * line : 1];
+        for (Len x0 = 0; x0 < roi.width; x0 += block)
+            for (Len y = 0; y < roi.height; y += down) {
+                const Len row = std::min(y, roi.height - down);
+                const bool past = streaming && row == y;
+                for (Len x = x0; x < std::min(x0 + block, roi.width); x += across) {
+                    const Len column = std::min(x, roi.width - across);
+                    uint8_t* const to = dst.row(column) + row * pixel;
+                    for (int part = 0; part < down; part += tileRows)
+                        tile<size>(src.row(row + part) + column * pixel, src.step, (past ? lines : to) + part * pixel,
+                                   past ? line : dst.step);
+                    if (past) streamLines(lines, to, dst.step);
+                }
+            }
+    }
+
+    static void pixels(ConstBytes src, Bytes dst, Roi roi) {
+        constexpr Len side = 16;
+        for (Len y0 = 0; y0 < roi.height; y0 += side)
+            for (Len x0 = 0; x0 < roi.width; x0 += side)
+                for (Len x = x0; x < std::min(x0 + side, roi.width); ++x)
+                    for (Len y = y0; y < std::min(y0 + side, roi.height); ++y)
+                        std::memcpy(dst.row(x) + y * pixel, src.row(y) + x * pixel, pixel);
+    }
+};
+
+// Squares that fit a block of memory on the way.
+template <int pixel>
+struct Square {
+    static constexpr Len side = pixel <= 2 ? 64 : pixel <= 8 ? 32 : 16;
+    alignas(64) uint8_t memory[side * side * pixel];
+    Bytes image() { return {memory, side * pixel}; }
+};
+
+template <Layout layout, class T>
+void transpose(Image<const T> src, Image<T> dst, Roi roi, bool pastCache) {
+    constexpr int pixel = layout.channels * int(sizeof(T));
+    if constexpr (!layout.alpha) {
+        Transposer<pixel>::region(bytesOf(src), bytesOf(dst), roi, pastCache);
+    } else {
+        Square<pixel> square;
+        const Pattern moved = Pattern::mask<T>(layout.used(), layout.channels);
+        for (Len y = 0; y < roi.height; y += square.side)
+            for (Len x = 0; x < roi.width; x += square.side) {
+                const Roi part(std::min(square.side, roi.width - x), std::min(square.side, roi.height - y));
+                Transposer<pixel>::region(bytesOf(src.at(x * layout.channels, y)), square.image(), part);
+                for (Len i = 0; i < part.width; ++i)
+                    blendRow(dst.row(x + i) + y * layout.channels, fromRow(square.image().row(i)), moved,
+                             rowBytes<T>(part.height, layout.used(), layout.channels));
+            }
+    }
+}
+
+// A square region: squares change places across the diagonal.
+template <int pixel>
+void transposeInPlace(Bytes image, Len side) {
+    Square<pixel> square;
+    for (Len y = 0; y < side; y += square.side)
+        for (Len x = y; x < side; x += square.side) {
+            const Roi upper(std::min(square.side, side - x), std::min(square.side, side - y));
+            const Bytes above = image.at(x * pixel, y), below = image.at(y * pixel, x);
+            Transposer<pixel>::region(above, square.image(), upper);
+            if (x > y) Transposer<pixel>::region(below, above, {upper.height, upper.width});
+            for (Len i = 0; i < upper.width; ++i) copyRow(below.row(i), square.image().row(i), upper.height * pixel);
+        }
+}
+
+}  // namespace zmv
