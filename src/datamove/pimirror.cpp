@@ -89,7 +89,7 @@ StatusCode ownpi_Mirror(Image<const T> src, Image<T> dst, Roi roi, int axis) {
                  {roi.height * channels * Len(sizeof(T)), roi.width}))
             return STATUS_BAD_ARGUMENT;
         if (axis == AXIS_DIAGONAL_B) src = upsideDown(src, roi.height), dst = upsideDown(dst, roi.width);
-        transpose<layout>(src, dst, roi, pastCache());
+        transpose<layout, asks>(src, dst, roi);
         return STATUS_OK;
     }
     if (axis < AXIS_HORIZONTAL || axis > AXIS_BOTH) return STATUS_BAD_AXIS;

@@ -4,60 +4,60 @@
 namespace zmv {
 namespace {
 
-// Pixels of `from` channels into pixels of `to`, one of them three and the other four: twelve bytes of the one are
-// sixteen of the other, and change into them inside a lane.
+// Pixels of `from` channels as pixels of `to`, one of them three and the other four; a channel whose entry names none
+// stays as it was.  Twelve bytes of the one are as many pixels as sixteen of the other, and change into them inside a
+// lane.
 template <class T, int from, int to>
 class LayoutChange {
   public:
     explicit LayoutChange(const int* order) {
-        constexpr int bytes = int(sizeof(T));
-        uint8_t index[16], written[16];
         for (int i = 0; i < 16; ++i) {
-            const int pixel = i / (to * bytes), channel = order[i / bytes % to];
-            index[i] = uint8_t((pixel * from + channel % from) * bytes + i % bytes);
-            written[i] = channel < from ? 255 : 0;
-            all_ = all_ && channel < from;
+            const int entry = order[i / size % to];
+            index_[i] = uint8_t((i / (to * size) * from + entry % from) * size + i % size);
+            written_[i] = entry < from ? 255 : 0;
+            all_ = all_ && entry < from;
         }
         for (int c = 0; c < to; ++c) order_[c] = order[c] % from;
-        index_ = loadLanes(index, 0);
-        written_ = loadLanes(written, 0);
     }
-    void row(T* dst, const T* src, Len width) const {
-        all_ ? blocks<true>(dst, src, width) : blocks<false>(dst, src, width);
+    void row(T* dst, const T* src, Len pixels) const {
+        all_ ? steps<true>(reinterpret_cast<uint8_t*>(dst), reinterpret_cast<const uint8_t*>(src), pixels)
+             : steps<false>(reinterpret_cast<uint8_t*>(dst), reinterpret_cast<const uint8_t*>(src), pixels);
     }
 
   private:
     using V = Vec<uint8_t>;
-    static constexpr int block = lanes<T>;              // pixels
-    static constexpr int beyond = 16 / int(sizeof(T));  // elements that a block may touch behind its last pixel
+    static constexpr int size = int(sizeof(T)), pixelIn = from * size, pixelOut = to * size;
+    static constexpr int step = (shufflesBytes ? width / 4 : width) / size;  // pixels
+    static constexpr int slack = size == 1 ? 2 : 1;  // pixels that the fourth word of a lane reaches
 
     template <bool all>
-    void blocks(T* dst, const T* src, Len width) const {
+    void steps(uint8_t* dst, const uint8_t* src, Len pixels) const {
+        const V index = loadLanes(index_, 0), written = loadLanes(written_, 0);
+        // Through memory of its own, so that no other byte is touched.
+        const auto edge = [&](Len x, auto count) {
+            uint8_t in[step * pixelIn + 16], out[step * pixelOut + 16];
+            std::memcpy(in, src + x * pixelIn, size_t(count * pixelIn));
+            if constexpr (!all) std::memcpy(out, dst + x * pixelOut, size_t(count * pixelOut));
+            stepAt<all>(out, in, index, written);
+            std::memcpy(dst + x * pixelOut, out, size_t(count * pixelOut));
+        };
+        if (pixels < step) return edge(0, pixels);
         Len x = 0;
-        for (; x + block + beyond / 2 < width; x += block) blockAt<all>(dst + x * to, src + x * from);
-        for (; x < width; x += block) {
-            const auto count = size_t(std::min<Len>(block, width - x)) * sizeof(T);
-            T in[block * from + beyond], out[block * to + beyond];
-            std::memcpy(in, src + x * from, count * from);
-            std::memcpy(out, dst + x * to, count * to);
-            blockAt<all>(out, in);
-            std::memcpy(dst + x * to, out, count * to);
-        }
+        for (; x + step + slack <= pixels; x += step)
+            stepAt<all>(dst + x * pixelOut, src + x * pixelIn, index, written);
+        for (; x < pixels; x += step) edge(std::min(x, pixels - step), std::integral_constant<Len, step>{});
     }
     template <bool all>
-    ZMV_INLINE void blockAt(T* dst, const T* src) const {
-        const auto to8 = reinterpret_cast<uint8_t*>(dst);
-        const auto from8 = reinterpret_cast<const uint8_t*>(src);
-        const auto put = [&](int at, V v) { store(to8 + at, all ? v : select(written_, v, load(to8 + at))); };
+    ZMV_INLINE void stepAt(uint8_t* dst, const uint8_t* src, V index, V written) const {
+        const auto put = [&](int at, V v) { store(dst + at, all ? v : select(written, v, load(dst + at))); };
         if constexpr (shufflesBytes) {
-            constexpr int less = width / 4 * 3;
-            for (int i = 0; i < 4; ++i)
-                if constexpr (to == 4)
-                    put(i * width, shuffleBytes(threesToLanes(load(from8 + i * less)), index_));
-                else
-                    put(i * less, lanesToThrees(shuffleBytes(load(from8 + i * width), index_)));
+            const V v = shuffleBytes(loadLanes(src, 4 * from), index);
+            if constexpr (to == 4)
+                put(0, v);
+            else
+                storeLanes(dst, v, 12);  // each lane over the four bytes too many of the one before
         } else {
-            const auto planes = planesOf(loadPixels<from>(src));
+            const auto planes = planesOf(loadPixels<from>(reinterpret_cast<const T*>(src)));
             Block<Vec<T>, to> chosen;
             for (int c = 0; c < to; ++c) chosen[c] = planes[size_t(order_[c])];
             chosen = pixelsOf(chosen);
@@ -65,20 +65,20 @@ class LayoutChange {
         }
     }
 
-    V index_, written_;
+    uint8_t index_[16], written_[16];
     int order_[to];
     bool all_ = true;
 };
 
 // A row onto itself goes through a block that stays in the nearest cache.
-template <class T, int n, int used>
-void reorderInPlace(const ChannelOrder<T, n, used>& order, T* row, Len pixels) {
+template <int n, class Order, class T>
+void reorderInPlace(const Order& order, T* row, Len pixels) {
     constexpr Len block = 48 * width / (n * Len(sizeof(T)));
     T copy[block * n];
     for (Len x = 0; x < pixels; x += block) {
         const Len count = std::min(block, pixels - x);
         copyRow(copy, row + x * n, count * n * Len(sizeof(T)));
-        reorderRow<false>(order, row + x * n, copy, count);
+        order.row(row + x * n, copy, count);
     }
 }
 
@@ -95,19 +95,15 @@ StatusCode ownpi_SwapChannels(Image<const T> src, Image<T> dst, Roi roi, const i
         order[c] = get(dstOrder + c);
         if (order[c] < 0 || (!mayLeaveOut && order[c] >= sources)) return STATUS_BAD_CHANNEL_ORDER;
     }
-    const bool inPlace = src.data == dst.data;
     roi = joinRows(roi, gapless(src, roi.width, from.channels) && gapless(dst, roi.width, to.channels));
-    if constexpr (from.channels != to.channels) {
-        const LayoutChange<T, from.channels, to.channels> change(order);
-        for (Len y = 0; y < roi.height; ++y) change.row(dst.row(y), src.row(y), roi.width);
-    } else {
-        const ChannelOrder<T, to.channels, entries> change(order);
-        for (Len y = 0; y < roi.height; ++y)
-            if (inPlace)
-                reorderInPlace(change, dst.row(y), roi.width);
-            else
-                reorderRow<false>(change, dst.row(y), src.row(y), roi.width);
-    }
+    using Change = std::conditional_t<from.channels == to.channels, ChannelShuffle<T, to.channels, entries, false>,
+                                      LayoutChange<T, from.channels, to.channels>>;
+    const Change change(order);
+    for (Len y = 0; y < roi.height; ++y)
+        if (from.channels == to.channels && src.data == dst.data)
+            reorderInPlace<to.channels>(change, dst.row(y), roi.width);
+        else
+            change.row(dst.row(y), src.row(y), roi.width);
     return STATUS_OK;
 }
 

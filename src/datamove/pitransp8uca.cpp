@@ -1,5 +1,4 @@
 // zmviTranspose: rows become columns.
-#include "core/streaming.h"
 #include "datamove/transpose.h"
 
 namespace zmv {
@@ -15,16 +14,11 @@ StatusCode ownpi_TransposeInPlace(Image<T> image, Roi roi) {
     return STATUS_OK;
 }
 
-// From here on the forms that do not ask for the size of the cache write past the caches: lines that are not read first
-// are half of the time.
-constexpr Len largeTranspose = Len(16) << 20;
-
 template <Layout layout, bool asks, class T>
 StatusCode ownpi_Transpose(Image<const T> src, Image<T> dst, Roi roi) {
     if (src.data == dst.data && src.step == dst.step) return ownpi_TransposeInPlace<layout>(dst, roi);
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi)})) return bad;
-    const Len moved = 2 * roi.width * roi.height * layout.channels * Len(sizeof(T));
-    transpose<layout>(src, dst, roi, asks ? writesPastCache(moved) : moved >= largeTranspose);
+    transpose<layout, asks>(src, dst, roi);
     return STATUS_OK;
 }
 

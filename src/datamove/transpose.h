@@ -1,6 +1,7 @@
 // Regions with rows and columns changed, for every width of pixels.
 #pragma once
 
+#include "core/streaming.h"
 #include "kernels/rows.h"
 
 namespace zmv {
@@ -20,16 +21,19 @@ ConstBytes bytesOf(Image<const T> image) {
 template <int pixel>
 class Transposer {
   public:
-    static void region(ConstBytes src, Bytes dst, Roi roi, bool pastCache = false) {
+    // asks: whether it may be written past the caches.
+    template <bool asks = false>
+    static void region(ConstBytes src, Bytes dst, Roi roi) {
+        const bool pastCache = asks && writesPastCache(2 * roi.width * roi.height * pixel);
         if constexpr (inVectors) {
             if (roi.width >= across && roi.height >= lineRows) {
                 const bool aligned = (reinterpret_cast<uintptr_t>(dst.data) | uintptr_t(dst.step)) % line == 0;
-                if (!aligned) return tiles<std::min(width, line / 2), lineRows, false>(src, dst, roi);
-                if (!pastCache) return tiles<width, lineRows, false>(src, dst, roi);
-                tiles<width, lineRows, true>(src, dst, roi);
+                if (!aligned) return tiles<std::min(width, line / 2), lineRows>(src, dst, roi);
+                if (!pastCache) return tiles<width, lineRows>(src, dst, roi);
+                tiles<width, lineRows, asks>(src, dst, roi);
                 return fence();
             }
-            if (roi.width >= across && roi.height >= across) return tiles<16, across, false>(src, dst, roi);
+            if (roi.width >= across && roi.height >= across) return tiles<16, across>(src, dst, roi);
         }
         pixels(src, dst, roi);
     }
@@ -38,7 +42,11 @@ class Transposer {
     static constexpr bool inVectors = 16 % pixel == 0;
     static constexpr int across = 16 / pixel;                 // pixels of a lane
     static constexpr int line = 64, lineRows = line / pixel;  // rows that make a cache line of the destination
-    static constexpr Len block = 2 * line / pixel;            // columns
+    static constexpr int blockLines = 2;                      // cache lines of a row of a block of columns
+    static constexpr Len block = blockLines * line / pixel;
+
+    // From so many bytes read and written on, what the nearest cache cannot hold is fetched ahead.
+    static constexpr Len farFrom = 256 << 10;
 
     // Rows of the source that make a vector of the destination, and a lane of columns.
     template <int size>
@@ -57,19 +65,33 @@ class Transposer {
                 stream(dst + i * dstStep + at, loadAs<Vec<uint8_t>>(lines + i * line + at));
     }
 
+    // A tile's share of what the next band of rows reads and writes: rows that start far apart are no sequence that the
+    // processor would fetch ahead by itself.  It is a hint, which no memory need stand behind.
+    template <int down>
+    static ZMV_INLINE void fetchAhead(const uint8_t* src, Len srcStep, uint8_t* dst, Len dstStep, unsigned tile) {
+        constexpr unsigned share = down * blockLines * across / block;
+        for (unsigned i = tile * share; i < tile * share + share; ++i)
+            prefetch(src + Len(i / blockLines) * srcStep + i % blockLines * line);
+        for (int i = 0; i < across; ++i) prefetch(dst + i * dstStep);
+    }
+
     // Columns in blocks, so that the destination's lines stay in the nearest cache until the next band of rows goes on
     // with them.  The last band and the last columns go over pixels that are done already.
-    template <int size, int down, bool streaming>
+    template <int size, int down, bool streaming = false>
     static void tiles(ConstBytes src, Bytes dst, Roi roi) {
         constexpr int tileRows = size / pixel;
+        const bool far = 2 * roi.width * roi.height * pixel >= farFrom;
         alignas(line) uint8_t lines[streaming ? across * line : 1];
         for (Len x0 = 0; x0 < roi.width; x0 += block)
             for (Len y = 0; y < roi.height; y += down) {
-                const Len row = std::min(y, roi.height - down);
+                const Len row = std::min(y, roi.height - down), next = std::min(y + down, roi.height - down);
                 const bool past = streaming && row == y;
                 for (Len x = x0; x < std::min(x0 + block, roi.width); x += across) {
                     const Len column = std::min(x, roi.width - across);
                     uint8_t* const to = dst.row(column) + row * pixel;
+                    if (far && !streaming)
+                        fetchAhead<down>(src.row(next) + x0 * pixel, src.step, dst.row(column) + next * pixel, dst.step,
+                                         unsigned(x - x0) / across);
                     for (int part = 0; part < down; part += tileRows)
                         tile<size>(src.row(row + part) + column * pixel, src.step, (past ? lines : to) + part * pixel,
                                    past ? line : dst.step);
@@ -96,11 +118,11 @@ struct Square {
     Bytes image() { return {memory, side * pixel}; }
 };
 
-template <Layout layout, class T>
-void transpose(Image<const T> src, Image<T> dst, Roi roi, bool pastCache) {
+template <Layout layout, bool asks, class T>
+void transpose(Image<const T> src, Image<T> dst, Roi roi) {
     constexpr int pixel = layout.channels * int(sizeof(T));
     if constexpr (!layout.alpha) {
-        Transposer<pixel>::region(bytesOf(src), bytesOf(dst), roi, pastCache);
+        Transposer<pixel>::template region<asks>(bytesOf(src), bytesOf(dst), roi);
     } else {
         Square<pixel> square;
         const Pattern moved = Pattern::mask<T>(layout.used(), layout.channels);

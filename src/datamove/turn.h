@@ -5,86 +5,99 @@
 
 namespace zmv {
 
-// The first `used` of n channels in another order.  Each channel is read at its distance from where it goes, and masks
-// put the channels together: the same few operations for every order, and no byte shuffle needed.
-template <class T, int n, int used = n>
-class ChannelOrder {
+// The first `used` of n channels in another order; reversed, the last pixel comes first and keeps the order of its
+// channels.  Vectors are put together from few others that lie near: with a byte shuffle, from those that reach as far
+// back and ahead as a pixel does; without one, from those at the distance of each channel, under masks.  Rows do not
+// overlap.
+template <class T, int n, int used, bool reversed>
+class ChannelShuffle {
   public:
-    using V = Vec<uint8_t>;
-    static constexpr Len reach = (n - 1) * Len(sizeof(T));  // how far beyond a vector its channels may lie
-
-    explicit ChannelOrder(const int* order) {
-        for (int c = 0; c < used; ++c) distances_.of[c] = (order[c] - c) * Len(sizeof(T));
-        const Pattern numbers(channelNumbers, Layout{n});
-        for (int phase = 0; phase < phases; ++phase)
-            for (int c = 0; c < n; ++c) masks_[phase].of[c] = (V)((Vec<T>)numbers.at(phase * Len(sizeof(T))) == T(c));
+    explicit ChannelShuffle(const int* order) {
+        for (int term = 0; term < terms; ++term) {
+            // All elements change order when a row is reversed, so that pixels must be turned round for it.
+            const auto distance = [&](int c) { return ((reversed ? n - 1 - order[c] : order[c]) - c) * size; };
+            offsets_[term] = !shufflesBytes ? distance(term) : term == 0 ? -reach : reach;
+            for (int at = 0; at < 48; ++at) {
+                const int c = at / size % n, in = at % 16 + (c < used ? distance(c) : 0);
+                const bool first = in + reach < 16;
+                const int index = c >= used || first != (term == 0) ? 128 : first ? in + reach : in - reach;
+                // The elements of a lane, too, get their opposite order by the shuffle.
+                const int to = reversed && shufflesBytes ? at ^ (16 - size) : at;
+                tables_[term][to] = uint8_t(shufflesBytes ? index : c == term ? 255 : 0);
+            }
+            for (int at = 48; at < tableBytes; ++at) tables_[term][at] = tables_[term][at - 48];
+        }
     }
-    struct Distances {
-        Len of[used];
-    };
-    struct Masks {
-        V of[n];
-    };
-    const Distances& distances() const { return distances_; }
-    // For a vector that starts so many bytes behind, or before, the start of a pixel.
-    const Masks& masks(Len offset) const { return masks_[phases == 1 ? 0 : (offset / Len(sizeof(T)) % n + n) % n]; }
-    template <bool edge = false>
-    static ZMV_INLINE V at(const uint8_t* p, const Distances& distances, const Masks& masks) {
-        V merged{};
-        for (int c = 0; c < used; ++c)
-            merged |= edge ? loadWhere(masks.of[c], p + distances.of[c]) : loadAs<V>(p + distances.of[c]) & masks.of[c];
-        return merged;
-    }
-    // The same for the vector at offset `at` of a row, reading no byte beyond the row's.
-    V atEdge(const uint8_t* row, Len bytes, Len at) const {
-        if (loadsWhere && bytes >= width) return this->at<true>(row + at, distances_, masks(at));
-        constexpr Len margin = 16;
-        static_assert(reach <= margin);
-        uint8_t around[width + 2 * margin];
-        const Len from = std::max<Len>(at - margin, 0), to = std::min(at + width + margin, bytes);
-        copyRow(around + margin + from - at, row + from, to - from);
-        return this->at(around + margin, distances_, masks(at));
+    void row(T* dst, const T* src, Len pixels) const {
+        const auto to = reinterpret_cast<uint8_t*>(dst);
+        const auto from = reinterpret_cast<const uint8_t*>(src);
+        const Len bytes = pixels * n * size;
+        const auto target = [&](Len at) { return to + (reversed ? bytes - width - at : at); };
+        if (bytes < width) {
+            uint8_t around[3 * width] = {};
+            const Len first = reversed ? bytes - width : 0;
+            std::memcpy(around + width, from, size_t(bytes));
+            const V v = gathered<false>(tables(reversed ? -1 : 0), around + width + first, from, from);
+            return storePart(to, blended(v, loadPart(to, int(bytes))), int(bytes));
+        }
+        const auto edge = [&](Len at, const Tables& tables) __attribute__((always_inline)) {
+            store(target(at), blended(gathered<true>(tables, from + at, from, from + bytes), load(target(at))));
+        };
+        edge(0, tables(0));
+        const Tables period[3] = {tables(1), tables(2), tables(3)};
+        Len done = eachVector(width, bytes - reach, [&](Len at, auto k) {
+            const V v = gathered<false>(period[k], from + at, from, from);
+            store(target(at), blended(v, used < n ? load(target(at)) : v));
+        });
+        if (bytes - done > width) edge(done, tables(done / width)), done += width;
+        if (bytes > done) edge(bytes - width, tables(-1));
     }
 
   private:
-    static constexpr T channelNumbers[4] = {0, 1, 2, 3};
-    static constexpr int phases = n == 3 ? n : 1;  // places in a pixel where a vector of a row may start
-    Distances distances_ = {};
-    Masks masks_[phases];
-};
-
-// dst = src with its channels in that order, in a row of so many pixels; reversed, the last pixel comes first and the
-// channels in the opposite order.  The rows do not overlap.
-template <bool reversed, class T, int n, int used>
-void reorderRow(const ChannelOrder<T, n, used>& order, T* dst, const T* src, Len pixels) {
-    const auto to = reinterpret_cast<uint8_t*>(dst);
-    const auto from = reinterpret_cast<const uint8_t*>(src);
-    const Len bytes = pixels * n * Len(sizeof(T));
-    const auto source = [&](Len at) { return reversed ? bytes - width - at : at; };
-    const auto placed = [&](auto v, [[maybe_unused]] auto old, [[maybe_unused]] const auto& masks) {
-        if constexpr (used < n) v |= old & masks.of[used];
-        if constexpr (reversed) v = opposite<int(sizeof(T))>(v);
-        return v;
+    using V = Vec<uint8_t>;
+    static constexpr int size = int(sizeof(T));
+    static constexpr bool inLanes = shufflesBytes && n == 4;  // pixels do not reach over the ends of lanes
+    static constexpr int reach = inLanes ? 0 : (n - 1) * size, terms = inLanes ? 1 : shufflesBytes ? 2 : used;
+    static constexpr int tableBytes = 32 + width;
+    struct IsUsed {
+        static constexpr bool at(int i) { return i % n < used; }
     };
-    if (bytes < width) {
-        const auto old = loadPart(to, int(bytes));
-        return storePart(to, placed(order.atEdge(from, bytes, source(0)), old, order.masks(0)), int(bytes));
+    struct Tables {
+        V of[terms];
+        std::array<Len, terms> offsets;  // beside them, so that no store can change them
+    };
+    // Of a vector so many vectors behind the start of the row, or before its end.  Rows are whole pixels, and every
+    // third lane begins with the same channel.
+    ZMV_INLINE Tables tables(Len vector) const {
+        const Len lane = vector * (width / 16) % 3;
+        Tables result;
+        for (int term = 0; term < terms; ++term)
+            result.of[term] = load(tables_[term] + 16 * (lane < 0 ? lane + 3 : lane));
+        result.offsets = offsets_;
+        return result;
     }
-    const auto edge = [&](Len at) {
-        store(to + at, placed(order.atEdge(from, bytes, source(at)), load(to + at), order.masks(at)));
-    };
-    edge(0);
-    // Of their own, so that no store can change them.
-    const auto distances = order.distances();
-    const typename ChannelOrder<T, n, used>::Masks masks[3] = {
-        order.masks(source(width)), order.masks(source(2 * width)), order.masks(source(3 * width))};
-    Len done = eachVector(width, bytes - order.reach, [&](Len at, auto k) {
-        const auto v = order.at(from + source(at), distances, masks[k]);
-        store(to + at, placed(v, used < n ? load(to + at) : v, masks[k]));
-    });
-    for (; bytes - done > width; done += width) edge(done);
-    edge(bytes - width);
-}
+    template <bool edge>
+    static ZMV_INLINE V gathered(const Tables& tables, const uint8_t* p, const uint8_t* begin, const uint8_t* end) {
+        V merged{};
+        for (int term = 0; term < terms; ++term) {
+            const uint8_t* const at = p + tables.offsets[term];
+            const V v = edge ? loadWithin(at, begin, end) : loadAs<V>(at);
+            if constexpr (shufflesBytes)
+                merged |= shuffleBytes(v, tables.of[term]);
+            else
+                merged |= v & tables.of[term];
+        }
+        if constexpr (reversed) return opposite < shufflesBytes ? 16 : size > (merged);
+        return merged;
+    }
+    static ZMV_INLINE V blended(V v, [[maybe_unused]] V old) {
+        if constexpr (used < n) return select((V)maskWhere<IsUsed, Vec<T>>(), v, old);
+        return v;
+    }
+
+    alignas(64) uint8_t tables_[terms][tableBytes];
+    std::array<Len, terms> offsets_;
+};
 
 // Rows of pixels of n channels, the last pixel first.  The rows do not overlap.
 template <class T, int n>
@@ -92,19 +105,18 @@ class RowReverser {
   public:
     void operator()(T* dst, const T* src, Len pixels) const {
         if constexpr (n == 3)
-            reorderRow<true>(order_, dst, src, pixels);
+            order_.row(dst, src, pixels);
         else
             reverse(reinterpret_cast<uint8_t*>(dst), reinterpret_cast<const uint8_t*>(src), pixels * pixel);
     }
 
   private:
     static constexpr int pixel = n * int(sizeof(T));
-    static constexpr int backwards[3] = {2, 1, 0};
+    static constexpr int kept[3] = {0, 1, 2};
     struct None {
         explicit None(const int*) {}
     };
-    // Three channels: all elements change order, and so do those of each pixel, which thereby keeps its own.
-    std::conditional_t<n == 3, ChannelOrder<T, n == 3 ? n : 1>, None> order_{backwards};
+    std::conditional_t<n == 3, ChannelShuffle<T, 3, 3, true>, None> order_{kept};
 
     static void reverse(uint8_t* dst, const uint8_t* src, Len bytes) {
         if (bytes >= width) return vectors<width>(dst, src, bytes);
@@ -114,13 +126,16 @@ class RowReverser {
     template <int size>
     static void vectors(uint8_t* dst, const uint8_t* src, Len bytes) {
         using V = Vec<uint8_t, size>;
-        const uint8_t* const last = src + bytes - size;
-        const auto at = [&](Len offset) { store(dst + offset, opposite<pixel>(loadAs<V>(last - offset))); };
-        Len done = 0;
+        uint8_t* const last = dst + bytes - size;
+        const auto at = [&](Len offset) { store(last - offset, opposite<pixel>(loadAs<V>(src + offset))); };
+        at(0);
+        // From here on at multiples of the vector's size, as far as whole pixels allow.
+        const Len beyond = Len(reinterpret_cast<uintptr_t>(last) % size);
+        Len done = (beyond ? beyond : size) / pixel * pixel;
         for (; bytes - done >= 4 * size; done += 4 * size)
             at(done), at(done + size), at(done + 2 * size), at(done + 3 * size);
-        for (; bytes - done > size; done += size) at(done);
-        at(bytes - size);
+        for (; bytes - done >= size; done += size) at(done);
+        if (done < bytes) at(bytes - size);
     }
 };
 

@@ -87,6 +87,8 @@ ZMV_INLINE void stream(void* p, V v) {
     if constexpr (sizeof(V) == 16) _mm_stream_si128(static_cast<__m128i*>(p), (__m128i)v);
 }
 ZMV_INLINE void fence() { _mm_sfence(); }
+// Into the nearest cache, while other work goes on.
+ZMV_INLINE void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
 // Whether p suits streaming stores of 16-byte lanes.
 ZMV_INLINE bool canStream(const void* p) { return reinterpret_cast<uintptr_t>(p) % 16 == 0; }
 
@@ -148,18 +150,19 @@ ZMV_INLINE void storePart(void* p, V v, int n) {
     if (left) storeFewBytes(to, loadAs<Vec<uint64_t, 16>>(from), left);
 }
 
-// The bytes at p where the mask has ones, elsewhere zero.  Where loadsWhere holds, no other byte is read.
+// The vector at p, of which only the bytes between begin and end are read, at least a vector apart; the others are
+// zero.
+ZMV_INLINE Vec<uint8_t> loadWithin(const uint8_t* p, const uint8_t* begin, const uint8_t* end) {
 #if defined(__AVX512BW__)
-constexpr bool loadsWhere = true;
+    const Len first = begin > p ? begin - p : 0, last = end - p < width ? end - p : width;
+    return (Vec<uint8_t>)_mm512_maskz_loadu_epi8(~0ull << first & ~0ull >> (64 - last), p);
 #else
-constexpr bool loadsWhere = false;
+    const Len away = p < begin ? begin - p : end - p < width ? end - p - width : 0;
+    if (away == 0) return loadAs<Vec<uint8_t>>(p);
+    uint8_t around[3 * width] = {};
+    store(around + width + away, loadAs<Vec<uint8_t>>(p + away));
+    return loadAs<Vec<uint8_t>>(around + width);
 #endif
-template <class V>
-ZMV_INLINE V loadWhere(V mask, const void* p) {
-#if defined(__AVX512BW__)
-    if constexpr (sizeof(V) == 64) return (V)_mm512_maskz_loadu_epi8(_mm512_movepi8_mask((__m512i)mask), p);
-#endif
-    return mask & loadAs<V>(p);
 }
 
 // loadPart and storePart where n may be all lanes.
@@ -178,7 +181,7 @@ ZMV_INLINE void storeUpTo(void* p, V v, int n) {
 // Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
 template <class T, int bytes = width>
 ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, Len laneStep) {
-    if (laneStep == 16) return load<T, bytes>(p);
+    if (__builtin_constant_p(laneStep) && laneStep == 16) return load<T, bytes>(p);
     const auto lane = [&](int k) { return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep); };
     if constexpr (bytes == 16) return (Vec<T, 16>)lane(0);
 #if defined(__AVX2__)
@@ -186,12 +189,15 @@ ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, Len laneStep) {
     if constexpr (bytes == 32) return (Vec<T, 32>)pair(0);
 #endif
 #if defined(__AVX512BW__)
-    if constexpr (bytes == 64) return (Vec<T, 64>)_mm512_inserti64x4(_mm512_castsi256_si512(pair(0)), pair(2), 1);
+    // Lane by lane from memory, which keeps the port of the shuffles free.
+    if constexpr (bytes == 64)
+        return (Vec<T, 64>)_mm512_inserti32x4(_mm512_inserti32x4(_mm512_castsi256_si512(pair(0)), lane(2), 2), lane(3),
+                                              3);
 #endif
 }
 template <bool streaming = false, class V>
 ZMV_INLINE void storeLanes(void* p, V v, Len laneStep) {
-    if (!streaming && laneStep == 16) return store(p, v);
+    if (!streaming && __builtin_constant_p(laneStep) && laneStep == 16) return store(p, v);
     const auto lane = [&](int k, __m128i x) {
         const auto at = static_cast<uint8_t*>(p) + k * laneStep;
         if constexpr (streaming)

@@ -162,26 +162,6 @@ ZMV_INLINE V opposite(V v) {
     }
 }
 
-// Four-byte words 3k, 3k + 1, 3k + 2 of a vector to the start of its lane k, and back; what is left over is not used.
-template <class V>
-struct ThreesToLanes {
-    static constexpr int at(int i) { return i / 4 * 3 + i % 4; }
-};
-template <class V>
-struct LanesToThrees {
-    static constexpr int at(int i) { return (i / 3 * 4 + i % 3) % lanesOf<V>; }
-};
-template <class V>
-ZMV_INLINE V threesToLanes(V v) {
-    using Words = Vec<uint32_t, sizeof(V)>;
-    return (V)permute<ThreesToLanes<Words>>((Words)v, (Words)v);
-}
-template <class V>
-ZMV_INLINE V lanesToThrees(V v) {
-    using Words = Vec<uint32_t, sizeof(V)>;
-    return (V)permute<LanesToThrees<Words>>((Words)v, (Words)v);
-}
-
 // Byte i of each lane of the result is byte index[i] of that lane of v.
 #if defined(__SSSE3__)
 constexpr bool shufflesBytes = true;

@@ -1,4 +1,5 @@
 // zmviMirror, zmviTranspose, zmviSwapChannels: pixels and channels that change places, all bits kept.
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include "harness/case.h"
@@ -150,31 +151,84 @@ TEST(Mirror, DiagonalRefusesOverlapOnly) {
     }
 }
 
-// Large enough to be written past the caches; rows of the destination start at multiples of a cache line.
+// Rows of the destination start at multiples of a cache line, so that its lines are written whole.
 template <class Pixel>
-void transposesLarge(const char* name) {
-    const size_t across = 1030, down = (size_t(9) << 20) / across / sizeof(Pixel) + 5;
+void transposesLines(const char* name, bool mirrors) {
+    const size_t across = 326, down = (size_t(600) << 10) / across / sizeof(Pixel) + 5;
     const size_t step = (down * sizeof(Pixel) + 63) / 64 * 64;
     std::vector<Pixel> src(across * down);
     for (size_t i = 0; i < src.size(); ++i)
         for (size_t k = 0; k < sizeof(Pixel); ++k) src[i][k] = uint8_t((i + 77 * k) * 2654435761u >> 11);
     std::vector<uint8_t> memory(step * across + 64, 9);
     uint8_t* const dst = memory.data() + (-reinterpret_cast<uintptr_t>(memory.data()) & 63);
-    ASSERT_EQ(call(name, static_cast<const Pixel*>(src.data()), int(across * sizeof(Pixel)), dst, int(step),
-                   ImageSize{int(across), int(down)}),
+    const auto from = static_cast<const Pixel*>(src.data());
+    const int srcStep = int(across * sizeof(Pixel));
+    const ImageSize size{int(across), int(down)};
+    ASSERT_EQ(mirrors ? call(name, from, srcStep, dst, int(step), size, int(AXIS_DIAGONAL_A))
+                      : call(name, from, srcStep, dst, int(step), size),
               STATUS_OK);
     for (size_t x = 0; x < across; ++x)
         for (size_t at = 0; at < step; ++at) {
             const size_t y = at / sizeof(Pixel);
-            ASSERT_EQ(dst[x * step + at], y < down ? src[y * across + x][at % sizeof(Pixel)] : 9) << x << ", " << at;
+            ASSERT_EQ(dst[x * step + at], y < down ? src[y * across + x][at % sizeof(Pixel)] : 9)
+                << name << ": " << x << ", " << at;
         }
 }
-TEST(Turn, LargeTranspose) {
-    transposesLarge<std::array<uint8_t, 1>>("zmviTranspose_8u_C1R");
-    transposesLarge<std::array<uint8_t, 2>>("zmviTranspose_16u_C1R");
-    transposesLarge<std::array<uint8_t, 4>>("zmviTranspose_32f_C1R");
-    transposesLarge<std::array<uint8_t, 8>>("zmviTranspose_32fc_C1R");
-    transposesLarge<std::array<uint8_t, 16>>("zmviTranspose_32f_C4R");
+TEST(Turn, WholeLines) {
+    transposesLines<std::array<uint8_t, 1>>("zmviTranspose_8u_C1R", false);
+    transposesLines<std::array<uint8_t, 2>>("zmviTranspose_16u_C1R", false);
+    transposesLines<std::array<uint8_t, 3>>("zmviTranspose_8u_C3R", false);
+    transposesLines<std::array<uint8_t, 4>>("zmviTranspose_32f_C1R", false);
+    transposesLines<std::array<uint8_t, 8>>("zmviTranspose_32fc_C1R", false);
+    transposesLines<std::array<uint8_t, 16>>("zmviTranspose_32f_C4R", false);
+}
+// The same past the caches, in the members that may: any region is larger than a cache of one byte.
+TEST(Streaming, WholeLines) {
+    *static_cast<int*>(dlsym(fakeCore(), "fakeCacheSize")) = 1;
+    transposesLines<std::array<uint8_t, 4>>("zmviTranspose_32s_C1R", false);
+    transposesLines<std::array<uint8_t, 4>>("zmviMirror_8u_C4R", true);
+    transposesLines<std::array<uint8_t, 8>>("zmviMirror_16u_C4R", true);
+    transposesLines<std::array<uint8_t, 16>>("zmviMirror_32s_C4R", true);
+}
+
+// Every turn undoes itself; steps are powers of two, where rows compete for the same places in the caches.
+TEST(Turn, TwiceIsNothing) {
+    for (const Member& m : members()) {
+        const bool mirrors = isMember(m, "zmviMirror"), transposes = isMember(m, "zmviTranspose");
+        if ((!mirrors && !transposes) || m.to.alpha) continue;
+        const int width = 130, height = m.inPlace ? 130 : 67, step = 4096;
+        std::vector<uint8_t> start(size_t(step) * width), there(start.size()), back;
+        for (size_t i = 0; i < start.size(); ++i) start[i] = uint8_t(i * 2654435761u >> 13);
+        for (int axis = 0; axis < (transposes ? 1 : m.inPlace ? 3 : 5); ++axis) {
+            const bool turned = transposes || axis >= AXIS_DIAGONAL_A;
+            const ImageSize first{width, height}, second = turned ? ImageSize{height, width} : first;
+            const auto turn = [&](const std::vector<uint8_t>& from, std::vector<uint8_t>& to, ImageSize size) {
+                if (!m.inPlace && mirrors) return call(m.name.c_str(), from.data(), step, to.data(), step, size, axis);
+                if (!m.inPlace) return call(m.name.c_str(), from.data(), step, to.data(), step, size);
+                to = from;
+                return mirrors ? call(m.name.c_str(), to.data(), step, size, axis)
+                               : call(m.name.c_str(), to.data(), step, size);
+            };
+            back = start;
+            for (int y = 0; y < height; ++y) std::fill_n(back.begin() + y * step, width, uint8_t(0));
+            EXPECT_EQ(turn(start, there, first), STATUS_OK);
+            EXPECT_NE(there, start) << m.name << " about axis " << axis;
+            EXPECT_EQ(turn(there, back, second), STATUS_OK);
+            EXPECT_EQ(back, start) << m.name << " about axis " << axis;
+        }
+    }
+}
+
+TEST(SwapChannels, LooksAtStepsBeforeTheOrder) {
+    uint8_t src[3] = {1, 2, 3}, dst[3] = {7, 8, 9};
+    const int order[3] = {0, 1, 3};
+    const auto swapped = [&](int dstStep) {
+        return call("zmviSwapChannels_8u_C3R", static_cast<const uint8_t*>(src), 3, dst, dstStep, ImageSize{1, 1},
+                    order);
+    };
+    EXPECT_EQ(swapped(0), STATUS_BAD_STEP);
+    EXPECT_EQ(swapped(3), STATUS_BAD_CHANNEL_ORDER);
+    EXPECT_EQ(dst[0] * 100 + dst[1] * 10 + dst[2], 789);
 }
 
 TEST(Turn, InPlaceNeedsRegionsThatKeepTheirShape) {
