@@ -12,7 +12,7 @@ namespace zmv {
 template <class T, int n, int used, bool reversed>
 class ChannelShuffle {
   public:
-    explicit ChannelShuffle(const int* order) {
+    constexpr explicit ChannelShuffle(const int* order) {
         for (int term = 0; term < terms; ++term) {
             // All elements change order when a row is reversed, so that pixels must be turned round for it.
             const auto distance = [&](int c) { return ((reversed ? n - 1 - order[c] : order[c]) - c) * size; };
@@ -95,8 +95,8 @@ class ChannelShuffle {
         return v;
     }
 
-    alignas(64) uint8_t tables_[terms][tableBytes];
-    std::array<Len, terms> offsets_;
+    alignas(64) uint8_t tables_[terms][tableBytes] = {};
+    std::array<Len, terms> offsets_ = {};
 };
 
 // Rows of pixels of n channels, the last pixel first.  The rows do not overlap.
@@ -105,7 +105,7 @@ class RowReverser {
   public:
     void operator()(T* dst, const T* src, Len pixels) const {
         if constexpr (n == 3)
-            order_.row(dst, src, pixels);
+            threes.row(dst, src, pixels);
         else
             reverse(reinterpret_cast<uint8_t*>(dst), reinterpret_cast<const uint8_t*>(src), pixels * pixel);
     }
@@ -114,9 +114,9 @@ class RowReverser {
     static constexpr int pixel = n * int(sizeof(T));
     static constexpr int kept[3] = {0, 1, 2};
     struct None {
-        explicit None(const int*) {}
+        constexpr explicit None(const int*) {}
     };
-    std::conditional_t<n == 3, ChannelShuffle<T, 3, 3, true>, None> order_{kept};
+    static constexpr std::conditional_t<n == 3, ChannelShuffle<T, 3, 3, true>, None> threes{kept};
 
     static void reverse(uint8_t* dst, const uint8_t* src, Len bytes) {
         if (bytes >= width) return vectors<width>(dst, src, bytes);
