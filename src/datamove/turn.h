@@ -120,7 +120,7 @@ class RowReverser {
 
     static void reverse(uint8_t* dst, const uint8_t* src, Len bytes) {
         if (bytes >= width) return vectors<width>(dst, src, bytes);
-        if (bytes >= 16) return vectors<16>(dst, src, bytes);
+        if (pixel == 16 || bytes >= 16) return vectors<16>(dst, src, bytes);
         for (Len at = 0; at < bytes; at += pixel) std::memcpy(dst + at, src + bytes - pixel - at, pixel);
     }
     template <int size>
