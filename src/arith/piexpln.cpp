@@ -1,7 +1,7 @@
-// zmviExp, zmviLn: e to the power of a pixel, and its natural logarithm, in double precision by rules of their own:
-// those of the C library differ from processor to processor.
+// zmviExp, zmviLn: e to the power of a pixel, and its natural logarithm, in double precision by rules of their own.
 #include <bit>
 
+#include "arith/exp.h"
 #include "arith/real.h"
 #include "arith/scaled.h"
 
@@ -10,42 +10,6 @@ namespace {
 
 using D = Vec<double>;
 using U = Vec<uint64_t>;
-
-// ln 2 in two parts: the first has 33 bits, so that its products with the powers of two of all 16-bit pixels are exact.
-constexpr double ln2 = 0x1.62e42fefp-1, ln2Rest = 0x1.473de6af278edp-34;
-
-// sum of c[k] x^k, the highest power first.
-template <size_t n>
-ZMV_INLINE D polynomial(const std::array<double, n>& c, D x) {
-    D sum = fill(c[n - 1]);
-    for (size_t k = n - 1; k-- > 0;) sum = sum * x + c[k];
-    return sum;
-}
-
-// e^x * 2^-factor.
-struct Exp {
-    double factor;
-    explicit Exp(int scaleFactor) : factor(std::clamp(scaleFactor, -200000, 200000)) {}
-
-    // 1 / k!, up to where the next term is below half a unit in the last place for |r| <= ln(2) / 2.
-    static constexpr std::array<double, 14> coefficients = [] {
-        std::array<double, 14> c{1};
-        double factorial = 1;
-        for (int k = 1; k < 14; ++k) factorial *= k, c[size_t(k)] = 1 / factorial;
-        return c;
-    }();
-
-    ZMV_INLINE D operator()(D x) const {
-        constexpr double toInteger = 0x1.8p52;  // added, it leaves whole numbers in the lowest places
-        // x = n ln 2 + r.  Beyond 16 bits all results are zero or infinite.
-        const D within = larger(fill(-70000.0), smaller(fill(70000.0), x));
-        const D n = within * (1 / 0.6931471805599453) + toInteger - toInteger;
-        const D r = within - n * ln2 - n * ln2Rest;
-        const D power = larger(fill(-1000.0), smaller(fill(1000.0), n - factor));
-        const D twoToPower = (D)((U)(power + (toInteger + 1023)) << 52);
-        return polynomial(coefficients, r) * twoToPower;
-    }
-};
 
 // ln x * 2^-factor, for numbers that are not denormal.
 struct Ln {
