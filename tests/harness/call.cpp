@@ -109,13 +109,13 @@ void Case::call() {
 }
 
 std::string Case::nearest(const void* address) const {
-    const auto at = static_cast<const uint8_t*>(address);
+    const auto at = reinterpret_cast<uintptr_t>(address);  // it may be far from all of them
     for (const auto& [name, i] : images)
         for (int plane = 0; plane < std::max(1, i.planes); ++plane) {
             const Block& b = blocks_[i.block[plane]];
-            constexpr int page = 4096;
-            if (at < b.live && b.live - at <= page) return std::to_string(b.live - at) + " bytes before " + name;
-            const uint8_t* end = b.live + b.size();
+            const auto begin = reinterpret_cast<uintptr_t>(b.live), end = begin + b.size();
+            constexpr uintptr_t page = 4096;
+            if (at < begin && begin - at <= page) return std::to_string(begin - at) + " bytes before " + name;
             if (at >= end && at - end < page) return std::to_string(at - end) + " bytes behind " + name;
         }
     std::ostringstream out;
