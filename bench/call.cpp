@@ -66,6 +66,9 @@ double Call::number(const std::string& name) const {
     if (name == "lowerBound") return 50;
     if (name == "upperBound") return 200;
     if (name == "hint") return 0;
+    if (name == "delta" || name == "valLE" || name == "borderValue") return 5;
+    if (name == "valGT") return 255;
+    if (name == "sigma") return 0;
     if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
     if (name == "alphaType") return setting.factor;
     if (name == "axis") return AXIS_VERTICAL;
@@ -91,6 +94,9 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
         name == "pCounts")
         return allocate(32).data();
+        name == "pCounts") return allocate(32).data();
+    if (name == "pSpecSize") return allocate(element).data();
+    if (name == "pSpec") return specObject();
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
     unknown(name);
 }
@@ -140,6 +146,19 @@ void* Call::workBuffer() {
     const auto call = query.bind(query, asked, build);
     call->run(build, build.find(query.name), 1);
     return allocate(call->answer).data();
+}
+
+// Made by the family's own Init, bound and called like any other member; Init itself gets room for it.
+void* Call::specObject() {
+    const std::string name = member.name;
+    const size_t operation = name.find('_');
+    if (operation == std::string::npos) return spec = allocate(1 << 16).data();
+    const Member& init = findMember(name.substr(0, operation) + "Init");
+    Setting asked = setting;
+    asked.about = name;
+    maker = init.bind(init, asked, build);
+    maker->run(build, build.find(init.name), 1);
+    return maker->spec;
 }
 
 // Written here, so that no page is new to a timed call.  The words are ordinary numbers also when read as floats.

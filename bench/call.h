@@ -87,6 +87,7 @@ class Call {
     void* planes(const std::string& name, int64_t element);
     uint8_t* image(const std::string& name, int64_t pixel);
     void* workBuffer();
+    void* specObject();
     Memory& allocate(int64_t size);
     bool has(const std::string& name) const;
     [[noreturn]] void unknown(const std::string& name) const;
@@ -98,5 +99,7 @@ class Call {
     std::map<std::string, int64_t> steps;
     std::deque<std::vector<void*>> planePointers;
     std::deque<Memory> memory;
+    std::unique_ptr<Call> maker;  // of the spec object, and where that is
+    void* spec = nullptr;
     Memory *read = nullptr, *written = nullptr;  // where memcpy works too
 };

@@ -2159,6 +2159,73 @@ ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C3IR(float* srcDst, int srcDstSt
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 
+/* zmviThresholdAdaptiveBoxGetBufferSize: The size in bytes of the work buffer of zmviThresholdAdaptiveBox.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1. 
+   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
+   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
+   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   src/arith/pithresholdadaptive.cpp */
+ZMV_API StatusCode zmviThresholdAdaptiveBoxGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviThresholdAdaptiveBox: dst = valGT where src > mean - delta, elsewhere valLE.  mean is that of the maskSize pixels
+   round the pixel,
+   which is the middle one: masks are square and odd.  The comparison is exact, whatever delta; if that is NaN nothing
+   is above.  A delta above 255 gives valGT, one at or below -255 valLE, and a mask of 1x1 valGT where delta > 0, all
+   without reading src.
+   Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue), each with any
+   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.  buffer has the size that the query
+   reports, at any alignment.
+   In place: the I form, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: a region size below 1. 
+   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize
+   is not square, not positive, or even.
+   STATUS_BAD_BORDER: borderType is none of these.
+   src/arith/pithresholdadaptive.cpp */
+ZMV_API StatusCode zmviThresholdAdaptiveBox_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviThresholdAdaptiveBox_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, uint8_t* buffer);
+
+/* zmviThresholdAdaptiveGaussGetBufferSize: The sizes in bytes of the spec object and of the work buffer of
+   zmviThresholdAdaptiveGauss.
+   Checked in this order.  STATUS_NULL_POINTER: pSpecSize or pBufferSize is null.  STATUS_BAD_SIZE: a region size below
+   1.  STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
+   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
+   STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647; nothing is written.
+   src/arith/pithresholdadaptive.cpp */
+ZMV_API StatusCode zmviThresholdAdaptiveGaussGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pSpecSize, int* pBufferSize);
+
+/* zmviThresholdAdaptiveGaussInit: Makes the spec object of zmviThresholdAdaptiveGauss in pSpec, at any alignment; it
+   may be copied elsewhere.
+   The weights of offsets i from the middle, the same for rows and columns, are exp(-i * i / (2 * sigma * sigma))
+   over the sum of all, as multiples of 2^-22 that differ from it by at most one such unit and add up to 1.  A sigma
+   that is not above 0 stands for 0.15 * (maskSize - 1) + 0.5.
+   The object starts at the first multiple of 8 behind pSpec, whose first byte is the distance: a 64-bit tag, a mode
+   of 1 and the mask size in 32 bits, sigma, 4 bytes of 0, the address of the weights, and these as floats.
+   Checked in this order.  STATUS_NULL_POINTER: pSpec is null.  STATUS_BAD_SIZE: a region size below 1. 
+   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
+   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
+   STATUS_SIZE_EXCEEDS_INT: the object takes more than 2147483647 bytes.
+   src/arith/pithresholdadaptive.cpp */
+ZMV_API StatusCode zmviThresholdAdaptiveGaussInit(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, float sigma, uint8_t* pSpec);
+
+/* zmviThresholdAdaptiveGauss: dst = valGT where src > mean - delta, elsewhere valLE.  mean is that of the maskSize
+   pixels round the pixel,
+   which is the middle one: masks are square and odd.  The comparison is exact, whatever delta; if that is NaN nothing
+   is above.  A delta above 255 gives valGT, one at or below -255 valLE, and a mask of 1x1 valGT where delta > 0, all
+   without reading src.
+   The mean is weighted: a pixel counts with the product of the weights of its column and of its row in pSpec.
+   Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue), each with any
+   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.  buffer has the size that the query
+   reports, at any alignment.
+   In place: the I form, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pSpec or buffer is null.  STATUS_BAD_SIZE: a region size below
+   1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize
+   is not square, not positive, or even.
+   STATUS_CONTEXT_MISMATCH: pSpec holds no object of zmviThresholdAdaptiveGaussInit.
+   STATUS_BAD_MASK_SIZE: it has another mask size.  STATUS_BAD_BORDER: borderType is none of these.
+   src/arith/pithresholdadaptive.cpp */
+ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, const uint8_t* pSpec, uint8_t* buffer);
+
 /* zmviAlphaComp: dst = src1 composited with src2, each pixel by the alphas of both.
    cA, cB: colours of src1 and src2; aA, aB: their alphas; 1: the largest number of the type, 1.0 in 32f.
      alphaType     colour, times its alpha            alpha

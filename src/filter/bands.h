@@ -26,10 +26,14 @@ struct Window {
 
 // The checks that all filters with a border share, in their order.
 inline StatusCode maskSize(ImageSize mask) { return refuse(mask.width < 1 || mask.height < 1, STATUS_BAD_MASK_SIZE); }
-inline StatusCode border(int word) {
+inline StatusCode unmirroredBorder(int word) {
     const int rule = word & 15;
-    const bool known = rule == BORDER_REPL || rule == BORDER_MIRROR || rule == BORDER_CONST;
-    return refuse(word < 0 || word > 255 || !(known || word == BORDER_IN_MEM), STATUS_BAD_BORDER);
+    const bool known = rule == BORDER_REPL || rule == BORDER_CONST || word == BORDER_IN_MEM;
+    return refuse(word < 0 || word > 255 || !known, STATUS_BAD_BORDER);
+}
+inline StatusCode border(int word) {
+    const bool mirrored = word >= 0 && word <= 255 && (word & 15) == BORDER_MIRROR;
+    return mirrored ? StatusCode(STATUS_OK) : unmirroredBorder(word);
 }
 inline StatusCode borderValue(int word, const void* value) {
     return refuse((word & 15) == BORDER_CONST && !value, STATUS_NULL_POINTER);

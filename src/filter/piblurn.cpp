@@ -47,7 +47,6 @@ template <>
 class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
   public:
     static constexpr bool isByteMean = true;
-    static constexpr Len shortWidth = width == 16 ? 7 : 11;  // wider ones are cheaper as running sums
     explicit BoxMean(Window window) : RoundedMean(window), windowWidth_(window.width) {
         const Len area = window.area();
         if (area % 2 == 0 || area == 1 || area > 255 || windowWidth_ > shortWidth) return;

@@ -8,6 +8,7 @@
 #include <limits>
 
 #include "filter/bands.h"
+#include "kernels/simd_convert.h"
 
 namespace zmv {
 
@@ -18,6 +19,8 @@ ZMV_INLINE void withWidth(Len windowWidth, Loop loop) {
     if (windowWidth == width) return loop(std::integral_constant<Len, width>{});
     if constexpr (width > 1) withWidth<width - 1>(windowWidth, loop);
 }
+// The same windows, and some that are wider, are summed directly in 16 bits; beyond, running sums are cheaper.
+constexpr Len shortWidth = width == 16 ? 7 : 11;
 // The sum of terms(0) .. terms(width - 1); the width may be a constant.
 template <class Terms, class Width>
 ZMV_INLINE auto sumOf(Terms terms, Width width) {

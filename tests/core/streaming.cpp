@@ -26,7 +26,7 @@ int64_t bytesPerPixel(const Member& m) {
     const int64_t pixel = bytesOf(m.destination) * std::max(m.from.channels, m.to.channels);
     const bool whole = !m.masked && !m.oneChannel && !m.to.alpha && m.from == m.to;
     if (m.name.rfind("zmviSet_", 0) == 0) return whole ? pixel : 0;
-    if (m.name.rfind("zmviAlpha", 0) == 0) return 0;
+    if (m.name.rfind("zmviAlpha", 0) == 0 || m.find("valGT")) return 0;
     if (m.find("src1")) return whole && m.find("dst") ? 3 * pixel : 0;
     if (m.name.rfind("zmviSqrt_", 0) == 0) return whole && !m.inPlace ? 2 * pixel : 0;
     if (m.name.rfind("zmviThreshold", 0) == 0) return whole ? 2 * pixel : 0;

@@ -28,6 +28,12 @@ int64_t behindBorder(int64_t x, int64_t n, int word, bool memoryBefore, bool mem
     return p < n ? p : period - p;
 }
 
+Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
+    Check check{status, {}};
+    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
+    return check;
+}
+
 }  // namespace test
 
 namespace {
@@ -66,11 +72,6 @@ void answerQuery(Case& c) {
         c.set(c.image("pBufferSize"), 0, 0, 0, int(size));
 }
 
-Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
-    Check check{status, {}};
-    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
-    return check;
-}
 const std::vector<Check> queryRefusals = {
     pointers({"pBufferSize"}),
     sizes({"roiSize"}),

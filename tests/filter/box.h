@@ -1,4 +1,4 @@
-// What the tests of the box filter and of window sums share.
+// What the tests of the box filter, of window sums and of adaptive thresholds share.
 #pragma once
 
 #include <cmath>
@@ -10,6 +10,9 @@ namespace test {
 
 // The size of the work buffer that the contract promises; above INT_MAX it is refused.
 __int128 boxBufferSize(int64_t w, int64_t h, int64_t mw, int64_t mh, Element element, int channels);
+
+// An argument broken by each of these values.
+Check values(const char* argument, StatusCode status, std::vector<int64_t> bad);
 
 // The pixels round (x, y) that a mask covers.
 struct Reach {
