@@ -97,6 +97,7 @@ void* Call::pointer(const std::string& name, int64_t element) {
         name == "pCounts") return allocate(32).data();
     if (name == "pSpecSize") return allocate(element).data();
     if (name == "pSpec") return specObject();
+    if (name == "stepOut" || name == "pBufferSize" || name == "pThreshold") return &answer;
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
     unknown(name);
 }
@@ -128,6 +129,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     steps[name + "Step"] = step;
     shortestRow = std::min(shortestRow, row);
     if (!isRead || pixels == 1) pixels = size.width * size.height;
+    if (name != "mask") pixels = size.width * size.height;  // the destination comes last
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
     if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
         bytes += row * size.height - setting.width * setting.height * pixel;

@@ -140,5 +140,7 @@ template <class... S>
 StatusCode steps(S... step) {
     return refuse((... || (step <= 0)), STATUS_BAD_STEP);
 }
+// Where rows must not overlap.
+inline StatusCode rowStep(Len step, Len rowBytes) { return refuse(step < rowBytes, STATUS_BAD_STEP); }
 
 }  // namespace zmv

@@ -1,0 +1,84 @@
+// Counting bytes: how often each of the 256 occurs, in every channel for itself.
+//
+// A count that goes up again before its last value has settled in memory has to wait for it, and neighbours are often
+// equal.  So neighbouring bytes of a channel go to tables of their own; narrow ones, that many of them stay in the
+// nearest cache, and they move to the totals before one can overflow.
+#pragma once
+
+#include <bit>
+
+#include "kernels/rows.h"
+
+namespace zmv {
+
+// Whether the 64 bytes are one pixel over and over; its size in bits divides 64.
+inline bool onePixel(const uint8_t* bytes, int pixelBits) {
+    const auto first = loadAs<uint64_t>(bytes);
+    if (first != std::rotl(first, pixelBits)) return false;
+    uint64_t other = 0;
+    for (int i = 8; i < 64; i += 8) other |= loadAs<uint64_t>(bytes + i) ^ first;
+    return other == 0;
+}
+
+template <int channels>
+class ByteCounts {
+  public:
+    struct Memory {
+        uint64_t totals[channels][256];
+        uint16_t tables[channels == 3 ? 12 : 8][256];
+    };
+    explicit ByteCounts(Memory& memory) : memory_(memory) { memory = {}; }
+
+    void add(Image<const uint8_t> image, Roi roi) {
+        roi = joinRows(roi, gapless(image, roi.width, channels));
+        for (Len y = 0; y < roi.height; ++y) addRow(image.row(y), roi.width * channels);
+        settle();
+    }
+
+  private:
+    static constexpr int tables = channels == 3 ? 12 : 8, unit = channels == 3 ? 24 : 8;
+    static constexpr Len most = UINT16_MAX;
+
+    void addRow(const uint8_t* row, Len bytes) {
+        while (bytes > 0) {
+            if (room_ < 2) settle();
+            const Len n = std::min(bytes, (room_ - 1) * tables);  // whole pixels
+            count(row, n);
+            room_ -= n / tables + 1;
+            row += n, bytes -= n;
+        }
+    }
+    void count(const uint8_t* p, Len bytes) {
+        const uint8_t* const end = p + bytes;
+        if constexpr (unit == 8)
+            for (; end - p >= 64; p += 64) {
+                if (onePixel(p, 8 * channels))
+                    for (int c = 0; c < channels; ++c) memory_.totals[c][p[c]] += 64 / channels;
+                else
+                    for (int i = 0; i < 64; i += 8) countEight<0>(p + i);
+            }
+        for (; end - p >= unit; p += unit) {
+            countEight<0>(p);
+            if constexpr (unit == 24) countEight<8>(p + 8), countEight<16>(p + 16);
+        }
+        for (int i = 0; p + i < end; ++i) ++memory_.tables[i % tables][p[i]];
+    }
+    // Eight bytes that stand at a distance from the start of a pixel.
+    template <int distance>
+    ZMV_INLINE void countEight(const uint8_t* p) {
+        const auto eight = loadAs<uint64_t>(p);
+#pragma GCC unroll 8
+        for (int i = 0; i < 8; ++i) ++memory_.tables[(distance + i) % tables][uint8_t(eight >> 8 * i)];
+    }
+    void settle() {
+        for (int t = 0; t < tables; ++t)
+            for (int v = 0; v < 256; ++v) memory_.totals[t % channels][v] += memory_.tables[t][v];
+        std::memset(memory_.tables, 0, sizeof memory_.tables);
+        room_ = most;
+    }
+
+    Memory& memory_;
+    Len room_ = most;  // how often each table may still go up
+};
+
+}  // namespace zmv
