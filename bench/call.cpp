@@ -75,6 +75,7 @@ double Call::number(const std::string& name) const {
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
+    if (name == "uniform") return 1;
     unknown(name);
 }
 
@@ -98,12 +99,22 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "pSpecSize") return allocate(element).data();
     if (name == "pSpec") return specObject();
     if (name == "stepOut" || name == "pBufferSize" || name == "pThreshold") return &answer;
+    if (name == "stepOut" || name == "pBufferSize" || name == "pSpecSize" || name == "pThreshold") return &answer;
+    if (name == "pSpec") return specObject();
+    if (name == "pHist") return allocate(bins * element).data();
+    if (name == "nLevels") return levels<int>(bins + 1, 0);
+    if (name == "lowerLevel") return levels<float>(0, 0);
+    if (name == "upperLevel") return levels<float>(bins, 0);
     if (name == "ptr") return nullptr;  // release is timed together with allocation; on its own it gets nothing to do
     unknown(name);
 }
 
 void* Call::planes(const std::string& name, int64_t element) {
     auto& planes = planePointers.emplace_back();
+    if (name == "pHist" || name == "pLevels") {
+        for (int i = 0; i < 4; ++i) planes.push_back(levels<float>(0, 1));
+        return planes.data();
+    }
     for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planes.push_back(image(name, element));
     return planes.data();
 }
@@ -123,6 +134,8 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                 word &= 0x01010101;  // half of the pixels, without any order
             else if (name == "src1")
                 word |= 0x01010101;  // no zero divisor ends the look for one
+            else if (has("pHist") && setting.factor == 1)
+                word = 0x05050505;  // the rows of equal pixels that counting does not like
 
     (isRead ? read : written) = &block;
     reads |= name != "dst";
@@ -161,6 +174,17 @@ void* Call::specObject() {
     maker = init.bind(init, asked, build);
     maker->run(build, build.find(init.name), 1);
     return maker->spec;
+// Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
+void* Call::specObject() {
+    const std::string name = member.name, family = name.substr(0, name.find('_'));
+    if (family.ends_with("Init")) return spec = allocate(headerBytes + 4 * 4 * (bins + 1)).data();
+    const std::string stem = family.ends_with("GetLevels") ? family.substr(0, family.rfind("GetLevels")) : family;
+    const Member& maker = findMember(stem + "UniformInit");
+    Setting asked = setting;
+    asked.about = name;
+    makers.push_back(maker.bind(maker, asked, build));
+    makers.back()->run(build, build.find(maker.name), 1);
+    return makers.back()->spec;
 }
 
 // Written here, so that no page is new to a timed call.  The words are ordinary numbers also when read as floats.

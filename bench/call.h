@@ -21,7 +21,7 @@ struct Build {
 };
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
-// and the scale factor or the compositing operation.
+// and the scale factor, the compositing operation, or 1 for a histogram of equal pixels.
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -88,6 +88,14 @@ class Call {
     uint8_t* image(const std::string& name, int64_t pixel);
     void* workBuffer();
     void* specObject();
+    // Of a histogram: evenly spaced numbers, one a level.
+    static constexpr int bins = 256, headerBytes = 80;
+    template <class T>
+    T* levels(T first, T apart) {
+        T* const numbers = reinterpret_cast<T*>(allocate((bins + 1) * int64_t(sizeof(T))).data());
+        for (int k = 0; k <= bins; ++k) numbers[k] = first + T(k) * apart;
+        return numbers;
+    }
     Memory& allocate(int64_t size);
     bool has(const std::string& name) const;
     [[noreturn]] void unknown(const std::string& name) const;
@@ -101,5 +109,7 @@ class Call {
     std::deque<Memory> memory;
     std::unique_ptr<Call> maker;  // of the spec object, and where that is
     void* spec = nullptr;
+    std::vector<std::unique_ptr<Call>> makers;
+    void* spec = nullptr;                        // what an initialisation made
     Memory *read = nullptr, *written = nullptr;  // where memcpy works too
 };

@@ -140,6 +140,12 @@ template <class... S>
 StatusCode steps(S... step) {
     return refuse((... || (step <= 0)), STATUS_BAD_STEP);
 }
+// The arguments that name an element type and a number of channels.
+inline StatusCode dataType(int code) {
+    const bool known = code == DATATYPE_8U || code == DATATYPE_16U || code == DATATYPE_16S || code == DATATYPE_32F;
+    return refuse(!known, STATUS_BAD_DATATYPE);
+}
+inline StatusCode channelCount(int n) { return refuse(n != 1 && n != 3 && n != 4, STATUS_BAD_CHANNELS); }
 // Where rows must not overlap.
 inline StatusCode rowStep(Len step, Len rowBytes) { return refuse(step < rowBytes, STATUS_BAD_STEP); }
 

@@ -8,6 +8,7 @@
 #pragma once
 
 #include "datamove/border.h"
+#include "kernels/scratch.h"
 
 namespace zmv {
 
@@ -38,22 +39,6 @@ inline StatusCode border(int word) {
 inline StatusCode borderValue(int word, const void* value) {
     return refuse((word & 15) == BORDER_CONST && !value, STATUS_NULL_POINTER);
 }
-
-// Memory of a call, handed out piece by piece from the caller's buffer, whatever its alignment.
-class Scratch {
-  public:
-    explicit Scratch(uint8_t* buffer) : next_(buffer) {}
-    template <class T, int alignment = 1>
-    T* take(Len count) {
-        next_ += -reinterpret_cast<uintptr_t>(next_) % alignment;
-        T* const piece = reinterpret_cast<T*>(next_);
-        next_ += count * Len(sizeof(T));
-        return piece;
-    }
-
-  private:
-    uint8_t* next_;
-};
 
 template <class T, int n>
 class Bands {

@@ -9,18 +9,16 @@ namespace zmv {
 
 // Bytes of the work buffer.  The parts are those of a filter that builds the bands outside the region, keeps a row of
 // sums, and saves rows in place; the driver below has other parts but never needs more.
-inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int dataType, int channels, int* bufferSize) {
-    const bool twoBytes = dataType == DATATYPE_16U || dataType == DATATYPE_16S;
-    const bool known = twoBytes || dataType == DATATYPE_8U || dataType == DATATYPE_32F;
-    if (auto bad = firstOf({pointers(bufferSize), size(roi), maskSize(mask), refuse(!known, STATUS_BAD_DATATYPE),
-                            refuse(channels != 1 && channels != 3 && channels != 4, STATUS_BAD_CHANNELS)}))
+inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int type, int channels, int* bufferSize) {
+    if (auto bad = firstOf({pointers(bufferSize), size(roi), maskSize(mask), dataType(type), channelCount(channels)}))
         return bad;
+    const bool twoBytes = type == DATATYPE_16U || type == DATATYPE_16S;
     using Size = __int128;  // the largest arguments pass 64 bits
     const Window w(mask);
     const Size width = roi.width, height = roi.height, n = channels,
-               element = twoBytes                   ? 2
-                         : dataType == DATATYPE_32F ? 4
-                                                    : 1;
+               element = twoBytes               ? 2
+                         : type == DATATYPE_32F ? 4
+                                                : 1;
     const Size extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
     const Size bands = (w.height == 2 ? extendedWidth : 0) + (w.width == 2 ? extendedHeight : 0) +
                        2 * ((w.width + w.right - 1) * extendedHeight + (w.height + w.bottom - 1) * extendedWidth);

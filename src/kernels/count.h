@@ -27,7 +27,8 @@ class ByteCounts {
         uint64_t totals[channels][256];
         uint16_t tables[channels == 3 ? 12 : 8][256];
     };
-    explicit ByteCounts(Memory& memory) : memory_(memory) { memory = {}; }
+    static constexpr Len bufferSize = sizeof(Memory) + alignof(Memory) - 1;  // at any alignment
+    explicit ByteCounts(Memory& memory) : memory_(memory) { std::memset(&memory, 0, sizeof memory); }
 
     void add(Image<const uint8_t> image, Roi roi) {
         roi = joinRows(roi, gapless(image, roi.width, channels));

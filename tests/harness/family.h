@@ -31,6 +31,7 @@ Check pointers(std::vector<std::string> names);  // arrays of planes too: the ar
 Check sizes(std::vector<std::string> names, StatusCode status = STATUS_BAD_SIZE);
 Check positive(std::vector<std::string> names, StatusCode status);  // plain integers
 Check zeroConstants(StatusCode status);
+Check values(const char* argument, StatusCode status, std::vector<int64_t> bad);
 
 struct Family {
     // Gives every argument its value, and operands their memory, for case number c.seed.

@@ -86,6 +86,7 @@ Parameter parameter(std::string text) {
         p.planes = std::stoi(text.substr(bracket + 1));
         text.erase(bracket);
     }
+    if (text.find("* const*") != text.npos) p.planes = 4;  // as many as another argument says
     p.pointer = p.planes || text.find('*') != text.npos;
     std::vector<std::string> words;
     for (std::string word; std::string part : split(text, ' ')) {

@@ -207,6 +207,12 @@ Check positive(std::vector<std::string> names, StatusCode status) {
     return check;
 }
 
+Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
+    Check check{status, {}};
+    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
+    return check;
+}
+
 Check zeroConstants(StatusCode status) {
     Check check{status, {}};
     for (const int64_t channel : {0, 1, 2, 3}) check.breaks.push_back({"value", Break::channel, channel});

@@ -1,0 +1,23 @@
+// Memory of a call, handed out piece by piece from the caller's buffer, whatever its alignment.
+#pragma once
+
+#include "core/frame.h"
+
+namespace zmv {
+
+class Scratch {
+  public:
+    explicit Scratch(uint8_t* buffer) : next_(buffer) {}
+    template <class T, int alignment = 1>
+    T* take(Len count) {
+        next_ += -reinterpret_cast<uintptr_t>(next_) % alignment;
+        T* const piece = reinterpret_cast<T*>(next_);
+        next_ += count * Len(sizeof(T));
+        return piece;
+    }
+
+  private:
+    uint8_t* next_;
+};
+
+}  // namespace zmv

@@ -1,0 +1,135 @@
+// Counting the pixels of bins: value by value, then bin by bin; or by finding the bin of each pixel.
+#pragma once
+
+#include <limits>
+
+#include "kernels/count.h"
+#include "kernels/scratch.h"
+#include "kernels/simd_convert.h"
+#include "stats/levels.h"
+
+namespace zmv {
+
+// Of 16-bit types, so many pixels are counted value by value; of fewer, as of floats, each one's bin is found, since a
+// table of all values would cost more than it saves.
+constexpr Len manyPixels = 1 << 15;
+using ValueCounts = uint32_t[65536];
+
+// What the work buffer has to hold for a region, all of these pixels or fewer.  levels: of all channels.
+inline Len histogramBufferSize(int type, int channels, Len pixels, Len levels) {
+    if (type == DATATYPE_8U)
+        return channels == 1   ? ByteCounts<1>::bufferSize
+               : channels == 3 ? ByteCounts<3>::bufferSize
+                               : ByteCounts<4>::bufferSize;
+    const Len ofBins = (levels + channels) * Len(sizeof(uint32_t));
+    const Len ofValues = type != DATATYPE_32F && pixels >= manyPixels ? channels * Len(sizeof(ValueCounts)) : 0;
+    return std::max(ofBins, ofValues) + Len(alignof(uint32_t)) - 1;
+}
+
+// Finds the bin of a value.
+template <class L>
+class BinFinder {
+  public:
+    // pixels: how many values are to come.
+    BinFinder(Levels<L> levels, Len pixels) : levels_(levels), last_(levels.count - 1) {
+        if (pixels < levels.count) return;
+        // On the line from the first level to the last, evenly spaced levels lie close to whole numbers.  When each is
+        // nearest to its own, a value between two of them is nearest to one of the two: the line never falls.
+        from_ = double(levels[0]), perLevel_ = last_ / (double(levels[levels.count - 1]) - from_);
+        evenly_ = true;
+        for (int k = 0; k < levels.count && evenly_; ++k) evenly_ = nearest(levels[k]) == k;
+    }
+    // How many levels do not exceed the value: k + 1 in bin k, 0 below all bins and of NaN, all levels above the bins.
+    int levelsUpTo(L value) const {
+        if (evenly_) {
+            const int k = nearest(value);
+            return k + (value >= levels_[k]);
+        }
+        int from = 0;
+        for (int left = levels_.count; left > 1;) {
+            const int half = left / 2;
+            if (value >= levels_[from + half - 1]) from += half;
+            left -= half;
+        }
+        return from + (value >= levels_[from]);
+    }
+
+  private:
+    // The level that the line has nearest to the value; NaN, also that of a line that is none, counts as the first.
+    // A vector's choice is no branch: on which side of the levels a pixel lies nobody can foretell.
+    int nearest(L value) const {
+        using V = Vec<double, 16>;
+        const auto place = fill<double, 16>((double(value) - from_) * perLevel_);
+        const V inside = smaller(larger(place, V{}), fill<double, 16>(last_));
+        return int(inside[0] + 0.5);
+    }
+
+    Levels<L> levels_;
+    double from_ = 0, perLevel_ = 0, last_;
+    bool evenly_ = false;
+};
+
+inline void raise(int& bin, uint64_t count) { bin = int(std::min<uint64_t>(uint64_t(bin) + count, INT32_MAX)); }
+
+// counts: of every value of T, from the smallest on.
+template <class T, class Count>
+void addValues(int* bins, const Count* counts, Levels<int32_t> levels) {
+    using Limits = std::numeric_limits<T>;
+    const auto place = [](int32_t level) {
+        return std::clamp<Len>(level, Limits::min(), Len(Limits::max()) + 1) - Limits::min();
+    };
+    for (int k = 0; k < levels.count - 1; ++k) {
+        uint64_t sum = 0;
+        for (Len v = place(levels[k]), end = place(levels[k + 1]); v < end; ++v) sum += counts[v];
+        raise(bins[k], sum);
+    }
+}
+
+template <int n, class T>
+void countValues(ValueCounts* counts, Image<const T> src, Roi roi) {
+    std::memset(counts, 0, n * sizeof(ValueCounts));
+    roi = joinRows(roi, gapless(src, roi.width, n));
+    constexpr Len block = 64 / sizeof(T) / n * n;
+    const auto at = [&](int c, T value) -> uint32_t& { return counts[c][value - std::numeric_limits<T>::min()]; };
+    for (Len y = 0; y < roi.height; ++y) {
+        const T* row = src.row(y);
+        for (const T* const end = row + roi.width * n; row < end;) {
+            const T* const stop = row + std::min<Len>(block, end - row);
+            if (n != 3 && stop - row == block && onePixel(reinterpret_cast<const uint8_t*>(row), 8 * sizeof(T) * n)) {
+                for (int c = 0; c < n; ++c) at(c, get(row + c)) += block / n;
+                row = stop;
+            }
+            for (; row < stop; row += n)
+                for (int c = 0; c < n; ++c) ++at(c, get(row + c));
+        }
+    }
+}
+
+template <int n, class T>
+void countBins(int* const* bins, Image<const T> src, Roi roi, const uint8_t* spec, Scratch scratch) {
+    using L = LevelOf<T>;
+    struct Channel {
+        BinFinder<L> finder;
+        Len slots;
+        uint32_t* counts;
+    };
+    const auto channel = [&](int c) {
+        const Levels<L> levels(spec, c);
+        const Len slots = Len(levels.count) + 1;
+        auto* const counts = scratch.take<uint32_t, alignof(uint32_t)>(slots);
+        std::fill(counts, counts + slots, 0);
+        return Channel{BinFinder<L>(levels, roi.width * roi.height), slots, counts};
+    };
+    const auto each = [&]<int... c>(std::integer_sequence<int, c...>) { return std::array<Channel, n>{channel(c)...}; };
+    const auto channels = each(std::make_integer_sequence<int, n>{});
+    for (Len y = 0; y < roi.height; ++y)
+        for (int c = 0; c < n; ++c) {
+            const auto& [finder, slots, counts] = channels[c];
+            const T* const row = src.row(y) + c;
+            for (Len x = 0; x < roi.width; ++x) ++counts[finder.levelsUpTo(L(get(row + x * n)))];
+        }
+    for (int c = 0; c < n; ++c)
+        for (Len k = 1; k < channels[c].slots - 1; ++k) raise(bins[c][k - 1], channels[c].counts[k]);
+}
+
+}  // namespace zmv
