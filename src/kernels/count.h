@@ -82,4 +82,50 @@ class ByteCounts {
     Len room_ = most;  // how often each table may still go up
 };
 
+// The same for one channel, where there is memory and there are pixels enough: two neighbours count as one number of 16
+// bits, so that half as many counts go up.
+class BytePairCounts {
+  public:
+    static constexpr Len pays = 1 << 17;  // bytes; fewer do not make up for the table
+    struct Memory {
+        uint64_t totals[1][256];
+        uint8_t pairs[65536];  // the second byte is the upper one
+    };
+    static constexpr Len bufferSize = sizeof(Memory) + alignof(Memory) - 1;
+    explicit BytePairCounts(Memory& memory) : memory_(memory) { std::memset(&memory, 0, sizeof memory); }
+
+    void add(Image<const uint8_t> image, Roi roi) {
+        roi = joinRows(roi, gapless(image, roi.width, 1));
+        for (Len y = 0; y < roi.height; ++y) addRow(image.row(y), roi.width);
+        uint16_t ofFirst[256] = {};
+        for (int second = 0; second < 256; ++second) {
+            uint32_t sum = 0;
+            const uint8_t* const pairs = memory_.pairs + 256 * second;
+            for (int first = 0; first < 256; ++first) sum += pairs[first];
+            for (int first = 0; first < 256; ++first) ofFirst[first] = uint16_t(ofFirst[first] + pairs[first]);
+            memory_.totals[0][second] += sum;
+        }
+        for (int first = 0; first < 256; ++first) memory_.totals[0][first] += ofFirst[first];
+    }
+
+  private:
+    void addRow(const uint8_t* row, Len bytes) {
+        const uint8_t* const end = row + bytes;
+        for (; end - row >= 64; row += 64)
+            if (onePixel(row, 16))
+                addBoth(row, 32);
+            else
+#pragma GCC unroll 32
+                for (int i = 0; i < 64; i += 2) addPair(row + i);
+        for (; end - row >= 2; row += 2) addPair(row);
+        if (row < end) ++memory_.totals[0][*row];
+    }
+    ZMV_INLINE void addPair(const uint8_t* pair) {
+        if (++memory_.pairs[loadAs<uint16_t>(pair)] == 0) addBoth(pair, 256);
+    }
+    void addBoth(const uint8_t* pair, int by) { memory_.totals[0][pair[0]] += by, memory_.totals[0][pair[1]] += by; }
+
+    Memory& memory_;
+};
+
 }  // namespace zmv

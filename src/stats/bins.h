@@ -17,10 +17,11 @@ using ValueCounts = uint32_t[65536];
 
 // What the work buffer has to hold for a region, all of these pixels or fewer.  levels: of all channels.
 inline Len histogramBufferSize(int type, int channels, Len pixels, Len levels) {
-    if (type == DATATYPE_8U)
-        return channels == 1   ? ByteCounts<1>::bufferSize
-               : channels == 3 ? ByteCounts<3>::bufferSize
-                               : ByteCounts<4>::bufferSize;
+    if (type == DATATYPE_8U) {
+        if (channels == 1)
+            return pixels >= BytePairCounts::pays ? BytePairCounts::bufferSize : ByteCounts<1>::bufferSize;
+        return channels == 3 ? ByteCounts<3>::bufferSize : ByteCounts<4>::bufferSize;
+    }
     const Len ofBins = (levels + channels) * Len(sizeof(uint32_t));
     const Len ofValues = type != DATATYPE_32F && pixels >= manyPixels ? channels * Len(sizeof(ValueCounts)) : 0;
     return std::max(ofBins, ofValues) + Len(alignof(uint32_t)) - 1;
@@ -85,8 +86,17 @@ void addValues(int* bins, const Count* counts, Levels<int32_t> levels) {
     }
 }
 
+template <class Counts, int n>
+void countBytes(int* const* bins, Image<const uint8_t> src, Roi roi, const uint8_t* spec, Scratch scratch) {
+    using Memory = typename Counts::Memory;
+    auto& memory = *scratch.take<Memory, alignof(Memory)>(1);
+    Counts(memory).add(src, roi);
+    for (int c = 0; c < n; ++c) addValues<uint8_t>(bins[c], memory.totals[c], Levels<int32_t>(spec, c));
+}
+
 template <int n, class T>
-void countValues(ValueCounts* counts, Image<const T> src, Roi roi) {
+void countValues(int* const* bins, Image<const T> src, Roi roi, const uint8_t* spec, Scratch scratch) {
+    auto* const counts = scratch.take<ValueCounts, alignof(ValueCounts)>(n);
     std::memset(counts, 0, n * sizeof(ValueCounts));
     roi = joinRows(roi, gapless(src, roi.width, n));
     constexpr Len block = 64 / sizeof(T) / n * n;
@@ -103,6 +113,7 @@ void countValues(ValueCounts* counts, Image<const T> src, Roi roi) {
                 for (int c = 0; c < n; ++c) ++at(c, get(row + c));
         }
     }
+    for (int c = 0; c < n; ++c) addValues<T>(bins[c], counts[c], Levels<int32_t>(spec, c));
 }
 
 template <int n, class T>

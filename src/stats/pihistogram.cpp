@@ -114,25 +114,21 @@ StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* bins, const 
     for (int c = 0; c < n; ++c) std::fill(bins[c], bins[c] + header.levelCounts[c] - 1, 0);
 
     const RoundingControl control(RoundingControl::toNearestEven);  // small numbers are not zero
-    const bool byValue = sizeof(T) == 2 && roi.width * roi.height >= manyPixels;
+    const Len pixels = roi.width * roi.height;
     // So many rows at a time that 32 bits count their pixels.
     const Len rows = std::max<Len>(1, INT32_MAX / roi.width);
     for (Len y = 0; y < roi.height; y += rows) {
-        const Image<const T> part = src.at(0, y);
-        const Roi size(roi.width, std::min(rows, roi.height - y));
-        Scratch scratch(buffer);
-        if constexpr (sizeof(T) == 1) {
-            using Memory = typename ByteCounts<n>::Memory;
-            auto& memory = *scratch.take<Memory, alignof(Memory)>(1);
-            ByteCounts<n>(memory).add(part, size);
-            for (int c = 0; c < n; ++c) addValues<T>(bins[c], memory.totals[c], Levels<int32_t>(spec, c));
-        } else if (!byValue) {
-            countBins<n>(bins, part, size, spec, scratch);
-        } else if constexpr (sizeof(T) == 2) {
-            auto* const counts = scratch.take<ValueCounts, alignof(ValueCounts)>(n);
-            countValues<n>(counts, part, size);
-            for (int c = 0; c < n; ++c) addValues<T>(bins[c], counts[c], Levels<int32_t>(spec, c));
-        }
+        const auto with = [&](auto count) {
+            count(bins, src.at(0, y), Roi(roi.width, std::min(rows, roi.height - y)), spec, Scratch(buffer));
+        };
+        if constexpr (sizeof(T) == 1 && n == 1)
+            with(pixels >= BytePairCounts::pays ? countBytes<BytePairCounts, 1> : countBytes<ByteCounts<1>, 1>);
+        else if constexpr (sizeof(T) == 1)
+            with(countBytes<ByteCounts<n>, n>);
+        else if constexpr (sizeof(T) == 2)
+            with(pixels >= manyPixels ? countValues<n, T> : countBins<n, T>);
+        else
+            with(countBins<n, T>);
     }
     return STATUS_OK;
 }
