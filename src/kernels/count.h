@@ -111,6 +111,12 @@ class BytePairCounts {
   private:
     void addRow(const uint8_t* row, Len bytes) {
         const uint8_t* const end = row + bytes;
+        uint8_t* const pairs = memory_.pairs;  // not looked up anew after each byte that is stored
+        uint64_t* const totals = memory_.totals[0];
+        const auto addBoth = [=](const uint8_t* pair, int by) { totals[pair[0]] += by, totals[pair[1]] += by; };
+        const auto addPair = [=](const uint8_t* pair) {
+            if (++pairs[loadAs<uint16_t>(pair)] == 0) addBoth(pair, 256);
+        };
         for (; end - row >= 64; row += 64)
             if (onePixel(row, 16))
                 addBoth(row, 32);
@@ -118,12 +124,8 @@ class BytePairCounts {
 #pragma GCC unroll 32
                 for (int i = 0; i < 64; i += 2) addPair(row + i);
         for (; end - row >= 2; row += 2) addPair(row);
-        if (row < end) ++memory_.totals[0][*row];
+        if (row < end) ++totals[*row];
     }
-    ZMV_INLINE void addPair(const uint8_t* pair) {
-        if (++memory_.pairs[loadAs<uint16_t>(pair)] == 0) addBoth(pair, 256);
-    }
-    void addBoth(const uint8_t* pair, int by) { memory_.totals[0][pair[0]] += by, memory_.totals[0][pair[1]] += by; }
 
     Memory& memory_;
 };
