@@ -177,7 +177,7 @@ void* Call::specObject() {
 // Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
 void* Call::specObject() {
     const std::string name = member.name, family = name.substr(0, name.find('_'));
-    if (family.ends_with("Init")) return spec = allocate(headerBytes + 4 * 4 * (bins + 1)).data();
+    if (family.ends_with("Init")) return spec = allocate(1 << 16).data();
     const std::string stem = family.ends_with("GetLevels") ? family.substr(0, family.rfind("GetLevels")) : family;
     const Member& maker = findMember(stem + "UniformInit");
     Setting asked = setting;

@@ -89,7 +89,7 @@ class Call {
     void* workBuffer();
     void* specObject();
     // Of a histogram: evenly spaced numbers, one a level.
-    static constexpr int bins = 256, headerBytes = 80;
+    static constexpr int bins = 256;
     template <class T>
     T* levels(T first, T apart) {
         T* const numbers = reinterpret_cast<T*>(allocate((bins + 1) * int64_t(sizeof(T))).data());

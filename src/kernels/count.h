@@ -27,7 +27,6 @@ class ByteCounts {
         uint64_t totals[channels][256];
         uint16_t tables[channels == 3 ? 12 : 8][256];
     };
-    static constexpr Len bufferSize = sizeof(Memory) + alignof(Memory) - 1;  // at any alignment
     explicit ByteCounts(Memory& memory) : memory_(memory) { std::memset(&memory, 0, sizeof memory); }
 
     void add(Image<const uint8_t> image, Roi roi) {
@@ -91,7 +90,6 @@ class BytePairCounts {
         uint64_t totals[1][256];
         uint8_t pairs[65536];  // the second byte is the upper one
     };
-    static constexpr Len bufferSize = sizeof(Memory) + alignof(Memory) - 1;
     explicit BytePairCounts(Memory& memory) : memory_(memory) { std::memset(&memory, 0, sizeof memory); }
 
     void add(Image<const uint8_t> image, Roi roi) {

@@ -8,6 +8,11 @@ namespace zmv {
 class Scratch {
   public:
     explicit Scratch(uint8_t* buffer) : next_(buffer) {}
+    // What taking so many aligned T uses at most, wherever the buffer starts.
+    template <class T>
+    static constexpr Len bytesOf(Len count = 1) {
+        return count * Len(sizeof(T)) + Len(alignof(T)) - 1;
+    }
     template <class T, int alignment = 1>
     T* take(Len count) {
         next_ += -reinterpret_cast<uintptr_t>(next_) % alignment;

@@ -18,13 +18,13 @@ using ValueCounts = uint32_t[65536];
 // What the work buffer has to hold for a region, all of these pixels or fewer.  levels: of all channels.
 inline Len histogramBufferSize(int type, int channels, Len pixels, Len levels) {
     if (type == DATATYPE_8U) {
-        if (channels == 1)
-            return pixels >= BytePairCounts::pays ? BytePairCounts::bufferSize : ByteCounts<1>::bufferSize;
-        return channels == 3 ? ByteCounts<3>::bufferSize : ByteCounts<4>::bufferSize;
+        if (channels == 1 && pixels >= BytePairCounts::pays) return Scratch::bytesOf<BytePairCounts::Memory>();
+        if (channels == 1) return Scratch::bytesOf<ByteCounts<1>::Memory>();
+        return channels == 3 ? Scratch::bytesOf<ByteCounts<3>::Memory>() : Scratch::bytesOf<ByteCounts<4>::Memory>();
     }
-    const Len ofBins = (levels + channels) * Len(sizeof(uint32_t));
-    const Len ofValues = type != DATATYPE_32F && pixels >= manyPixels ? channels * Len(sizeof(ValueCounts)) : 0;
-    return std::max(ofBins, ofValues) + Len(alignof(uint32_t)) - 1;
+    const bool byValue = type != DATATYPE_32F && pixels >= manyPixels;
+    return std::max(Scratch::bytesOf<uint32_t>(levels + channels),
+                    Scratch::bytesOf<ValueCounts>(byValue ? channels : 0));
 }
 
 // Finds the bin of a value.
