@@ -93,13 +93,8 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts")
+        name == "pCounts" || name == "pSpecSize" || name == "pThreshold")
         return allocate(32).data();
-        name == "pCounts") return allocate(32).data();
-    if (name == "pSpecSize") return allocate(element).data();
-    if (name == "pSpec") return specObject();
-    if (name == "stepOut" || name == "pBufferSize" || name == "pThreshold") return &answer;
-    if (name == "stepOut" || name == "pBufferSize" || name == "pSpecSize" || name == "pThreshold") return &answer;
     if (name == "pSpec") return specObject();
     if (name == "pHist") return allocate(bins * element).data();
     if (name == "nLevels") return levels<int>(bins + 1, 0);
@@ -141,7 +136,6 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     reads |= name != "dst";
     steps[name + "Step"] = step;
     shortestRow = std::min(shortestRow, row);
-    if (!isRead || pixels == 1) pixels = size.width * size.height;
     if (name != "mask") pixels = size.width * size.height;  // the destination comes last
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
     if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
@@ -163,28 +157,17 @@ void* Call::workBuffer() {
     return allocate(call->answer).data();
 }
 
-// Made by the family's own Init, bound and called like any other member; Init itself gets room for it.
+// Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
 void* Call::specObject() {
-    const std::string name = member.name;
-    const size_t operation = name.find('_');
-    if (operation == std::string::npos) return spec = allocate(1 << 16).data();
-    const Member& init = findMember(name.substr(0, operation) + "Init");
+    const std::string name = member.name, family = name.substr(0, name.find('_'));
+    if (family.ends_with("Init")) return spec = allocate(1 << 16).data();
+    const bool histogram = family.rfind("zmviHistogram", 0) == 0;
+    const Member& init = findMember(histogram ? "zmviHistogramUniformInit" : family + "Init");
     Setting asked = setting;
     asked.about = name;
     maker = init.bind(init, asked, build);
     maker->run(build, build.find(init.name), 1);
     return maker->spec;
-// Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
-void* Call::specObject() {
-    const std::string name = member.name, family = name.substr(0, name.find('_'));
-    if (family.ends_with("Init")) return spec = allocate(1 << 16).data();
-    const std::string stem = family.ends_with("GetLevels") ? family.substr(0, family.rfind("GetLevels")) : family;
-    const Member& maker = findMember(stem + "UniformInit");
-    Setting asked = setting;
-    asked.about = name;
-    makers.push_back(maker.bind(maker, asked, build));
-    makers.back()->run(build, build.find(maker.name), 1);
-    return makers.back()->spec;
 }
 
 // Written here, so that no page is new to a timed call.  The words are ordinary numbers also when read as floats.

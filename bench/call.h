@@ -107,9 +107,7 @@ class Call {
     std::map<std::string, int64_t> steps;
     std::deque<std::vector<void*>> planePointers;
     std::deque<Memory> memory;
-    std::unique_ptr<Call> maker;  // of the spec object, and where that is
-    void* spec = nullptr;
-    std::vector<std::unique_ptr<Call>> makers;
+    std::unique_ptr<Call> maker;                 // of the spec object
     void* spec = nullptr;                        // what an initialisation made
     Memory *read = nullptr, *written = nullptr;  // where memcpy works too
 };

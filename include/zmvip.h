@@ -2159,6 +2159,15 @@ ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_C3IR(float* srcDst, int srcDstSt
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* thresholdLT, const float* valueLT, const float* thresholdGT, const float* valueGT);
 
+/* zmviComputeThreshold_Otsu: *pThreshold = the level that best parts the pixels into those up to it and those above:
+   by Otsu's rule the level of the largest variance between the two classes, of equal ones the smallest.  Classes of
+   less than 2^-23 of the pixels are not considered; when there are no others, as in a flat image, the result is 0.
+   Evaluated in double precision; the caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: src or pThreshold is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: srcStep is less than the width.
+   src/arith/pithresholdotsu.cpp */
+ZMV_API StatusCode zmviComputeThreshold_Otsu_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pThreshold);
+
 /* zmviThresholdAdaptiveBoxGetBufferSize: The size in bytes of the work buffer of zmviThresholdAdaptiveBox.
    Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1. 
    STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
@@ -2936,6 +2945,206 @@ ZMV_API StatusCode zmviCountInRange_8u_AC4R(const uint8_t* src, int srcStep, Ima
 ZMV_API StatusCode zmviCountInRange_32f_C1R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, float lowerBound, float upperBound);
 ZMV_API StatusCode zmviCountInRange_32f_C3R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, const float* lowerBound, const float* upperBound);
 ZMV_API StatusCode zmviCountInRange_32f_AC4R(const float* src, int srcStep, ImageSize roiSize, int* pCounts, const float* lowerBound, const float* upperBound);
+
+/* zmviMirror: dst = src mirrored, all bits kept.  axis:
+     AXIS_HORIZONTAL   the last row comes first
+     AXIS_VERTICAL     the last pixel of each row comes first
+     AXIS_BOTH         both: turned by 180 degrees
+     AXIS_DIAGONAL_A   dst (x, y) = src (y, x); roiSize is that of src, dst is as wide as src is high
+     AXIS_DIAGONAL_B   the same about the other diagonal: dst (x, y) = src (width - 1 - y, height - 1 - x)
+   AC4 moves the first three channels; the fourth of the destination stays as it was.
+   In place: the I forms, or src == dst with equal steps, about axes 0 to 2; other overlap is undefined about these.
+   C4R of 8u, 16u and 32s writes regions that read and write more than the largest cache holds past the caches; about
+   AXIS_HORIZONTAL the others, but not AC4R and in place, do so from 1 MiB on.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_ARGUMENT: about a diagonal, src and dst overlap.
+   STATUS_BAD_AXIS: axis is none of these, or in an I form a diagonal.
+   src/datamove/pimirror.cpp */
+ZMV_API StatusCode zmviMirror_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_AC4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32s_AC4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int axis);
+ZMV_API StatusCode zmviMirror_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, int axis);
+
+/* zmviTranspose: dst (x, y) = src (y, x), all bits kept; dst is as wide as src is high.
+   Any step is accepted, zero and negative ones too.
+   In place: the I forms, or src == dst with equal steps, of a square region; other overlap is undefined.
+   32s_C1R writes regions that read and write more than the largest cache holds past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1, or in
+   place not the same.
+   src/datamove/pitransp8uca.cpp */
+ZMV_API StatusCode zmviTranspose_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32s_C1R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32s_C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32s_C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize srcRoiSize);
+ZMV_API StatusCode zmviTranspose_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviTranspose_32fc_C1R(const Complex32f* src, int srcStep, Complex32f* dst, int dstStep, ImageSize srcRoiSize);
+
+/* zmviSwapChannels: Channel k of dst = channel dstOrder[k] of src, counted from 0, all bits kept.
+     C3R C4R      dstOrder has an entry for each channel
+     AC4R         three entries from 0 to 2; the fourth channel of dst stays as it was
+     C4C3R        three entries from 0 to 3
+     C3C4R        four entries; a channel whose entry is 3 or more stays as it was
+   Any step but zero is accepted, negative ones too.
+   In place: the I forms, or src == dst with equal steps where both have one layout; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or dstOrder is null.  STATUS_BAD_SIZE: width or height below
+   1.  STATUS_BAD_STEP: a step is zero.  STATUS_BAD_CHANNEL_ORDER: an entry is negative, or names no channel of src
+   (in C3C4R negative only).
+   src/datamove/piswapca.cpp */
+ZMV_API StatusCode zmviSwapChannels_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_C3C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_C4C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16s_C3C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16s_C4C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16u_C3C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_16u_C4C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32s_C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32s_C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32s_AC4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32s_C3C4R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32s_C4C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32f_C3C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_32f_C4C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const int* dstOrder);
+ZMV_API StatusCode zmviSwapChannels_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const int* dstOrder);
+
+/* zmviHistogramGetBufferSize: The bytes of a histogram's spec object, and of the work buffer for regions of at most
+   so many pixels.  nLevels: one count a channel.  uniform makes no difference.
+   Checked in this order.  STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
+   STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.  STATUS_SIZE_EXCEEDS_INT: a size exceeds
+   2147483647; nothing is written.
+   src/stats/pihistogram.cpp */
+ZMV_API StatusCode zmviHistogramGetBufferSize(int dataType, ImageSize roiSize, const int* nLevels, int numChannels, int uniform, int* pSpecSize, int* pBufferSize);
+
+/* zmviHistogramInit: Makes the spec object of a histogram from levels of the caller's, an array a channel.
+   A channel with n levels has n - 1 bins; bin k counts the pixels from level k up to, and without, level k + 1.  For
+   integer types levels are cut toward zero to 32-bit integers, those that do not fit to the nearest that does; a bin
+   whose levels become equal stays empty.
+   pSpec has the size that zmviHistogramGetBufferSize reports, at any alignment.  A copy of its bytes is as good as the
+   object itself.  The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.
+   STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   STATUS_NULL_POINTER: the array of a channel is null.
+   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
+   STATUS_BAD_RANGE: levels do not strictly increase, or one is NaN.
+   src/stats/pihistogram.cpp */
+ZMV_API StatusCode zmviHistogramInit(int dataType, const float* const* pLevels, const int* nLevels, int numChannels, uint8_t* pSpec);
+
+/* zmviHistogramUniformInit: Makes the spec object of a histogram with evenly spaced levels.
+   lowerLevel, upperLevel: one number a channel.  Level k is lowerLevel + k * (upperLevel - lowerLevel) / (n - 1),
+   computed in double precision; 32f: rounded to a float.
+   A channel with n levels has n - 1 bins; bin k counts the pixels from level k up to, and without, level k + 1.  For
+   integer types levels are cut toward zero to 32-bit integers, those that do not fit to the nearest that does; a bin
+   whose levels become equal stays empty.
+   pSpec has the size that zmviHistogramGetBufferSize reports, at any alignment.  A copy of its bytes is as good as the
+   object itself.  The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.
+   STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
+   STATUS_BAD_RANGE: a lowerLevel is not below its upperLevel, or one is infinite or NaN.
+   STATUS_WARN_SIZE_CLIPPED, with the object made: levels of an integer type are less than 1 apart.
+   src/stats/pihistogram.cpp */
+ZMV_API StatusCode zmviHistogramUniformInit(int dataType, const float* lowerLevel, const float* upperLevel, const int* nLevels, int numChannels, uint8_t* pSpec);
+
+/* zmviHistogramGetLevels: Copies the levels of a histogram's spec object to arrays of floats, one a channel.
+   Integers beyond 2^24 are rounded to nearest even.
+   Checked in this order.  STATUS_NULL_POINTER: pSpec or pLevels is null.  STATUS_BAD_SPEC_TAG: pSpec is no spec object
+   of a histogram.  STATUS_NULL_POINTER: the array of a channel is null.
+   src/stats/pihistogram.cpp */
+ZMV_API StatusCode zmviHistogramGetLevels(const uint8_t* pSpec, float* const* pLevels);
+
+/* zmviHistogram: pHist[k] = the number of pixels in bin k; C3 and C4: in an array for each channel.
+   Pixels below the first level, at or above the last one, and NaN are not counted; a count beyond 2147483647 is
+   reported as that.  The caller's rounding mode and denormal setting have no influence and are not changed.
+   buffer has the size that zmviHistogramGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: src, pHist, one of its arrays, pSpec or buffer is null.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: srcStep is less than the bytes of a row.
+   STATUS_BAD_SPEC_TAG: pSpec is no spec object of a histogram, or one of another type or channel count.
+   src/stats/pihistogram.cpp */
+ZMV_API StatusCode zmviHistogram_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pHist, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, int* const pHist[3], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, int* const pHist[4], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, int* pHist, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, int* const pHist[3], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, int* const pHist[4], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, int* pHist, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, int* const pHist[3], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, int* const pHist[4], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_32f_C1R(const float* src, int srcStep, ImageSize roiSize, int* pHist, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_32f_C3R(const float* src, int srcStep, ImageSize roiSize, int* const pHist[3], const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviHistogram_32f_C4R(const float* src, int srcStep, ImageSize roiSize, int* const pHist[4], const uint8_t* pSpec, uint8_t* buffer);
 
 #ifdef __cplusplus
 }

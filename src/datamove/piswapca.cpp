@@ -27,7 +27,7 @@ class LayoutChange {
   private:
     using V = Vec<uint8_t>;
     static constexpr int size = int(sizeof(T)), pixelIn = from * size, pixelOut = to * size;
-    static constexpr int step = (shufflesBytes ? width / 4 : width) / size;  // pixels
+    static constexpr int step = (hasByteShuffle ? width / 4 : width) / size;  // pixels
     static constexpr int slack = size == 1 ? 2 : 1;  // pixels that the fourth word of a lane reaches
 
     template <bool all>
@@ -50,7 +50,7 @@ class LayoutChange {
     template <bool all>
     ZMV_INLINE void stepAt(uint8_t* dst, const uint8_t* src, V index, V written) const {
         const auto put = [&](int at, V v) { store(dst + at, all ? v : select(written, v, load(dst + at))); };
-        if constexpr (shufflesBytes) {
+        if constexpr (hasByteShuffle) {
             const V v = shuffleBytes(loadLanes(src, 4 * from), index);
             if constexpr (to == 4)
                 put(0, v);

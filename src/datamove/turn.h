@@ -16,14 +16,14 @@ class ChannelShuffle {
         for (int term = 0; term < terms; ++term) {
             // All elements change order when a row is reversed, so that pixels must be turned round for it.
             const auto distance = [&](int c) { return ((reversed ? n - 1 - order[c] : order[c]) - c) * size; };
-            offsets_[term] = !shufflesBytes ? distance(term) : term == 0 ? -reach : reach;
+            offsets_[term] = !hasByteShuffle ? distance(term) : term == 0 ? -reach : reach;
             for (int at = 0; at < 48; ++at) {
                 const int c = at / size % n, in = at % 16 + (c < used ? distance(c) : 0);
                 const bool first = in + reach < 16;
                 const int index = c >= used || first != (term == 0) ? 128 : first ? in + reach : in - reach;
                 // The elements of a lane, too, get their opposite order by the shuffle.
-                const int to = reversed && shufflesBytes ? at ^ (16 - size) : at;
-                tables_[term][to] = uint8_t(shufflesBytes ? index : c == term ? 255 : 0);
+                const int to = reversed && hasByteShuffle ? at ^ (16 - size) : at;
+                tables_[term][to] = uint8_t(hasByteShuffle ? index : c == term ? 255 : 0);
             }
             for (int at = 48; at < tableBytes; ++at) tables_[term][at] = tables_[term][at - 48];
         }
@@ -56,8 +56,8 @@ class ChannelShuffle {
   private:
     using V = Vec<uint8_t>;
     static constexpr int size = int(sizeof(T));
-    static constexpr bool inLanes = shufflesBytes && n == 4;  // pixels do not reach over the ends of lanes
-    static constexpr int reach = inLanes ? 0 : (n - 1) * size, terms = inLanes ? 1 : shufflesBytes ? 2 : used;
+    static constexpr bool inLanes = hasByteShuffle && n == 4;  // pixels do not reach over the ends of lanes
+    static constexpr int reach = inLanes ? 0 : (n - 1) * size, terms = inLanes ? 1 : hasByteShuffle ? 2 : used;
     static constexpr int tableBytes = 32 + width;
     struct IsUsed {
         static constexpr bool at(int i) { return i % n < used; }
@@ -82,12 +82,13 @@ class ChannelShuffle {
         for (int term = 0; term < terms; ++term) {
             const uint8_t* const at = p + tables.offsets[term];
             const V v = edge ? loadWithin(at, begin, end) : loadAs<V>(at);
-            if constexpr (shufflesBytes)
+            if constexpr (hasByteShuffle)
                 merged |= shuffleBytes(v, tables.of[term]);
             else
                 merged |= v & tables.of[term];
         }
-        if constexpr (reversed) return opposite < shufflesBytes ? 16 : size > (merged);
+        constexpr int unit = hasByteShuffle ? 16 : size;
+        if constexpr (reversed) return opposite<unit>(merged);
         return merged;
     }
     static ZMV_INLINE V blended(V v, [[maybe_unused]] V old) {

@@ -164,7 +164,6 @@ ZMV_INLINE V opposite(V v) {
 
 // Byte i of each lane of the result is byte index[i] of that lane of v.
 #if defined(__SSSE3__)
-constexpr bool shufflesBytes = true;
 template <class V>
 ZMV_INLINE V shuffleBytes(V v, V index) {
 #if defined(__AVX512BW__)
@@ -176,7 +175,6 @@ ZMV_INLINE V shuffleBytes(V v, V index) {
     if constexpr (sizeof(V) == 16) return (V)_mm_shuffle_epi8((__m128i)v, (__m128i)index);
 }
 #else
-constexpr bool shufflesBytes = false;
 template <class V>
 V shuffleBytes(V v, V index);
 #endif

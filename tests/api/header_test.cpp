@@ -115,7 +115,11 @@ TEST_F(Header, ElementTypesAgree) {
                 EXPECT_EQ(p.type, "const uint8_t*") << f.name;
             }
             // One channel: by value.  More: a pointer to one value a channel.
-            if (p.name.rfind("value", 0) == 0 || p.name.rfind("threshold", 0) == 0) {
+            const bool result = p.name == "value" && f.name.rfind("zmviNorm", 0) == 0;
+            if (result) {
+                EXPECT_EQ(p.type, "double*") << f.name;
+            }
+            if (!result && (p.name.rfind("value", 0) == 0 || p.name.rfind("threshold", 0) == 0)) {
                 const bool shift = f.name.find("ShiftC_") != f.name.npos,
                            factor = f.name.find("MulC64f_") != f.name.npos;
                 const std::string constant = shift ? "uint32_t" : factor ? "double" : from;
@@ -146,6 +150,8 @@ TEST_F(Header, LayoutAndModesAgree) {
         if (f.name == "zmviSqrt_32f_C4IR") continue;  // four channels have roots in place only
         std::string twin = f.name;
         twin.erase(twin.rfind("IR"), 1);
+        const bool every = f.name.find("Every_") != f.name.npos;  // most types and layouts in place only
+        if (every && !byName.count(twin)) continue;
         ASSERT_TRUE(byName.count(twin)) << f.name << " has no form with a separate destination";
         EXPECT_EQ(imagesOf(f).size() + 1, imagesOf(*byName[twin]).size()) << f.name;
     }

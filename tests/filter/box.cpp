@@ -28,12 +28,6 @@ int64_t behindBorder(int64_t x, int64_t n, int word, bool memoryBefore, bool mem
     return p < n ? p : period - p;
 }
 
-Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
-    Check check{status, {}};
-    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
-    return check;
-}
-
 }  // namespace test
 
 namespace {

@@ -11,9 +11,6 @@ namespace test {
 // The size of the work buffer that the contract promises; above INT_MAX it is refused.
 __int128 boxBufferSize(int64_t w, int64_t h, int64_t mw, int64_t mh, Element element, int channels);
 
-// An argument broken by each of these values.
-Check values(const char* argument, StatusCode status, std::vector<int64_t> bad);
-
 // The pixels round (x, y) that a mask covers.
 struct Reach {
     int64_t left, top, right, bottom;
