@@ -4,6 +4,7 @@
 // A row is read in groups of vectors, of as many as bring every channel into the same lanes again.
 #pragma once
 
+#include "kernels/rounding.h"
 #include "kernels/rows.h"
 #include "stats/terms.h"
 
@@ -198,8 +199,12 @@ class SumFold {
     PerChannel<__int128> totals_{};
 };
 
-// Rounded once.
-inline double rounded(__int128 sum) { return int64_t(sum) == sum ? double(int64_t(sum)) : double(sum); }
+// Rounded once: what does not fit 64 bits leaves a trace in the last of them, which rounding sees.
+inline double rounded(__int128 sum) {
+    int moved = 0;
+    for (; int64_t(sum) != sum; ++moved) sum = sum >> 1 | (sum & 1);
+    return double(int64_t(sum)) * powerOfTwo(moved);
+}
 
 // ---- Extrema ----
 
