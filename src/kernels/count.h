@@ -23,9 +23,10 @@ inline bool onePixel(const uint8_t* bytes, int pixelBits) {
 template <int channels>
 class ByteCounts {
   public:
+    static constexpr int tableCount = channels == 3 ? 12 : 8;
     struct Memory {
         uint64_t totals[channels][256];
-        uint16_t tables[channels == 3 ? 12 : 8][256];
+        uint16_t tables[tableCount][256];
     };
     explicit ByteCounts(Memory& memory) : memory_(memory) { std::memset(&memory, 0, sizeof memory); }
 
@@ -36,15 +37,15 @@ class ByteCounts {
     }
 
   private:
-    static constexpr int tables = channels == 3 ? 12 : 8, unit = channels == 3 ? 24 : 8;
+    static constexpr int unit = channels == 3 ? 24 : 8;
     static constexpr Len most = UINT16_MAX;
 
     void addRow(const uint8_t* row, Len bytes) {
         while (bytes > 0) {
             if (room_ < 2) settle();
-            const Len n = std::min(bytes, (room_ - 1) * tables);  // whole pixels
+            const Len n = std::min(bytes, (room_ - 1) * tableCount);  // whole pixels
             count(row, n);
-            room_ -= n / tables + 1;
+            room_ -= n / tableCount + 1;
             row += n, bytes -= n;
         }
     }
@@ -61,17 +62,17 @@ class ByteCounts {
             countEight<0>(p);
             if constexpr (unit == 24) countEight<8>(p + 8), countEight<16>(p + 16);
         }
-        for (int i = 0; p + i < end; ++i) ++memory_.tables[i % tables][p[i]];
+        for (int i = 0; p + i < end; ++i) ++memory_.tables[i % tableCount][p[i]];
     }
     // Eight bytes that stand at a distance from the start of a pixel.
     template <int distance>
     ZMV_INLINE void countEight(const uint8_t* p) {
         const auto eight = loadAs<uint64_t>(p);
 #pragma GCC unroll 8
-        for (int i = 0; i < 8; ++i) ++memory_.tables[(distance + i) % tables][uint8_t(eight >> 8 * i)];
+        for (int i = 0; i < 8; ++i) ++memory_.tables[(distance + i) % tableCount][uint8_t(eight >> 8 * i)];
     }
     void settle() {
-        for (int t = 0; t < tables; ++t)
+        for (int t = 0; t < tableCount; ++t)
             for (int v = 0; v < 256; ++v) memory_.totals[t % channels][v] += memory_.tables[t][v];
         std::memset(memory_.tables, 0, sizeof memory_.tables);
         room_ = most;
