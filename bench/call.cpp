@@ -38,6 +38,8 @@ void Call::unknown(const std::string& name) const {
 bool Call::has(const std::string& name) const { return std::find(names.begin(), names.end(), name) != names.end(); }
 
 ImageSizeL Call::area(const std::string& name) const {
+    const bool turnsInPlace = name == "roiSize" && std::string(member.name).rfind("zmviTranspose_", 0) == 0;
+    if (turnsInPlace) return {setting.height, setting.height};
     if (name == "roiSize" || name == "srcRoiSize") return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
     if (name == "maskSize") return {setting.mask, setting.mask};
@@ -82,9 +84,11 @@ double Call::number(const std::string& name) const {
 
 void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "src" || name == "src1" || name == "src2") return image(name, fromChannels * element);
-    if (name == "dst" || name == "srcDst" || name == "dstMin" || name == "dstMax") return image(name, toChannels * element);
+    if (name == "dst" || name == "srcDst" || name == "dstMin" || name == "dstMax")
+        return image(name, toChannels * element);
     if (name == "mask") return image(name, element);
-    if (name == "value" || name == "borderValue" || name.ends_with("Bound") || name.rfind("threshold", 0) == 0 || name.rfind("value", 0) == 0)
+    if (name == "value" || name == "borderValue" || name.ends_with("Bound") || name.rfind("threshold", 0) == 0 ||
+        name.rfind("value", 0) == 0)
         return allocate(4 * element).data();
     if (name == "dstOrder") {
         // Pixels of another size keep the order of their channels, the others get the first and third exchanged.

@@ -2502,18 +2502,18 @@ ZMV_API StatusCode zmviConvert_64f16s_C1RSfs(const double* src, int srcStep, int
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNorm_Inf_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_Inf_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNorm_Inf_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_Inf_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value);
 
 /* zmviNormDiff_Inf: value = the largest magnitude of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2524,18 +2524,18 @@ ZMV_API StatusCode zmviNorm_Inf_32f_C4R(const float* src, int srcStep, ImageSize
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormDiff_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
 
 /* zmviNormRel_Inf: value = the largest magnitude of src1 - src2, over that of src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2549,18 +2549,18 @@ ZMV_API StatusCode zmviNormDiff_Inf_32f_C4R(const float* src1, int src1Step, con
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormRel_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value );
+ZMV_API StatusCode zmviNormRel_Inf_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_Inf_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value);
 
 /* zmviNorm_L1: value = the sum of the magnitudes of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2571,18 +2571,18 @@ ZMV_API StatusCode zmviNormRel_Inf_32f_C4R(const float* src1, int src1Step, cons
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNorm_L1_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L1_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNorm_L1_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNorm_L1_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L1_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L1_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNorm_L1_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNorm_L1_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
 
 /* zmviNormDiff_L1: value = the sum of the magnitudes of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2593,18 +2593,18 @@ ZMV_API StatusCode zmviNorm_L1_32f_C4R(const float* src, int srcStep, ImageSize 
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormDiff_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormDiff_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormDiff_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormDiff_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormDiff_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
 
 /* zmviNormRel_L1: value = the sum of the magnitudes of src1 - src2, over that of src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2618,18 +2618,18 @@ ZMV_API StatusCode zmviNormDiff_L1_32f_C4R(const float* src1, int src1Step, cons
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormRel_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormRel_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormRel_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L1_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L1_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormRel_L1_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormRel_L1_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
 
 /* zmviNorm_L2: value = the square root of the sum of the squares of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2640,18 +2640,18 @@ ZMV_API StatusCode zmviNormRel_L1_32f_C4R(const float* src1, int src1Step, const
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNorm_L2_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNorm_L2_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNorm_L2_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNorm_L2_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNorm_L2_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNorm_L2_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNorm_L2_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNorm_L2_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* value, int hint);
 
 /* zmviNormDiff_L2: value = the square root of the sum of the squares of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2662,18 +2662,18 @@ ZMV_API StatusCode zmviNorm_L2_32f_C4R(const float* src, int srcStep, ImageSize 
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormDiff_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormDiff_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormDiff_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormDiff_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormDiff_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormDiff_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormDiff_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormDiff_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
 
 /* zmviNormRel_L2: value = the square root of the sum of the squares of src1 - src2, over that of src2, for each
    channel.
@@ -2688,18 +2688,18 @@ ZMV_API StatusCode zmviNormDiff_L2_32f_C4R(const float* src1, int src1Step, cons
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
-ZMV_API StatusCode zmviNormRel_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value );
-ZMV_API StatusCode zmviNormRel_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormRel_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
-ZMV_API StatusCode zmviNormRel_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value , int hint);
+ZMV_API StatusCode zmviNormRel_L2_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* value);
+ZMV_API StatusCode zmviNormRel_L2_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormRel_L2_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
+ZMV_API StatusCode zmviNormRel_L2_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* value, int hint);
 
 /* zmviSum: sum = the sum of all pixels, for each channel.
    sum: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2708,18 +2708,18 @@ ZMV_API StatusCode zmviNormRel_L2_32f_C4R(const float* src1, int src1Step, const
    Any step is accepted, zero and negative ones too.
    Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/pisum.cpp */
-ZMV_API StatusCode zmviSum_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum );
-ZMV_API StatusCode zmviSum_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
-ZMV_API StatusCode zmviSum_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
-ZMV_API StatusCode zmviSum_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* sum , int hint);
+ZMV_API StatusCode zmviSum_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* sum);
+ZMV_API StatusCode zmviSum_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* sum, int hint);
+ZMV_API StatusCode zmviSum_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* sum, int hint);
+ZMV_API StatusCode zmviSum_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* sum, int hint);
 
 /* zmviMean: mean = the mean of all pixels, for each channel: their sum over their number.
    mean: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -2728,18 +2728,18 @@ ZMV_API StatusCode zmviSum_32f_C4R(const float* src, int srcStep, ImageSize roiS
    Any step is accepted, zero and negative ones too.
    Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/pisum.cpp */
-ZMV_API StatusCode zmviMean_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean );
-ZMV_API StatusCode zmviMean_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
-ZMV_API StatusCode zmviMean_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
-ZMV_API StatusCode zmviMean_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* mean , int hint);
+ZMV_API StatusCode zmviMean_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, double* mean);
+ZMV_API StatusCode zmviMean_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
+ZMV_API StatusCode zmviMean_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
+ZMV_API StatusCode zmviMean_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
 
 /* zmviMin: pMin = the smallest pixel, for each channel.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
