@@ -38,7 +38,7 @@ void Call::unknown(const std::string& name) const {
 bool Call::has(const std::string& name) const { return std::find(names.begin(), names.end(), name) != names.end(); }
 
 ImageSizeL Call::area(const std::string& name) const {
-    const bool turnsInPlace = name == "roiSize" && std::string(member.name).rfind("zmviTranspose_", 0) == 0;
+    const bool turnsInPlace = std::string(member.name).rfind("zmviTranspose_", 0) == 0 && has("roiSize");
     if (turnsInPlace) return {setting.height, setting.height};
     if (name == "roiSize" || name == "srcRoiSize") return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
