@@ -26,17 +26,16 @@ struct Squared {
 template <class Norm, class Term, class T, class... S>
 PerChannel<double> measured(Roi roi, int channels, int, Image<const T> first, S... more) {
     using U = std::make_unsigned_t<T>;
-    constexpr T zeros[4] = {};
     return withChannels(channels, [&](auto n) {
         PerChannel<double> result{};
         if constexpr (std::is_same_v<Norm, Norm_Inf>) {
             ExtremeFold<n, T, U, Term, Larger> fold(0);
-            foldRegion<n>(fold, roi, zeros, first, more...);
+            foldRegion<n>(fold, roi, Zeros{}, first, more...);
             const auto largest = fold.extremes();
             for (int c = 0; c < n; ++c) result[c] = double(largest[c]);
         } else {
             SumFold<n, T, std::conditional_t<std::is_same_v<Norm, Norm_L1>, Sums<U>, SquareSums<U>>, Term> fold;
-            foldRegion<n>(fold, roi, zeros, first, more...);
+            foldRegion<n>(fold, roi, Zeros{}, first, more...);
             for (int c = 0; c < n; ++c) result[c] = rounded(fold.totals()[c]);
         }
         return result;

@@ -34,16 +34,13 @@ struct OutsideFold : SumFold<n, T, Counts<Bits<T>>, Outside> {
 template <class T>
 StatusCode ownpi_CountInRange(Image<const T> src, Roi roi, Layout layout, int* counts, const T* low, const T* high) {
     if (auto bad = firstOf({pointers(src.data, counts, low, high), steps(src.step), size(roi)})) return bad;
-    T inside[4] = {};
-    for (int c = 0; c < layout.used(); ++c) {
-        inside[c] = get(low + c);
-        if (!(inside[c] <= get(high + c))) return STATUS_BAD_RANGE;  // NaN, too
-    }
-    const RoundingControl control(RoundingControl::toNearestEven);  // small numbers count as what they are
+    for (int c = 0; c < layout.used(); ++c)
+        if (!(get(low + c) <= get(high + c))) return STATUS_BAD_RANGE;  // NaN, too
+    const RoundingControl control(RoundingControl::toNearestEven);      // small numbers count as what they are
     const Pattern lows(bits(low), layout), highs(bits(high), layout);
     withChannels(layout.channels, [&](auto n) {
         OutsideFold<n, T> fold(lows, highs);
-        foldRegion<n>(fold, roi, inside, src);
+        foldRegion<n>(fold, roi, lows, src);
         for (int c = 0; c < layout.used(); ++c) {
             const Len count = roi.width * roi.height - Len(fold.totals()[c]);
             put(counts + c, int(std::min<Len>(count, std::numeric_limits<int>::max())));

@@ -10,7 +10,7 @@ template <class Pick, class T>
 PerChannel<T> extremes(Image<const T> src, Roi roi, int channels) {
     return withChannels(channels, [&](auto n) {
         RankFold<n, Pick, T> fold;
-        foldRegion<n>(fold, roi, src.data, src);
+        foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
         const auto ranks = fold.extremes();
         PerChannel<T> result{};
         for (int c = 0; c < n; ++c) result[c] = fromRank<Pick, T>(ranks[c]);
@@ -33,7 +33,7 @@ StatusCode ownpi_MinMax(Image<const T> src, Roi roi, Layout layout, T* least, T*
     const RoundingControl control(RoundingControl::toNearestEven);
     withChannels(layout.channels, [&](auto n) {
         BothRanksFold<n, T> fold;
-        foldRegion<n>(fold, roi, src.data, src);
+        foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
         const auto lows = fold.least(), highs = fold.most();
         for (int c = 0; c < layout.used(); ++c) {
             put(least + c, fromRank<Smaller, T>(lows[c]));
@@ -135,7 +135,7 @@ class BlockRow {
 
     void foldBlock(Image<const T> src, Roi roi, T* least, T* most) {
         BothRanksFold<1, T> fold;
-        foldRegion<1>(fold, roi, src.data, src);
+        foldRegion<1>(fold, roi, Pattern(bits(src.data), C1), src);
         put(least, fromRank<Smaller, T>(fold.least()[0]));
         put(most, fromRank<Larger, T>(fold.most()[0]));
     }

@@ -19,16 +19,26 @@ struct AboveLowest {
     }
 };
 
+// What counts as nothing.
+template <class T>
+auto nothing([[maybe_unused]] int channels) {
+    if constexpr (std::is_unsigned_v<T>) {
+        return Zeros{};
+    } else {
+        constexpr T lowest = std::numeric_limits<T>::min(), values[4] = {lowest, lowest, lowest, lowest};
+        return Pattern(bits(values), Layout{channels});
+    }
+}
+
 template <class T>
 PerChannel<double> sums(Image<const T> src, Roi roi, int channels, int) {
-    constexpr auto lowest = std::numeric_limits<T>::min();
-    using Term = std::conditional_t<lowest == 0, Itself, AboveLowest>;
-    constexpr T nothing[4] = {lowest, lowest, lowest, lowest};
+    using Term = std::conditional_t<std::is_unsigned_v<T>, Itself, AboveLowest>;
+    constexpr __int128 lowest = std::numeric_limits<T>::min();
     return withChannels(channels, [&](auto n) {
         SumFold<n, T, Sums<std::make_unsigned_t<T>>, Term> fold;
-        foldRegion<n>(fold, roi, nothing, src);
+        foldRegion<n>(fold, roi, nothing<T>(n), src);
         PerChannel<double> result{};
-        for (int c = 0; c < n; ++c) result[c] = rounded(fold.totals()[c] + __int128(lowest) * roi.width * roi.height);
+        for (int c = 0; c < n; ++c) result[c] = rounded(fold.totals()[c] + lowest * roi.width * roi.height);
         return result;
     });
 }

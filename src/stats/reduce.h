@@ -40,8 +40,8 @@ template <class V, int... i>
 ZMV_INLINE V laneNumbers(std::integer_sequence<int, i...>) {
     return V{Element<V>(i)...};
 }
-template <int n, class T>
-ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Pattern& others) {
+template <int n, class T, class Others>
+ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Others& others) {
     using Index = Vec<std::make_signed_t<Bits<T>>>;
     const auto numbers = laneNumbers<Index>(std::make_integer_sequence<int, lanes<T>>{});
     Group<n, Vec<T>> group;
@@ -59,36 +59,33 @@ ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Pattern& other
 
 // Hands the groups of a region to fold.add(), which keeps what it makes of them in fold.vectors, those of all images
 // side by side, and calls fold.settle() in between:
-// after no more than Fold::mostGroups, and at the end.  The last group of a row is filled up with pixels of these
-// values.
-struct WholeGroups {};  // rows need nothing to fill them up
+// after no more than Fold::mostGroups, and at the end.  The last group of a row is filled up with zeros, or with pixels
+// of a pattern.
+struct Zeros {
+    static ZMV_INLINE Vec<uint8_t> at(Len) { return Vec<uint8_t>{}; }
+};
 template <int n, class Fold, class Others, class... S>
-ZMV_INLINE void foldRow(Fold& fold, Len count, [[maybe_unused]] const Others& others, const S*... rows) {
+ZMV_INLINE void foldRow(Fold& fold, Len count, const Others& others, const S*... rows) {
     constexpr Len elements = Fold::groupElements;
     auto vectors = fold.vectors;  // a copy that stays in registers
     Len x = 0;
     for (; x + elements <= count; x += elements) fold.add(vectors, loadGroup<n>(rows + x)...);
-    if constexpr (std::is_same_v<Others, Pattern>)
-        if (x < count) fold.add(vectors, loadGroup<n>(rows + x, count - x, others)...);
+    if (x < count) fold.add(vectors, loadGroup<n>(rows + x, count - x, others)...);
     fold.vectors = vectors;
 }
-template <int n, class Fold, class V, class... S>
-void foldRegion(Fold& fold, Roi roi, const V* values, Image<const S>... images) {
+template <int n, class Fold, class Others, class... S>
+void foldRegion(Fold& fold, Roi roi, const Others& others, Image<const S>... images) {
     constexpr Len elements = Fold::groupElements, most = Fold::mostGroups;
     roi = joinRows(roi, (... && gapless(images, roi.width, n)));
     const Len count = roi.width * n;
-    const auto walk = [&](const auto& others) {
-        Len groups = 0;
-        for (Len y = 0; y < roi.height; ++y)
-            for (Len x = 0; x < count; x += most * elements) {
-                const Len here = std::min(most * elements, count - x), more = (here + elements - 1) / elements;
-                if ((groups += more) > most) fold.settle(), groups = more;
-                foldRow<n>(fold, here, others, (images.row(y) + x)...);
-            }
-        fold.settle();
-    };
-    if (count % elements == 0) return walk(WholeGroups{});
-    walk(Pattern(bits(values), Layout{n}));
+    Len groups = 0;
+    for (Len y = 0; y < roi.height; ++y)
+        for (Len x = 0; x < count; x += most * elements) {
+            const Len here = std::min(most * elements, count - x), more = (here + elements - 1) / elements;
+            if ((groups += more) > most) fold.settle(), groups = more;
+            foldRow<n>(fold, here, others, (images.row(y) + x)...);
+        }
+    fold.settle();
 }
 
 // The elements of a group, each vector those of one channel: of three channels and four the vector's own number.
