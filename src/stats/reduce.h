@@ -26,16 +26,13 @@ ZMV_INLINE auto withChannels(int channels, Part part) {
     return part(std::integral_constant<int, 4>{});
 }
 
-// The group at p.  Of the last one of a row `left` elements are there; the others are what the pattern repeats.
+// The group at p; of the last one of a row `left` elements are there, and the others come from elsewhere.
 template <int n, class T>
 ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p) {
     Group<n, Vec<T>> group;
     unrolled<groupVectors<n>>([&](auto k) { group[k] = load(p + k * lanes<T>); });
     return group;
 }
-struct LaneNumber {
-    static constexpr int at(int i) { return i; }
-};
 template <class V, int... i>
 ZMV_INLINE V laneNumbers(std::integer_sequence<int, i...>) {
     return V{Element<V>(i)...};
@@ -57,10 +54,9 @@ ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Others& others
     return group;
 }
 
-// Hands the groups of a region to fold.add(), which keeps what it makes of them in fold.vectors, those of all images
-// side by side, and calls fold.settle() in between:
-// after no more than Fold::mostGroups, and at the end.  The last group of a row is filled up with zeros, or with pixels
-// of a pattern.
+// Hands the groups of a region, those of all images side by side, to fold.add(), which keeps what it makes of them in
+// fold.vectors, and calls fold.settle() after no more than Fold::mostGroups, and at the end.  The last group of a row is
+// filled up with zeros, or with the pixels of a pattern.
 struct Zeros {
     static ZMV_INLINE Vec<uint8_t> at(Len) { return Vec<uint8_t>{}; }
 };
