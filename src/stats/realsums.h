@@ -18,11 +18,13 @@ constexpr int partialSums = sizeof(R) == 4 ? 48 : 24;
 template <class R>
 using Partials = std::array<Vec<R>, partialSums<R> / lanes<R>>;
 template <class R, class Step, class... T>
-ZMV_INLINE void eachPartial(Len count, Step step, const T*... rows) {
+ZMV_INLINE void eachPartial(Len count, bool far, Step step, const T*... rows) {
     constexpr int vectors = partialSums<R> / lanes<R>;
     Len x = 0;
-    for (; x + partialSums<R> <= count; x += partialSums<R>)
+    for (; x + partialSums<R> <= count; x += partialSums<R>) {
+        if (far) (..., fetchAhead<partialSums<R>* int(sizeof(T))>(rows + x));
         unrolled<vectors>([&](auto k) { step(k, loadWiden<R>(rows + x + k * lanes<R>)...); });
+    }
     unrolled<vectors>([&](auto k) {
         if (const Len left = count - x - k * lanes<R>; left > 0)
             step(k, loadWidenUpTo<R>(rows + x + k * lanes<R>, int(std::min<Len>(left, lanes<R>)))...);
@@ -32,6 +34,7 @@ ZMV_INLINE void eachPartial(Len count, Step step, const T*... rows) {
 template <class R, class Term, class... T>
 PerChannel<double> realSums(Term term, Roi roi, int channels, Image<const T>... images) {
     constexpr int n = partialSums<R>;
+    const bool far = (... || isFar<T>(roi, channels));
     constexpr Len stretch = 49152, settleFrom = 32768;
     static_assert(stretch % n == 0);
     Partials<R> sums{};
@@ -50,7 +53,7 @@ PerChannel<double> realSums(Term term, Roi roi, int channels, Image<const T>... 
             const Len here = std::min(stretch, count - x);
             Partials<R> local = sums;  // in registers
             eachPartial<R>(
-                here, [&](auto k, auto... v) { local[k] += term(v...); }, (images.row(y) + x)...);
+                here, far, [&](auto k, auto... v) { local[k] += term(v...); }, (images.row(y) + x)...);
             sums = local;
             if ((unsettled += here) >= settleFrom) settle();
         }
@@ -66,11 +69,12 @@ PerChannel<double> realSums(Term term, Roi roi, int channels, Image<const T>... 
 template <class R, class Term, class... T>
 PerChannel<double> realLargest(Term term, Roi roi, int channels, Image<const T>... images) {
     constexpr int n = partialSums<R>;
+    const bool far = (... || isFar<T>(roi, channels));
     Partials<R> largest{};
     std::array<Vec<Bits<R>>, partialSums<R> / lanes<R>> anyNan{};
     for (Len y = 0; y < roi.height; ++y)
         eachPartial<R>(
-            roi.width * channels,
+            roi.width * channels, far,
             [&](auto k, auto... v) {
                 const auto t = term(v...);
                 largest[k] = Larger::of(largest[k], t);

@@ -54,24 +54,39 @@ ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Others& others
     return group;
 }
 
+// Whether a region is too large for the nearer caches.  It is fetched ahead then: by itself the processor stops at the
+// end of each page.  A hint, which no memory need stand behind; nearer data are slower with it.
+template <class T>
+bool isFar(Roi roi, int channels) {
+    return roi.width * roi.height * channels * Len(sizeof(T)) >= Len(8) << 20;
+}
+template <int bytes>
+ZMV_INLINE void fetchAhead(const void* p) {
+    for (int at = 0; at < bytes; at += 64) prefetch(static_cast<const uint8_t*>(p) + 2048 + at);
+}
+
 // Hands the groups of a region, those of all images side by side, to fold.add(), which keeps what it makes of them in
-// fold.vectors, and calls fold.settle() after no more than Fold::mostGroups, and at the end.  The last group of a row is
-// filled up with zeros, or with the pixels of a pattern.
+// fold.vectors, and calls fold.settle() after no more than Fold::mostGroups, and at the end.  The last group of a row
+// is filled up with zeros, or with the pixels of a pattern.
 struct Zeros {
     static ZMV_INLINE Vec<uint8_t> at(Len) { return Vec<uint8_t>{}; }
 };
 template <int n, class Fold, class Others, class... S>
-ZMV_INLINE void foldRow(Fold& fold, Len count, const Others& others, const S*... rows) {
+ZMV_INLINE void foldRow(Fold& fold, Len count, const Others& others, bool far, const S*... rows) {
     constexpr Len elements = Fold::groupElements;
     auto vectors = fold.vectors;  // a copy that stays in registers
     Len x = 0;
-    for (; x + elements <= count; x += elements) fold.add(vectors, loadGroup<n>(rows + x)...);
+    for (; x + elements <= count; x += elements) {
+        if (far) (..., fetchAhead<groupVectors<n> * width>(rows + x));
+        fold.add(vectors, loadGroup<n>(rows + x)...);
+    }
     if (x < count) fold.add(vectors, loadGroup<n>(rows + x, count - x, others)...);
     fold.vectors = vectors;
 }
 template <int n, class Fold, class Others, class... S>
 void foldRegion(Fold& fold, Roi roi, const Others& others, Image<const S>... images) {
     constexpr Len elements = Fold::groupElements, most = Fold::mostGroups;
+    const bool far = (... || isFar<S>(roi, n));
     roi = joinRows(roi, (... && gapless(images, roi.width, n)));
     const Len count = roi.width * n;
     Len groups = 0;
@@ -79,7 +94,7 @@ void foldRegion(Fold& fold, Roi roi, const Others& others, Image<const S>... ima
         for (Len x = 0; x < count; x += most * elements) {
             const Len here = std::min(most * elements, count - x), more = (here + elements - 1) / elements;
             if ((groups += more) > most) fold.settle(), groups = more;
-            foldRow<n>(fold, here, others, (images.row(y) + x)...);
+            foldRow<n>(fold, here, others, far, (images.row(y) + x)...);
         }
     fold.settle();
 }
