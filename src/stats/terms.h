@@ -30,10 +30,12 @@ ZMV_INLINE V withoutSign(V v) {
 struct Magnitude {
     template <class V>
     ZMV_INLINE auto operator()(V v) const {
-        if constexpr (std::is_floating_point_v<Element<V>>)
+        if constexpr (std::is_floating_point_v<Element<V>>) {
             return withoutSign(v);
-        else
-            return asUnsigned(v < 0 ? -v : v);
+        } else {
+            const auto u = asUnsigned(v);  // which holds the smallest number's size
+            return v < 0 ? -u : u;
+        }
     }
 };
 struct Distance {
