@@ -36,6 +36,6 @@ int main(int argc, char** argv) {
     publish(mirrored, argv[2], "mirrored", mirroring, "Mirrored", "zmviMirror about the vertical axis.");
     publish(turned, argv[2], "turned", turning, "Turned",
             "zmviTranspose, then zmviMirror in place: a quarter turn to the right.");
-    publish(swapped, argv[2], "swapped", swapping, "Red and blue exchanged",
-            "zmviSwapChannels with the order 2, 1, 0.");
+    publish(swapped, argv[2], "exchanged", swapping, "Red and blue exchanged",
+            "zmviSwapChannels: channel 2 first, then 1 and 0.");
 }

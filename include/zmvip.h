@@ -1903,7 +1903,8 @@ ZMV_API StatusCode zmviNot_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst
 ZMV_API StatusCode zmviNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 
 /* zmviThreshold: cmpOp CMP_GREATER: dst = min(src, threshold).  CMP_LESS: dst = max(src, threshold).
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1937,7 +1938,8 @@ ZMV_API StatusCode zmviThreshold_32f_AC4R(const float* src, int srcStep, float* 
 ZMV_API StatusCode zmviThreshold_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, int cmpOp);
 
 /* zmviThreshold_GT: dst = min(src, threshold).
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1971,7 +1973,8 @@ ZMV_API StatusCode zmviThreshold_GT_32f_AC4R(const float* src, int srcStep, floa
 ZMV_API StatusCode zmviThreshold_GT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold);
 
 /* zmviThreshold_LT: dst = max(src, threshold).
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -2006,7 +2009,8 @@ ZMV_API StatusCode zmviThreshold_LT_32f_AC4IR(float* srcDst, int srcDstStep, Ima
 
 /* zmviThreshold_Val: dst = value where src > threshold (cmpOp CMP_GREATER) or src < threshold (CMP_LESS), elsewhere
    src.
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -2041,7 +2045,8 @@ ZMV_API StatusCode zmviThreshold_Val_32f_AC4R(const float* src, int srcStep, flo
 ZMV_API StatusCode zmviThreshold_Val_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value, int cmpOp);
 
 /* zmviThreshold_GTVal: dst = value where src > threshold, elsewhere src.
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -2083,7 +2088,8 @@ ZMV_API StatusCode zmviThreshold_GTVal_32f_AC4R(const float* src, int srcStep, f
 ZMV_API StatusCode zmviThreshold_GTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
 
 /* zmviThreshold_LTVal: dst = value where src < threshold, elsewhere src.
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -2125,7 +2131,8 @@ ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4R(const float* src, int srcStep, f
 ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
 
 /* zmviThreshold_LTValGTVal: dst = valueLT where src < thresholdLT, valueGT where src > thresholdGT, elsewhere src.
-   A pixel equal to a threshold stays as it is, and so does NaN.
+   A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
+   whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -2248,7 +2255,7 @@ ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1IR(uint8_t* srcDst, int srcDs
    or aB behind a colour, and at most 1.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
-   rounding mode; a colour whose weight is zero has no influence, be it infinite or NaN.
+   rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
    Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
    AC1: images of alphas alone.  AC4: the fourth channel is alpha, of dst too.  AP4: the fourth plane is.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
@@ -2293,7 +2300,7 @@ ZMV_API StatusCode zmviAlphaComp_16u_AP4IR(const uint16_t* const src1[4], int sr
    or aB behind a colour, and at most 1.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
-   rounding mode; a colour whose weight is zero has no influence, be it infinite or NaN.
+   rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
    Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
    Only colours are written.  AC4 and AP4 leave the fourth channel or plane of the destination as it was.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.

@@ -70,7 +70,9 @@ class BinFinder {
     bool evenly_ = false;
 };
 
-inline void raise(int& bin, uint64_t count) { bin = int(std::min<uint64_t>(uint64_t(bin) + count, INT32_MAX)); }
+inline void raise(int* bin, uint64_t count) {
+    put(bin, int(std::min<uint64_t>(uint64_t(get(bin)) + count, INT32_MAX)));
+}
 
 // counts: of every value of T, from the smallest on.
 template <class T, class Count>
@@ -82,7 +84,7 @@ void addValues(int* bins, const Count* counts, Levels<int32_t> levels) {
     for (int k = 0; k < levels.count - 1; ++k) {
         uint64_t sum = 0;
         for (Len v = place(levels[k]), end = place(levels[k + 1]); v < end; ++v) sum += counts[v];
-        raise(bins[k], sum);
+        raise(bins + k, sum);
     }
 }
 
@@ -140,7 +142,7 @@ void countBins(int* const* bins, Image<const T> src, Roi roi, const uint8_t* spe
             for (Len x = 0; x < roi.width; ++x) ++counts[finder.levelsUpTo(L(get(row + x * n)))];
         }
     for (int c = 0; c < n; ++c)
-        for (Len k = 1; k < channels[c].slots - 1; ++k) raise(bins[c][k - 1], channels[c].counts[k]);
+        for (Len k = 1; k < channels[c].slots - 1; ++k) raise(bins[c] + k - 1, channels[c].counts[k]);
 }
 
 }  // namespace zmv

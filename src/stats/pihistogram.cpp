@@ -1,6 +1,4 @@
 // zmviHistogram: how many pixels lie between which levels.
-#include <numeric>
-
 #include "kernels/rounding.h"
 #include "stats/bins.h"
 
@@ -9,7 +7,7 @@ namespace {
 
 StatusCode levelCounts(const int* counts, int channels) {
     for (int c = 0; c < channels; ++c)
-        if (counts[c] < 2) return STATUS_BAD_LEVEL_COUNT;
+        if (get(counts + c) < 2) return STATUS_BAD_LEVEL_COUNT;
     return STATUS_OK;
 }
 
@@ -23,7 +21,7 @@ HistogramSpec headerOf(int type, const int* counts, int channels, const uint8_t*
     header.dataType = type;
     header.channels = channels;
     std::memcpy(header.tag, header.itsTag, sizeof header.tag);
-    for (int c = 0; c < 4; ++c) header.levelCounts[c] = c < channels ? counts[c] : 0;
+    for (int c = 0; c < 4; ++c) header.levelCounts[c] = c < channels ? get(counts + c) : 0;
     for (int c = 0; c < channels; ++c) header.levels[c] = spec + header.offset(c);
     return header;
 }
@@ -47,8 +45,8 @@ StatusCode ownpi_HistogramInit(int type, const float* const* levels, const int* 
     const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
     for (int c = 0; c < channels; ++c)
         for (Len k = 1; k < counts[c]; ++k)
-            if (!(levels[c][k - 1] < levels[c][k])) return STATUS_BAD_RANGE;
-    write(spec, headerOf(type, counts, channels, spec), [&](int c, Len k) { return double(levels[c][k]); });
+            if (!(get(levels[c] + k - 1) < get(levels[c] + k))) return STATUS_BAD_RANGE;
+    write(spec, headerOf(type, counts, channels, spec), [&](int c, Len k) { return double(get(levels[c] + k)); });
     return STATUS_OK;
 }
 
@@ -60,17 +58,18 @@ StatusCode ownpi_HistogramUniformInit(int type, const float* lower, const float*
     const RoundingControl control(RoundingControl::toNearestEven);
     HistogramSpec header = headerOf(type, counts, channels, spec);
     header.uniform = 1;
-    double steps[4];
+    double from[4], to[4], steps[4];
     bool narrow = false;
     for (int c = 0; c < channels; ++c) {
-        if (!(lower[c] < upper[c] && lower[c] >= -most && upper[c] <= most)) return STATUS_BAD_RANGE;
-        steps[c] = (double(upper[c]) - lower[c]) / (counts[c] - 1);
+        from[c] = get(lower + c), to[c] = get(upper + c);
+        if (!(from[c] < to[c] && from[c] >= -most && to[c] <= most)) return STATUS_BAD_RANGE;
+        steps[c] = (to[c] - from[c]) / (header.levelCounts[c] - 1);
         header.levelSteps[c] = float(steps[c]);
         narrow |= steps[c] < 1;
     }
     write(spec, header, [&](int c, Len k) {
-        if (k == 0) return double(lower[c]);
-        return k == counts[c] - 1 ? double(upper[c]) : double(k) * steps[c] + lower[c];
+        if (k == 0) return from[c];
+        return k == header.levelCounts[c] - 1 ? to[c] : double(k) * steps[c] + from[c];
     });
     return narrow && type != DATATYPE_32F ? STATUS_WARN_SIZE_CLIPPED : STATUS_OK;
 }
@@ -82,7 +81,7 @@ StatusCode ownpi_HistogramGetLevels(const uint8_t* spec, float* const* levels) {
     if (auto bad = planePointers(levels, header.channels)) return bad;
     const RoundingControl control(RoundingControl::toNearestEven);
     const auto copy = [](auto from, float* to) {
-        for (int k = 0; k < from.count; ++k) to[k] = float(from[k]);
+        for (int k = 0; k < from.count; ++k) put(to + k, float(from[k]));
     };
     for (int c = 0; c < header.channels; ++c)
         if (header.dataType == DATATYPE_32F)
@@ -96,11 +95,12 @@ StatusCode ownpi_HistogramGetBufferSize(int type, ImageSize roi, const int* coun
                                         int* specSize, int* bufferSize) {
     if (auto bad = firstOf({pointers(counts, specSize, bufferSize), size(roi), channelCount(channels)})) return bad;
     if (auto bad = firstOf({levelCounts(counts, channels), dataType(type)})) return bad;
-    const Len levels = std::accumulate(counts, counts + channels, Len(0));
+    Len levels = 0;
+    for (int c = 0; c < channels; ++c) levels += get(counts + c);
     const Len spec = Len(sizeof(HistogramSpec)) + 4 * levels;
     const Len buffer = histogramBufferSize(type, channels, Len(roi.width) * roi.height, levels);
     if (std::max(spec, buffer) > INT32_MAX) return STATUS_SIZE_EXCEEDS_INT;
-    *specSize = int(spec), *bufferSize = int(buffer);
+    put(specSize, int(spec)), put(bufferSize, int(buffer));
     return STATUS_OK;
 }
 
@@ -111,7 +111,7 @@ StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* bins, const 
         return bad;
     const auto header = loadAs<HistogramSpec>(spec);
     if (!header.isFor(dataTypeOf<T>, n)) return STATUS_BAD_SPEC_TAG;
-    for (int c = 0; c < n; ++c) std::fill(bins[c], bins[c] + header.levelCounts[c] - 1, 0);
+    for (int c = 0; c < n; ++c) std::memset(bins[c], 0, sizeof(int) * size_t(header.levelCounts[c] - 1));
 
     const RoundingControl control(RoundingControl::toNearestEven);  // small numbers are not zero
     const Len pixels = roi.width * roi.height;
