@@ -39,7 +39,7 @@ class RowExchanger {
     }
 
   private:
-    static constexpr Len pixel = layout.channels * Len(sizeof(T)), block = 48 * width / pixel;
+    static constexpr Len pixel = layout.channels * Len(sizeof(T)), block = 48 * vectorBytes / pixel;
     bool reversed_;
     RowReverser<T, layout.channels> reverse_;
     Pattern moved_ = Pattern::mask<T>(layout.used(), layout.channels);

@@ -27,7 +27,7 @@ class LayoutChange {
   private:
     using V = Vec<uint8_t>;
     static constexpr int size = int(sizeof(T)), pixelIn = from * size, pixelOut = to * size;
-    static constexpr int step = (hasByteShuffle ? width / 4 : width) / size;  // pixels
+    static constexpr int step = (hasByteShuffle ? vectorBytes / 4 : vectorBytes) / size;  // pixels
     static constexpr int slack = size == 1 ? 2 : 1;  // pixels that the fourth word of a lane reaches
 
     template <bool all>
@@ -61,7 +61,7 @@ class LayoutChange {
             Block<Vec<T>, to> chosen;
             for (int c = 0; c < to; ++c) chosen[c] = planes[size_t(order_[c])];
             chosen = pixelsOf(chosen);
-            for (int i = 0; i < to; ++i) put(i * width, (V)chosen[i]);
+            for (int i = 0; i < to; ++i) put(i * vectorBytes, (V)chosen[i]);
         }
     }
 
@@ -73,7 +73,7 @@ class LayoutChange {
 // A row onto itself goes through a block that stays in the nearest cache.
 template <int n, class Order, class T>
 void reorderInPlace(const Order& order, T* row, Len pixels) {
-    constexpr Len block = 48 * width / (n * Len(sizeof(T)));
+    constexpr Len block = 48 * vectorBytes / (n * Len(sizeof(T)));
     T copy[block * n];
     for (Len x = 0; x < pixels; x += block) {
         const Len count = std::min(block, pixels - x);

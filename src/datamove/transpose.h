@@ -28,9 +28,9 @@ class Transposer {
         if constexpr (inVectors) {
             if (roi.width >= across && roi.height >= lineRows) {
                 const bool aligned = (reinterpret_cast<uintptr_t>(dst.data) | uintptr_t(dst.step)) % line == 0;
-                if (!aligned) return tiles<std::min(width, line / 2), lineRows>(src, dst, roi);
-                if (!pastCache) return tiles<width, lineRows>(src, dst, roi);
-                tiles<width, lineRows, asks>(src, dst, roi);
+                if (!aligned) return tiles<std::min(vectorBytes, line / 2), lineRows>(src, dst, roi);
+                if (!pastCache) return tiles<vectorBytes, lineRows>(src, dst, roi);
+                tiles<vectorBytes, lineRows, asks>(src, dst, roi);
                 return fence();
             }
             if (roi.width >= across && roi.height >= across) return tiles<16, across>(src, dst, roi);
@@ -61,7 +61,7 @@ class Transposer {
     // Lines leave for the memory whole, one after the other.
     static ZMV_INLINE void streamLines(const uint8_t* lines, uint8_t* dst, Len dstStep) {
         for (int i = 0; i < across; ++i)
-            for (int at = 0; at < line; at += width)
+            for (int at = 0; at < line; at += vectorBytes)
                 stream(dst + i * dstStep + at, loadAs<Vec<uint8_t>>(lines + i * line + at));
     }
 

@@ -32,12 +32,12 @@ class ChannelShuffle {
         const auto to = reinterpret_cast<uint8_t*>(dst);
         const auto from = reinterpret_cast<const uint8_t*>(src);
         const Len bytes = pixels * n * size;
-        const auto target = [&](Len at) { return to + (reversed ? bytes - width - at : at); };
-        if (bytes < width) {
-            uint8_t around[3 * width] = {};
-            const Len first = reversed ? bytes - width : 0;
-            std::memcpy(around + width, from, size_t(bytes));
-            const V v = gathered<false>(tables(reversed ? -1 : 0), around + width + first, from, from);
+        const auto target = [&](Len at) { return to + (reversed ? bytes - vectorBytes - at : at); };
+        if (bytes < vectorBytes) {
+            uint8_t around[3 * vectorBytes] = {};
+            const Len first = reversed ? bytes - vectorBytes : 0;
+            std::memcpy(around + vectorBytes, from, size_t(bytes));
+            const V v = gathered<false>(tables(reversed ? -1 : 0), around + vectorBytes + first, from, from);
             return storePart(to, blended(v, loadPart(to, int(bytes))), int(bytes));
         }
         const auto edge = [&](Len at, const Tables& tables) __attribute__((always_inline)) {
@@ -45,12 +45,12 @@ class ChannelShuffle {
         };
         edge(0, tables(0));
         const Tables period[3] = {tables(1), tables(2), tables(3)};
-        Len done = eachVector(width, bytes - reach, [&](Len at, auto k) {
+        Len done = eachVector(vectorBytes, bytes - reach, [&](Len at, auto k) {
             const V v = gathered<false>(period[k], from + at, from, from);
             store(target(at), blended(v, used < n ? load(target(at)) : v));
         });
-        if (bytes - done > width) edge(done, tables(done / width)), done += width;
-        if (bytes > done) edge(bytes - width, tables(-1));
+        if (bytes - done > vectorBytes) edge(done, tables(done / vectorBytes)), done += vectorBytes;
+        if (bytes > done) edge(bytes - vectorBytes, tables(-1));
     }
 
   private:
@@ -58,7 +58,7 @@ class ChannelShuffle {
     static constexpr int size = int(sizeof(T));
     static constexpr bool inLanes = hasByteShuffle && n == 4;  // pixels do not reach over the ends of lanes
     static constexpr int reach = inLanes ? 0 : (n - 1) * size, terms = inLanes ? 1 : hasByteShuffle ? 2 : used;
-    static constexpr int tableBytes = 32 + width;
+    static constexpr int tableBytes = 32 + vectorBytes;
     struct IsUsed {
         static constexpr bool at(int i) { return i % n < used; }
     };
@@ -69,7 +69,7 @@ class ChannelShuffle {
     // Of a vector so many vectors behind the start of the row, or before its end.  Rows are whole pixels, and every
     // third lane begins with the same channel.
     ZMV_INLINE Tables tables(Len vector) const {
-        const Len lane = vector * (width / 16) % 3;
+        const Len lane = vector * (vectorBytes / 16) % 3;
         Tables result;
         for (int term = 0; term < terms; ++term)
             result.of[term] = load(tables_[term] + 16 * (lane < 0 ? lane + 3 : lane));
@@ -120,7 +120,7 @@ class RowReverser {
     static constexpr std::conditional_t<n == 3, ChannelShuffle<T, 3, 3, true>, None> threes{kept};
 
     static void reverse(uint8_t* dst, const uint8_t* src, Len bytes) {
-        if (bytes >= width) return vectors<width>(dst, src, bytes);
+        if (bytes >= vectorBytes) return vectors<vectorBytes>(dst, src, bytes);
         if (pixel == 16 || bytes >= 16) return vectors<16>(dst, src, bytes);
         for (Len at = 0; at < bytes; at += pixel) std::memcpy(dst + at, src + bytes - pixel - at, pixel);
     }

@@ -36,8 +36,8 @@ class Mean3x3 {
           dst_(dst),
           roi_(roi),
           bytes_(roi.width * n),
-          head_((bytes_ - 1) % width + 1),
-          vectors_((bytes_ - 1) / width + 1),
+          head_((bytes_ - 1) % vectorBytes + 1),
+          vectors_((bytes_ - 1) / vectorBytes + 1),
           left_(bands.column(-1)),
           right_(bands.column(roi.width)) {}
 
@@ -45,24 +45,23 @@ class Mean3x3 {
         // Rows of more than a few vectors come with a buffer of many times what the line takes.
         constexpr int few = 8;
         Triples ours[few][2];
-        const auto line =
-            vectors_ <= few
-                ? ours
-                : reinterpret_cast<Triples(*)[2]>(scratch.take<Vec<uint8_t>, width>(4 * std::min(vectors_, strip)));
+        const auto line = vectors_ <= few ? ours
+                                          : reinterpret_cast<Triples(*)[2]>(
+                                                scratch.take<Vec<uint8_t>, vectorBytes>(4 * std::min(vectors_, strip)));
         for (Len from = 0; from < vectors_; from += strip) runStrip(line, from, std::min(vectors_, from + strip));
     }
 
   private:
     // Columns are worked in strips of so many vectors, rows in batches: their ends, with what the border makes of the
     // pixels beyond, are laid out well before they are read, since a load that spans recent stores waits for them.
-    static constexpr Len strip = 4096 / width;
+    static constexpr Len strip = 4096 / vectorBytes;
     static constexpr int batch = 16;
     struct Ends {
         const uint8_t* row;
         // Of rows up to two vectors, all of it, with a pixel more on both sides.  Else the first vector with a pixel
         // before it, and the last one with a pixel behind it.
-        uint8_t bytes[4 * width];
-        static constexpr int last = 2 * width;
+        uint8_t bytes[4 * vectorBytes];
+        static constexpr int last = 2 * vectorBytes;
     };
 
     void runStrip(Triples (*line)[2], Len from, Len to) const {
@@ -102,26 +101,27 @@ class Mean3x3 {
         const Neighbours p{first - n, first, first + n}, q{second - n, second, second + n};
         if (to0)
             for (Len i = 0; i < count; ++i) {
-                const Len x = i * width;
-                mix(above[i], p + x, q + x, to0 + x, to1 + x, width);
+                const Len x = i * vectorBytes;
+                mix(above[i], p + x, q + x, to0 + x, to1 + x, vectorBytes);
             }
         else
-            for (Len i = 0; i < count; ++i) mix(above[i], p + i * width, q + i * width, nullptr, nullptr, width);
+            for (Len i = 0; i < count; ++i)
+                mix(above[i], p + i * vectorBytes, q + i * vectorBytes, nullptr, nullptr, vectorBytes);
     }
 
     void eachOfRow(Triples (*line)[2], Len from, Len to, const Ends& first, const Ends& second, uint8_t* to0,
                    uint8_t* to1) const {
-        const int bytes = int(std::min<Len>(width, bytes_));
+        const int bytes = int(std::min<Len>(vectorBytes, bytes_));
         const auto inEnds = [&](Len i, Len x) __attribute__((always_inline)) {
             mix(line[i - from], neighbours(first, i, x), neighbours(second, i, x), at(to0, x), at(to1, x), bytes);
         };
         Len i = from;
         if (i == 0) inEnds(0, 0), ++i;
         if (i == 1 && i < vectors_ - 1 && head_ < n) inEnds(1, head_), ++i;
-        const Len end = std::min(to, vectors_ - 1), x = head_ + (i - 1) * width;
+        const Len end = std::min(to, vectors_ - 1), x = head_ + (i - 1) * vectorBytes;
         if (i < end)
             mixVectors(line + (i - from), first.row + x, second.row + x, at(to0, x), at(to1, x), end - i), i = end;
-        if (i < to) inEnds(i, bytes_ - width);
+        if (i < to) inEnds(i, bytes_ - vectorBytes);
     }
     static uint8_t* at(uint8_t* row, Len x) { return row ? row + x : nullptr; }
     Neighbours neighbours(const Ends& ends, Len i, Len x) const {
@@ -143,9 +143,9 @@ class Mean3x3 {
             store(inner, loadUpTo(row, int(bytes_)));
         } else {
             store(inner, load(row));
-            const Len last = bytes_ - width;
-            if (vectors_ > 2) right = ends.bytes + Ends::last + width;
-            store(right - width, load(row + last));
+            const Len last = bytes_ - vectorBytes;
+            if (vectors_ > 2) right = ends.bytes + Ends::last + vectorBytes;
+            store(right - vectorBytes, load(row + last));
         }
         pixel(left_, ends.bytes);
         pixel(right_, right);

@@ -20,7 +20,7 @@ ZMV_INLINE void withWidth(Len windowWidth, Loop loop) {
     if constexpr (width > 1) withWidth<width - 1>(windowWidth, loop);
 }
 // The same windows, and some that are wider, are summed directly in 16 bits; beyond, running sums are cheaper.
-constexpr Len shortWidth = width == 16 ? 7 : 11;
+constexpr Len shortWidth = vectorBytes == 16 ? 7 : 11;
 // The sum of terms(0) .. terms(width - 1); the width may be a constant.
 template <class Terms, class Width>
 ZMV_INLINE auto sumOf(Terms terms, Width width) {

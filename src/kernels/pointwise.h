@@ -28,7 +28,8 @@ struct ImageRow {
 template <class T>
 struct ConstantRow {
     Vec<T> period[3];
-    explicit ConstantRow(const Pattern& p) : period{(Vec<T>)p.at(0), (Vec<T>)p.at(width), (Vec<T>)p.at(2 * width)} {}
+    explicit ConstantRow(const Pattern& p)
+        : period{(Vec<T>)p.at(0), (Vec<T>)p.at(vectorBytes), (Vec<T>)p.at(2 * vectorBytes)} {}
     Vec<T> at(Len, int k) const { return period[k]; }
     Vec<T> part(Len, int k, int) const { return period[k]; }
 };
@@ -57,14 +58,14 @@ ZMV_INLINE void pointwiseRow(const Rule& rule, T* dst, Len count, const Row&... 
     const Len done =
         eachVector(0, bytes, [&](Len at, [[maybe_unused]] auto k) { store(to + at, rule(rows.at(at, k)...)); });
     if (const int rest = int((bytes - done) / Len(sizeof(T))))
-        storePart(to + done, rule(rows.part(done, int(done / width % 3), rest)...), rest);
+        storePart(to + done, rule(rows.part(done, int(done / vectorBytes % 3), rest)...), rest);
 }
 
 // Where a channel is left alone, and past the caches, results take a detour through a block that stays in the nearest
 // cache; it holds whole periods of every pattern.
 template <class T, class Row>
 __attribute__((noinline)) void eachBlock(Image<T> dst, Len height, Len count, bool pastCache, Row row) {
-    constexpr Len blockBytes = 48 * width, block = blockBytes / Len(sizeof(T));
+    constexpr Len blockBytes = 48 * vectorBytes, block = blockBytes / Len(sizeof(T));
     alignas(64) uint8_t results[blockBytes];
     for (Len y = 0; y < height; ++y)
         for (Len x = 0; x < count; x += block) {

@@ -32,27 +32,28 @@ constexpr Len largeCopy = 1048577;
 inline void copyRow(void* dst, const void* src, Len bytes) {
     using V = Vec<uint8_t>;
     constexpr Len callPays = 1024;  // below this the C library's choice among its methods costs more than the copy
-    if (bytes < width || bytes >= callPays) return (void)std::memcpy(dst, src, size_t(bytes));
+    if (bytes < vectorBytes || bytes >= callPays) return (void)std::memcpy(dst, src, size_t(bytes));
     const auto to = static_cast<uint8_t*>(dst);
     const auto from = static_cast<const uint8_t*>(src);
-    const V last = loadAs<V>(from + bytes - width);
-    for (Len i = 0; i < bytes - width; i += width) store(to + i, loadAs<V>(from + i));
-    store(to + bytes - width, last);
+    const V last = loadAs<V>(from + bytes - vectorBytes);
+    for (Len i = 0; i < bytes - vectorBytes; i += vectorBytes) store(to + i, loadAs<V>(from + i));
+    store(to + bytes - vectorBytes, last);
 }
 
 // The same past the caches.  fence() when all rows are done.
 inline void streamRow(void* dst, const void* src, Len bytes) {
-    constexpr Len block = 4 * width;
+    constexpr Len block = 4 * vectorBytes;
     using V = Vec<uint8_t>;
     auto to = static_cast<uint8_t*>(dst);
     auto from = static_cast<const uint8_t*>(src);
-    if (bytes < block + width) return copyRow(to, from, bytes);
+    if (bytes < block + vectorBytes) return copyRow(to, from, bytes);
     const uint8_t* const end = from + bytes;
     store(to, loadAs<V>(from));
-    const Len head = width - Len(reinterpret_cast<uintptr_t>(to) % width);  // to the next boundary, at most one vector
+    const Len head =
+        vectorBytes - Len(reinterpret_cast<uintptr_t>(to) % vectorBytes);  // to the next boundary, at most one vector
     to += head, from += head;
     for (; end - from >= block; to += block, from += block)
-        for (int i = 0; i < block; i += width) stream(to + i, loadAs<V>(from + i));
+        for (int i = 0; i < block; i += vectorBytes) stream(to + i, loadAs<V>(from + i));
     if (from < end) copyRow(to, from, end - from);
 }
 
@@ -91,7 +92,7 @@ class Pattern {
 
   private:
     static constexpr int period = 48;  // a multiple of every pixel's size: 1, 2, 3, 4, 6, 8, 12 and 16 bytes
-    static constexpr int units = (width + period) / 16;
+    static constexpr int units = (vectorBytes + period) / 16;
     alignas(64) uint8_t bytes_[16 * units];
 };
 
@@ -99,11 +100,11 @@ class Pattern {
 // make a period of every pattern, and returns where it stopped.
 template <class Step>
 ZMV_INLINE Len eachVector(Len done, Len bytes, Step step) {
-    for (; bytes - done >= 3 * width; done += 3 * width)
-        step(done, std::integral_constant<int, 0>{}), step(done + width, std::integral_constant<int, 1>{}),
-            step(done + 2 * width, std::integral_constant<int, 2>{});
-    if (bytes - done >= width) step(done, std::integral_constant<int, 0>{}), done += width;
-    if (bytes - done >= width) step(done, std::integral_constant<int, 1>{}), done += width;
+    for (; bytes - done >= 3 * vectorBytes; done += 3 * vectorBytes)
+        step(done, std::integral_constant<int, 0>{}), step(done + vectorBytes, std::integral_constant<int, 1>{}),
+            step(done + 2 * vectorBytes, std::integral_constant<int, 2>{});
+    if (bytes - done >= vectorBytes) step(done, std::integral_constant<int, 0>{}), done += vectorBytes;
+    if (bytes - done >= vectorBytes) step(done, std::integral_constant<int, 1>{}), done += vectorBytes;
     return done;
 }
 
@@ -111,7 +112,7 @@ ZMV_INLINE Len eachVector(Len done, Len bytes, Step step) {
 template <bool streaming = false>
 inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
     const auto dst = static_cast<uint8_t*>(row);
-    if (bytes < width) {
+    if (bytes < vectorBytes) {
         if (bytes > 0) storePart(dst, pattern.at(0), int(bytes));
         return;
     }
@@ -119,15 +120,16 @@ inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
     if (!streaming && bytes >= callPays && pattern.isOneByte())
         return (void)std::memset(dst, pattern.firstByte(), size_t(bytes));
     store(dst, pattern.at(0));
-    const Len head = width - Len(reinterpret_cast<uintptr_t>(dst) % width);
-    const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + width), pattern.at(head + 2 * width)};
+    const Len head = vectorBytes - Len(reinterpret_cast<uintptr_t>(dst) % vectorBytes);
+    const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + vectorBytes),
+                                    pattern.at(head + 2 * vectorBytes)};
     eachVector(head, bytes, [&](Len at, auto k) {
         if constexpr (streaming)
             stream(dst + at, period[k]);
         else
             store(dst + at, period[k]);
     });
-    store(dst + bytes - width, pattern.at(bytes - width));
+    store(dst + bytes - vectorBytes, pattern.at(bytes - vectorBytes));
 }
 
 // One value over `count` elements, for short runs: no pattern is worth building.
@@ -143,7 +145,7 @@ inline void fillShort(T* row, T value, Len count) {
 template <class Source>
 inline void blendRow(void* row, const Source& source, const Pattern& mask, Len bytes) {
     const auto dst = static_cast<uint8_t*>(row);
-    const Vec<uint8_t> period[3] = {mask.at(0), mask.at(width), mask.at(2 * width)};
+    const Vec<uint8_t> period[3] = {mask.at(0), mask.at(vectorBytes), mask.at(2 * vectorBytes)};
     const Len done = eachVector(0, bytes, [&](Len at, auto k) {
         store(dst + at, select(period[k], source(at), loadAs<Vec<uint8_t>>(dst + at)));
     });

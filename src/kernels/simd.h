@@ -15,24 +15,24 @@
 namespace zmv {
 
 #if defined(__AVX512BW__)
-constexpr int width = 64;
+constexpr int vectorBytes = 64;
 #elif defined(__AVX2__)
-constexpr int width = 32;
+constexpr int vectorBytes = 32;
 #else
-constexpr int width = 16;
+constexpr int vectorBytes = 16;
 #endif
 
 template <class T, int bytes>
 struct VecOf {
     typedef T type __attribute__((vector_size(bytes)));
 };
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 using Vec = typename VecOf<T, bytes>::type;
 template <class V>
 using Element = std::remove_cv_t<std::remove_reference_t<decltype(std::declval<V&>()[0])>>;
 template <class V>
 constexpr int lanesOf = int(sizeof(V) / sizeof(Element<V>));
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 constexpr int lanes = bytes / int(sizeof(T));
 
 #define ZMV_INLINE inline __attribute__((always_inline))
@@ -67,7 +67,7 @@ template <class T>
 ZMV_INLINE void put(T* p, std::type_identity_t<T> x) {
     __builtin_memcpy(p, &x, sizeof x);
 }
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> load(const T* p) {
     return loadAs<Vec<T, bytes>>(p);
 }
@@ -121,7 +121,7 @@ ZMV_INLINE void storeFewBytes(uint8_t* p, Vec<uint64_t, 16> v, int n) {
 }
 
 // The first n elements of a vector, 0 < n < its lanes; no other byte is read or written, the others load as zero.
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> loadPart(const T* p, int n) {
     int left = n * int(sizeof(T));
 #if defined(__AVX512BW__)
@@ -154,19 +154,19 @@ ZMV_INLINE void storePart(void* p, V v, int n) {
 // zero.
 ZMV_INLINE Vec<uint8_t> loadWithin(const uint8_t* p, const uint8_t* begin, const uint8_t* end) {
 #if defined(__AVX512BW__)
-    const Len first = begin > p ? begin - p : 0, last = end - p < width ? end - p : width;
+    const Len first = begin > p ? begin - p : 0, last = end - p < vectorBytes ? end - p : vectorBytes;
     return (Vec<uint8_t>)_mm512_maskz_loadu_epi8(~0ull << first & ~0ull >> (64 - last), p);
 #else
-    const Len away = p < begin ? begin - p : end - p < width ? end - p - width : 0;
+    const Len away = p < begin ? begin - p : end - p < vectorBytes ? end - p - vectorBytes : 0;
     if (away == 0) return loadAs<Vec<uint8_t>>(p);
-    uint8_t around[3 * width] = {};
-    store(around + width + away, loadAs<Vec<uint8_t>>(p + away));
-    return loadAs<Vec<uint8_t>>(around + width);
+    uint8_t around[3 * vectorBytes] = {};
+    store(around + vectorBytes + away, loadAs<Vec<uint8_t>>(p + away));
+    return loadAs<Vec<uint8_t>>(around + vectorBytes);
 #endif
 }
 
 // loadPart and storePart where n may be all lanes.
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> loadUpTo(const T* p, int n) {
     return n == lanes<T, bytes> ? load<T, bytes>(p) : loadPart<T, bytes>(p, n);
 }
@@ -179,7 +179,7 @@ ZMV_INLINE void storeUpTo(void* p, V v, int n) {
 }
 
 // Each 16-byte lane of the vector from, or to, an address of its own: lane k at p + k * laneStep bytes.
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, Len laneStep) {
     if (__builtin_constant_p(laneStep) && laneStep == 16) return load<T, bytes>(p);
     const auto lane = [&](int k) { return loadAs<__m128i>(reinterpret_cast<const uint8_t*>(p) + k * laneStep); };
@@ -223,7 +223,7 @@ ZMV_INLINE void storeLanes(void* p, V v, Len laneStep) {
 
 // ---- Values ----
 
-template <class T, int bytes = width>
+template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> fill(T x) {
     return x - Vec<T, bytes>{};  // x in every lane; minus zero keeps the sign of a zero
 }
@@ -272,14 +272,12 @@ ZMV_INLINE V mulRounded(V a, V b) {
 }
 // Each even lane plus the odd one behind it.
 template <class V>
-    requires std::is_same_v<Element<V>, uint32_t>
-ZMV_INLINE Vec<uint64_t, sizeof(V)> pairSums(V v) {
+requires std::is_same_v<Element<V>, uint32_t> ZMV_INLINE Vec<uint64_t, sizeof(V)> pairSums(V v) {
     const auto pairs = (Vec<uint64_t, sizeof(V)>)v;
     return (pairs & 0xffffffff) + (pairs >> 32);
 }
 template <class V>
-    requires std::is_same_v<Element<V>, uint8_t>
-ZMV_INLINE Vec<uint16_t, sizeof(V)> pairSums(V v) {
+requires std::is_same_v<Element<V>, uint8_t> ZMV_INLINE Vec<uint16_t, sizeof(V)> pairSums(V v) {
     using Sums = Vec<uint16_t, sizeof(V)>;
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) return (Sums)_mm512_maddubs_epi16((__m512i)v, _mm512_set1_epi8(1));

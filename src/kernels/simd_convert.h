@@ -107,7 +107,7 @@ ZMV_INLINE auto toDouble([[maybe_unused]] V v) {
 // ---- From memory and back ----
 
 // As many elements at p as To has lanes, each as To.  Only 32-bit integers as float may round.
-template <class To, class T, int bytes = width>
+template <class To, class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
     using Result = Vec<To, bytes>;
     constexpr bool sign = std::is_signed_v<T>, real = std::is_floating_point_v<To>;
@@ -155,7 +155,7 @@ ZMV_INLINE Vec<To, bytes> loadWiden(const T* p) {
 // The first n of them, n below the lanes of To and none from 0 down; the others are zero, and nothing beyond is read.
 template <class To, class T>
 ZMV_INLINE Vec<To> loadWidenPart(const T* p, int n) {
-    constexpr int part = width * int(sizeof(T)) / int(sizeof(To)), block = part < 16 ? 16 : part;
+    constexpr int part = vectorBytes * int(sizeof(T)) / int(sizeof(To)), block = part < 16 ? 16 : part;
     if (n <= 0) return Vec<To>{};
     T few[block / sizeof(T)];
     store(few, loadPart<T, block>(p, n));

@@ -304,7 +304,7 @@ ZMV_INLINE V inMemoryOrder(const Block<V, n>& block) {
 template <int n, bool streaming = false, class T>
 ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
     const auto put = [&]<int... v>(std::integer_sequence<int, v...>) {
-        if constexpr (n == 1 || width == 16)
+        if constexpr (n == 1 || vectorBytes == 16)
             (..., storeLanes<streaming>(p + v * lanes<T>, block[v], 16));
         else
             (..., storeLanes<streaming>(p + v * lanes<T>, inMemoryOrder<n, v>(block), 16));

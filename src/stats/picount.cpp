@@ -22,7 +22,7 @@ struct OutsideFold : SumFold<n, T, Counts<Bits<T>>, Outside> {
     Group<n, Vec<T>> low, high;
     OutsideFold(const Pattern& lows, const Pattern& highs) {
         for (int k = 0; k < groupVectors<n>; ++k)
-            low[k] = (Vec<T>)lows.at(k * width), high[k] = (Vec<T>)highs.at(k * width);
+            low[k] = (Vec<T>)lows.at(k * vectorBytes), high[k] = (Vec<T>)highs.at(k * vectorBytes);
     }
     using Sums = SumFold<n, T, Counts<Bits<T>>, Outside>;
     ZMV_INLINE void add(typename Sums::Vectors& counts, const Group<n, Vec<T>>& group) const {

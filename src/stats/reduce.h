@@ -44,7 +44,7 @@ ZMV_INLINE Group<n, Vec<T>> loadGroup(const T* p, Len left, const Others& others
     Group<n, Vec<T>> group;
     for (int k = 0; k < groupVectors<n>; ++k) {
         const Len here = left - k * lanes<T>;
-        group[k] = (Vec<T>)others.at(k * width);
+        group[k] = (Vec<T>)others.at(k * vectorBytes);
         if (here >= lanes<T>)
             group[k] = load(p + k * lanes<T>);
         else if (here > 0)
@@ -77,7 +77,7 @@ ZMV_INLINE void foldRow(Fold& fold, Len count, const Others& others, bool far, c
     auto vectors = fold.vectors;  // a copy that stays in registers
     Len x = 0;
     for (; x + elements <= count; x += elements) {
-        if (far) (..., fetchAhead<groupVectors<n> * width>(rows + x));
+        if (far) (..., fetchAhead<groupVectors<n> * vectorBytes>(rows + x));
         fold.add(vectors, loadGroup<n>(rows + x)...);
     }
     if (x < count) fold.add(vectors, loadGroup<n>(rows + x, count - x, others)...);
