@@ -8,8 +8,8 @@
 
 #include <bit>
 
-#include "filter/windows.h"
 #include "kernels/pointwise_in.h"
+#include "kernels/window_sums.h"
 
 namespace zmv {
 

@@ -1,6 +1,7 @@
 // The driver of border extension: where the source goes, the frame round it, by any rule.
 #pragma once
 
+#include "kernels/borders.h"
 #include "kernels/rows.h"
 
 namespace zmv {
@@ -15,26 +16,9 @@ inline StatusCode geometry(Roi src, Roi dst, Corner at) {
     return refuse(at.left > dst.width - src.width || at.top > dst.height - src.height, STATUS_BAD_SIZE);
 }
 
-// The source coordinate that each rule takes for a coordinate outside 0 .. n - 1, and whether a call with one pointer
-// for source and destination means the in-place form.
-struct ReplicateRule {
-    static constexpr bool samePointerIsInPlace = true;
-    static Len at(Len i, Len n) { return i < 0 ? 0 : i >= n ? n - 1 : i; }
-};
-struct MirrorRule {
-    static constexpr bool samePointerIsInPlace = true;
-    static Len at(Len i, Len n) {
-        if (i < 0 && -i < n) return -i;
-        if (i >= 0 && i < 2 * n - 1) return i < n ? i : 2 * n - 2 - i;
-        const Len period = std::max<Len>(2 * n - 2, 1);
-        const Len p = i >= 0 ? i % period : period - 1 - (-i - 1) % period;
-        return p < n ? p : period - p;
-    }
-};
-struct WrapRule {
-    static constexpr bool samePointerIsInPlace = false;
-    static Len at(Len i, Len n) { return i >= 0 ? i % n : n - 1 - (-i - 1) % n; }
-};
+// Whether a call with one pointer for source and destination means the in-place form.
+template <class Rule>
+constexpr bool samePointerIsInPlace = !std::is_same_v<Rule, WrapRule>;
 
 // Runs of pixels of a layout: all channels, or all but the fourth.
 template <class T, Layout layout>
@@ -122,7 +106,7 @@ StatusCode ownpi_CopyBorderI(Image<T> srcDst, Roi srcRoi, Roi dstRoi, Corner at)
 template <class Rule, Layout layout, class T>
 StatusCode ownpi_CopyBorder(Image<const T> src, Roi srcRoi, Image<T> dst, Roi dstRoi, Corner at) {
     // Looked at before any check: dst is then the place of the source inside the larger image.
-    if (Rule::samePointerIsInPlace && src.data == dst.data)
+    if (samePointerIsInPlace<Rule> && src.data == dst.data)
         return ownpi_CopyBorderI<Rule, layout>(dst, srcRoi, dstRoi, at);
     if (auto bad = firstOf({pointers(src.data, dst.data), steps(src.step, dst.step), geometry(srcRoi, dstRoi, at)}))
         return bad;

@@ -98,7 +98,9 @@ StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize 
                             border(borderType), borderValue(borderType, value)}))
         return bad;
     const Window window(mask);
-    const bool inPlace = static_cast<const void*>(src.data) == dst.data;
+    // Floats read each row once: with windows of one row, before it is overwritten.
+    const bool inPlace =
+        static_cast<const void*>(src.data) == dst.data && (window.height > 1 || !std::is_floating_point_v<T>);
     Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
     const Output output(window);
     if constexpr (std::is_same_v<T, float>)

@@ -2,7 +2,7 @@
 // time, from the sums of three neighbours in the two rows above them, which a short line keeps, and in two new rows.
 #pragma once
 
-#include "filter/bands.h"
+#include "kernels/bands.h"
 
 namespace zmv {
 

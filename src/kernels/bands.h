@@ -1,4 +1,4 @@
-// What a filter reads outside its region: the border word, and the rows and columns that lie beyond the edges.
+// What a filter reads outside its region: the rows and columns that lie beyond the edges.
 //
 // No filter knows about borders.  It asks for the rows of the extended region one by one, from the top; each comes as
 // an address in the caller's memory, in a row of the constant, or in the history of an in-place call.  What lies left
@@ -7,8 +7,11 @@
 // answer for every distance, and a side that is readable in memory needs nothing.
 #pragma once
 
-#include "datamove/border.h"
+#include <cstring>
+
+#include "kernels/borders.h"
 #include "kernels/scratch.h"
+#include "kernels/simd.h"
 
 namespace zmv {
 
@@ -25,32 +28,14 @@ struct Window {
     Len area() const { return width * height; }
 };
 
-// The checks that all filters with a border share, in their order.
 inline StatusCode maskSize(ImageSize mask) { return refuse(mask.width < 1 || mask.height < 1, STATUS_BAD_MASK_SIZE); }
-inline StatusCode unmirroredBorder(int word) {
-    const int rule = word & 15;
-    const bool known = rule == BORDER_REPL || rule == BORDER_CONST || word == BORDER_IN_MEM;
-    return refuse(word < 0 || word > 255 || !known, STATUS_BAD_BORDER);
-}
-inline StatusCode border(int word) {
-    const bool mirrored = word >= 0 && word <= 255 && (word & 15) == BORDER_MIRROR;
-    return mirrored ? StatusCode(STATUS_OK) : unmirroredBorder(word);
-}
-inline StatusCode borderValue(int word, const void* value) {
-    return refuse((word & 15) == BORDER_CONST && !value, STATUS_NULL_POINTER);
-}
 
 template <class T, int n>
 class Bands {
   public:
-    // inPlace: the destination is the source, so that a row must be saved before its result overwrites it.  Filters of
-    // floating-point images read each row once; with windows of one row nothing is read after it is overwritten.
+    // inPlace: the destination is the source, and rows are read again when their results have overwritten them.
     Bands(Image<const T> src, Roi roi, Layout layout, Window window, int word, const T* value, bool inPlace)
-        : src_(src),
-          roi_(roi),
-          window_(window),
-          word_(word),
-          inPlace_(inPlace && (window.height > 1 || !std::is_floating_point_v<T>)) {
+        : src_(src), roi_(roi), window_(window), word_(word), inPlace_(inPlace) {
         for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = get(value + c);
     }
 
@@ -74,7 +59,7 @@ class Bands {
     Row row(Len y, Len finished) const {
         if (y < 0 ? !(word_ & BORDER_IN_MEM_TOP) : y >= roi_.height && !(word_ & BORDER_IN_MEM_BOTTOM)) {
             if (constant()) return {constantRow_, constantRow_};
-            y = mapped(y, roi_.height);
+            y = borderAt(word_, y, roi_.height);
         }
         const T* const inMemory = src_.row(y);
         const bool overwritten = inPlace_ && y >= 0 && y < finished;
@@ -104,7 +89,8 @@ class Bands {
     void fillColumns(E* line, const E* constants) const {
         const auto fill = [&](Len from, Len to) {
             for (Len x = from; x < to; ++x)
-                std::memcpy(line + x * n, constant() ? constants : line + mapped(x, roi_.width) * n, sizeof(E) * n);
+                std::memcpy(line + x * n, constant() ? constants : line + borderAt(word_, x, roi_.width) * n,
+                            sizeof(E) * n);
         };
         if (!(word_ & BORDER_IN_MEM_LEFT)) fill(-window_.left, 0);
         if (!(word_ & BORDER_IN_MEM_RIGHT)) fill(roi_.width, roi_.width + window_.right);
@@ -113,16 +99,13 @@ class Bands {
     static constexpr Len none = INT64_MIN;
     Len column(Len x) const {
         if (x >= firstColumn() && x < endColumn()) return x;
-        return constant() ? none : mapped(x, roi_.width);
+        return constant() ? none : borderAt(word_, x, roi_.width);
     }
     const T* value() const { return value_; }
     bool inPlace() const { return inPlace_; }
 
   private:
-    bool constant() const { return (word_ & 15) == BORDER_CONST; }
-    Len mapped(Len i, Len size) const {
-        return (word_ & 15) == BORDER_MIRROR ? MirrorRule::at(i, size) : ReplicateRule::at(i, size);
-    }
+    bool constant() const { return borderRule(word_) == BORDER_CONST; }
     Len historyRows() const { return window_.top + 1; }
     T* saved(Len y) const { return history_ + y % historyRows() * roi_.width * n; }
 
