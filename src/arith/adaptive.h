@@ -132,13 +132,9 @@ constexpr double wholeWeight = 1 << weightBits;
 
 // The weight of a pixel i columns, or rows, from the middle one.
 struct TableWeights {
-    const uint8_t* table;
+    const float* table;
     Len radius;
-    double operator[](Len i) const {
-        float weight;
-        std::memcpy(&weight, table + (radius + i) * Len(sizeof weight), sizeof weight);
-        return weight * wholeWeight;
-    }
+    double operator[](Len i) const { return get(table + radius + i) * wholeWeight; }
 };
 
 // Weighted sums of columns: rows[radius] is the middle one; weights[i] is that of both rows i away from it.

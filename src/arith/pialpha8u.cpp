@@ -15,10 +15,10 @@ template <class T>
 struct Planes {
     T* const* first;
     Len step;
-    Image<T> operator[](int c) const { return {first[c], step}; }
+    Image<T> operator[](int c) const { return {get(first + c), step}; }
 };
 template <class T>
-struct Pixels {
+struct Packed {
     T* first;
     Len step;
     Layout layout = C1;
@@ -29,7 +29,7 @@ StatusCode given(Planes<T> image) {
     return planePointers(image.first, 4);
 }
 template <class T>
-StatusCode given(Pixels<T> image) {
+StatusCode given(Packed<T> image) {
     return pointers(image.first);
 }
 template <class... Operand>
@@ -64,13 +64,13 @@ void compositeAlphas(Image<const T> a, Image<const T> b, Image<T> dst, Roi roi, 
 }
 
 template <class T>
-StatusCode ownpi_AlphaComp_AC1(Pixels<const T> a, Pixels<const T> b, Pixels<T> dst, Roi roi, int alphaType) {
+StatusCode ownpi_AlphaComp_AC1(Packed<const T> a, Packed<const T> b, Packed<T> dst, Roi roi, int alphaType) {
     if (auto bad = checked(roi, alphaType, a, b, dst)) return bad;
     compositeAlphas<T>(a, b, dst, roi, alphaType);
     return STATUS_OK;
 }
 template <class T>
-StatusCode ownpi_AlphaComp_AC4(Pixels<const T> a, Pixels<const T> b, Pixels<T> dst, Roi roi, int alphaType) {
+StatusCode ownpi_AlphaComp_AC4(Packed<const T> a, Packed<const T> b, Packed<T> dst, Roi roi, int alphaType) {
     if (auto bad = checked(roi, alphaType, a, b, dst)) return bad;
     compositing<T>(alphaType, [&](auto op) {
         const auto rule = [&](Vec<T> x, Vec<T> y) __attribute__((always_inline)) { return op.pixels(x, y); };
@@ -96,7 +96,7 @@ void eachColour(const Rule& rule, Roi roi, Planes<T> dst, auto... operands) {
     for (int c = 0; c < 3; ++c) pointwise(rule, dst[c], roi, C1, false, operands[c]...);
 }
 template <class T, class Rule>
-void eachColour(const Rule& rule, Roi roi, Pixels<T> dst, auto... operands) {
+void eachColour(const Rule& rule, Roi roi, Packed<T> dst, auto... operands) {
     pointwise<T>(rule, dst, roi, dst.layout, false, Image<const T>(operands)...);
 }
 
@@ -112,9 +112,9 @@ StatusCode compositeWithConstants(Operand<const T> a, T alphaA, Operand<const T>
     return STATUS_OK;
 }
 template <class T>
-StatusCode ownpi_AlphaCompC(Pixels<const T> a, T alphaA, Pixels<const T> b, T alphaB, Pixels<T> dst, Roi roi,
+StatusCode ownpi_AlphaCompC(Packed<const T> a, T alphaA, Packed<const T> b, T alphaB, Packed<T> dst, Roi roi,
                             int type) {
-    return compositeWithConstants<T, Pixels>(a, alphaA, b, alphaB, dst, roi, type);
+    return compositeWithConstants<T, Packed>(a, alphaA, b, alphaB, dst, roi, type);
 }
 template <class T>
 StatusCode ownpi_AlphaCompC(Planes<const T> a, T alphaA, Planes<const T> b, T alphaB, Planes<T> dst, Roi roi,
@@ -130,7 +130,7 @@ ZMV_INLINE V premultiplied(V colour, V alpha) {
 }
 
 template <class T>
-StatusCode ownpi_AlphaPremul_AC4(Pixels<const T> src, Pixels<T> dst, Roi roi) {
+StatusCode ownpi_AlphaPremul_AC4(Packed<const T> src, Packed<T> dst, Roi roi) {
     if (auto bad = firstOf({given(src), given(dst), size(roi)})) return bad;
     const auto rule = [](Vec<T> x, Vec<T> old) { return withFourth(premultiplied(x, fourthOf(x)), old); };
     pointwise<T>(rule, dst, roi, C4, false, Image<const T>(src), Image<const T>(Image<T>(dst)));
@@ -150,8 +150,8 @@ StatusCode premultiplyByConstant(Operand<const T> src, T alpha, Operand<T> dst, 
     return STATUS_OK;
 }
 template <class T>
-StatusCode ownpi_AlphaPremulC(Pixels<const T> src, T alpha, Pixels<T> dst, Roi roi) {
-    return premultiplyByConstant<T, Pixels>(src, alpha, dst, roi);
+StatusCode ownpi_AlphaPremulC(Packed<const T> src, T alpha, Packed<T> dst, Roi roi) {
+    return premultiplyByConstant<T, Packed>(src, alpha, dst, roi);
 }
 template <class T>
 StatusCode ownpi_AlphaPremulC(Planes<const T> src, T alpha, Planes<T> dst, Roi roi) {

@@ -1,6 +1,7 @@
 // zmviThresholdAdaptiveBox, zmviThresholdAdaptiveGauss: their contracts, the sizes they ask for, and the spec object.
 #include "arith/adaptive.h"
 #include "arith/exp.h"
+#include "core/spec.h"
 
 namespace zmv {
 namespace {
@@ -13,18 +14,23 @@ StatusCode oddSquare(ImageSize mask) {
     return refuse(mask.width != mask.height || mask.width < 1 || mask.width % 2 == 0, STATUS_BAD_MASK_SIZE);
 }
 
-// What zmviThresholdAdaptiveGaussInit writes, behind a byte with the distance from itself to the tag.  The weights
-// follow; they are found from the tag too, so that a copy of the block works wherever it is.
-struct Spec {
+// What zmviThresholdAdaptiveGaussInit writes.  The object starts at the first multiple of 8 behind the first byte,
+// which holds the distance between the two: so a copy of the block works wherever it is.
+struct GaussSpec {
+    static constexpr uint64_t itsTag = 0x14B61738E;
     uint64_t tag;
     int32_t mode, maskSize;
     float sigma;
     uint32_t unused;
-    const uint8_t* weights;
+    const float* weights;
 };
-constexpr uint64_t specTag = 0x14B61738E;
-constexpr Len specAlignment = 8;
-static_assert(sizeof(Spec) == 32);
+constexpr Len gaussAlignment = 8;
+static_assert(sizeof(GaussSpec) == 32);
+struct GaussParts : SpecParts {
+    Table<float> weights;
+    explicit GaussParts(Len mask) : SpecParts(sizeof(GaussSpec)), weights(table<float>(mask)) {}
+    WideLen blockBytes() const { return gaussAlignment + objectBytes(); }
+};
 
 StatusCode checked(Roi roi, ImageSize mask, Len srcStep, Len dstStep) {
     return firstOf({size(roi), steps(srcStep, dstStep), oddSquare(mask)});
@@ -62,14 +68,14 @@ StatusCode ownpi_ThresholdAdaptiveGauss(Image<const uint8_t> src, Image<uint8_t>
     if (auto bad = firstOf({pointers(src.data, dst.data, spec, buffer), checked(roi, mask, src.step, dst.step)}))
         return bad;
     const Len distance = spec[0];
-    if (distance < 1 || distance > specAlignment) return STATUS_CONTEXT_MISMATCH;
-    const auto header = loadAs<Spec>(spec + distance);
-    if (auto bad = firstOf({refuse(header.tag != specTag, STATUS_CONTEXT_MISMATCH),
-                            refuse(header.maskSize != mask.width, STATUS_BAD_MASK_SIZE),
+    if (distance < 1 || distance > gaussAlignment) return STATUS_CONTEXT_MISMATCH;
+    const uint8_t* const object = spec + distance;
+    const auto header = headerOf<GaussSpec>(object);
+    if (auto bad = firstOf({tagged(header), refuse(header.maskSize != mask.width, STATUS_BAD_MASK_SIZE),
                             unmirroredBorder(outside.borderType)}))
         return bad;
     return run(src, dst, roi, mask, answers, outside, [&](Pixels& bands, Window window) {
-        const TableWeights weights{spec + distance + sizeof(Spec), window.left};
+        const TableWeights weights{GaussParts(mask.width).weights.in(object), window.left};
         gaussMeans(bands, src, dst, roi, window, weights, answers, Scratch(buffer));
     });
 }
@@ -82,21 +88,17 @@ StatusCode checkedQuery(Roi roi, ImageSize mask, int dataType, int channels) {
 // Of a filter that keeps, for each row of the mask, an extended row of pixels and a row of sums, and one row of sums
 // more; and bands round the region, or all of it if the mask is larger.  The functions above have other parts but never
 // need more.
-using Size = __int128;  // the largest arguments pass 64 bits
-Size bufferSize(ImageSize roi, ImageSize mask) {
-    const auto roundUp = [](Size n, int unit) { return (n + unit - 1) / unit * unit; };
-    const Size w = roi.width, h = roi.height, m = mask.width, extendedWidth = w + m - 1;
-    const Size rows = roundUp((roundUp(extendedWidth, 32) + 8) * m + roundUp(4 * w, 32) * (m + 1), 32);
+WideLen bufferSize(ImageSize roi, ImageSize mask) {
+    const WideLen w = roi.width, h = roi.height, m = mask.width, extendedWidth = w + m - 1;
+    const WideLen rows = roundUp((roundUp(extendedWidth, 32) + 8) * m + roundUp(4 * w, 32) * (m + 1), 32);
     if (m > w || m > h) return rows + roundUp(extendedWidth * (h + m - 1), 32);
-    const Size bands = roundUp((m - 1 + m / 2) * (std::max(w, h) + m - 1), 32);
+    const WideLen bands = roundUp((m - 1 + m / 2) * (std::max(w, h) + m - 1), 32);
     return rows + roundUp(h * (m - 1), 64) + roundUp(w * (m - 1), 64) + bands;
 }
-Size specSize(ImageSize mask) { return 4 * Size(mask.width) + specAlignment + Size(sizeof(Spec)); }
-StatusCode fitsInt(Size n) { return refuse(n > INT32_MAX, STATUS_SIZE_EXCEEDS_INT); }
 
 StatusCode ownpi_AdaptiveGetBufferSize(ImageSize roi, ImageSize mask, int dataType, int channels, int* size) {
     if (auto bad = firstOf({pointers(size), checkedQuery(roi, mask, dataType, channels)})) return bad;
-    if (auto bad = fitsInt(bufferSize(roi, mask))) return bad;
+    if (auto bad = fits<int>(bufferSize(roi, mask))) return bad;
     put(size, int(bufferSize(roi, mask)));
     return STATUS_OK;
 }
@@ -105,25 +107,28 @@ StatusCode ownpi_AdaptiveGaussGetBufferSize(ImageSize roi, ImageSize mask, int d
     if (auto bad = pointers(spec, buffer)) return bad;
     // The buffer is the larger one.
     if (auto bad = ownpi_AdaptiveGetBufferSize(roi, mask, dataType, channels, buffer)) return bad;
-    put(spec, int(specSize(mask)));
+    put(spec, int(GaussParts(mask.width).blockBytes()));
     return STATUS_OK;
 }
 
 StatusCode ownpi_AdaptiveGaussInit(ImageSize roi, ImageSize mask, int dataType, int channels, float sigma,
                                    uint8_t* block) {
-    if (auto bad = firstOf({pointers(block), checkedQuery(roi, mask, dataType, channels), fitsInt(specSize(mask))}))
+    const GaussParts parts(mask.width);
+    if (auto bad =
+            firstOf({pointers(block), checkedQuery(roi, mask, dataType, channels), fits<int>(parts.blockBytes())}))
         return bad;
-    const Len distance = specAlignment - Len(reinterpret_cast<uintptr_t>(block) % specAlignment);
-    uint8_t* const spec = block + distance;
-    uint8_t* const table = spec + sizeof(Spec);
+    const Len distance = gaussAlignment - Len(reinterpret_cast<uintptr_t>(block) % gaussAlignment);
+    uint8_t* const object = block + distance;
+    float* const weights = parts.weights.in(object);
     block[0] = uint8_t(distance);
-    store(spec, Spec{specTag, 1, mask.width, sigma, 0, table});
+    store(object, GaussSpec{GaussSpec::itsTag, 1, mask.width, sigma, 0, weights});
 
     const RoundingControl control(RoundingControl::toNearestEven);
-    auto header = loadAs<Spec>(spec);  // from memory, which keeps what follows behind the change of the control word
+    // From memory, which keeps what follows behind the change of the control word.
+    auto header = headerOf<GaussSpec>(object);
     const Len radius = header.maskSize / 2;
     if (!(header.sigma > 0)) header.sigma = float(0.15 * double(header.maskSize - 1) + 0.5);
-    store(spec, header);
+    store(object, header);
     const double spread = 2 * double(header.sigma) * double(header.sigma);
     const auto bell = [&](Len i) { return Exp(0)(fill(-double(i * i) / spread))[0]; };
     double total = 0;
@@ -133,8 +138,8 @@ StatusCode ownpi_AdaptiveGaussInit(ImageSize roi, ImageSize mask, int dataType, 
     double left = wholeWeight, carried = 0;
     const auto putWeight = [&](Len i, double weight) {
         const auto w = float(weight / wholeWeight);
-        store(table + (radius - i) * Len(sizeof w), w);
-        store(table + (radius + i) * Len(sizeof w), w);
+        put(weights + radius - i, w);
+        put(weights + radius + i, w);
     };
     for (Len i = radius; i > 0; --i) {
         const double exact = bell(i) / total * wholeWeight + carried, weight = double(Len(exact + 0.5));

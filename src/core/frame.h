@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <type_traits>
 
 #include "core/members.h"
 #include "zmvip.h"
@@ -21,6 +22,8 @@
 #define ZMV_DEFINE(result, name, params, call)                                                                         \
     extern "C" result ZMV_OWN(name) params { return call; }                                                            \
     extern "C" ZMV_API __attribute__((alias(ZMV_STR(ZMV_OWN(name))))) decltype(ZMV_OWN(name)) name;
+
+#define ZMV_INLINE inline __attribute__((always_inline))
 
 namespace zmv {
 
@@ -115,6 +118,19 @@ const T* valuesOf(const T* const& values) {
     return values;
 }
 
+// One element of the caller's, at any address and whatever type was stored there.  The built-in memcpy is a plain move;
+// the C library's may come with a checked call instead.
+template <class T>
+ZMV_INLINE T get(const T* p) {
+    T x;
+    __builtin_memcpy(&x, p, sizeof x);
+    return x;
+}
+template <class T>
+ZMV_INLINE void put(T* p, std::type_identity_t<T> x) {
+    __builtin_memcpy(p, &x, sizeof x);
+}
+
 // Checks.  Each names what it tests; firstOf lists a family's checks in its order of refusal.
 inline StatusCode firstOf(std::initializer_list<StatusCode> checks) {
     for (StatusCode status : checks)
@@ -132,7 +148,7 @@ template <class P>
 StatusCode planePointers(const P* const* planes, int count) {
     if (!planes) return STATUS_NULL_POINTER;
     for (int i = 0; i < count; ++i)
-        if (!planes[i]) return STATUS_NULL_POINTER;
+        if (!get(planes + i)) return STATUS_NULL_POINTER;
     return STATUS_OK;
 }
 inline StatusCode size(Roi roi) { return refuse(roi.width < 1 || roi.height < 1, STATUS_BAD_SIZE); }

@@ -9,12 +9,12 @@ namespace {
 
 void* allocate(int width, int height, uint32_t pixelBytes, int* stepOut) {
     if (!stepOut) return nullptr;
-    *stepOut = 0;
+    put(stepOut, 0);
     if (width <= 0 || height <= 0 || uint32_t(width) > INT32_MAX / pixelBytes) return nullptr;
     const uint32_t step = (uint32_t(width) * pixelBytes + 63) & ~63u;
     // Wrapped; the comparison is with the width in pixels, not with the bytes of the row.
     if (step < uint32_t(width)) return nullptr;
-    *stepOut = int(step);
+    put(stepOut, int(step));
     // From here on the step stays with the caller, also when the image is refused.  A step whose top bit is set counts
     // as negative and makes a total that the allocator refuses.
     const int64_t total = int64_t(int(step)) * int64_t(uint32_t(height));
@@ -24,12 +24,12 @@ void* allocate(int width, int height, uint32_t pixelBytes, int* stepOut) {
 
 void* allocate(int64_t width, int64_t height, uint64_t pixelBytes, int64_t* stepOut) {
     if (!stepOut) return nullptr;
-    *stepOut = 0;
+    put(stepOut, 0);
     if (width <= 0 || height <= 0 || uint64_t(width) > UINT64_MAX / pixelBytes) return nullptr;
     const uint64_t rowBytes = uint64_t(width) * pixelBytes;
     const uint64_t step = (rowBytes + 63) & ~uint64_t(63) & INT64_MAX;
     if (step < rowBytes) return nullptr;
-    *stepOut = int64_t(step);
+    put(stepOut, int64_t(step));
     // Refused when the product could pass 64 bits, judged by the halves of its operands.
     const uint64_t stepHigh = step >> 32, stepLow = uint32_t(step);
     const uint64_t heightHigh = uint64_t(height) >> 32, heightLow = uint32_t(height);

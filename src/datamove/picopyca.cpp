@@ -63,7 +63,7 @@ template <int n, class T, class E>
 StatusCode ownpi_CopyToPlanes(Image<const T> src, E* const* dst, Len dstStep, Roi roi) {
     if (auto bad = firstOf({pointers(src.data), planePointers(dst, n), size(roi)})) return bad;
     Channels<T, n> planes{{}, 1, dstStep};
-    for (int c = 0; c < n; ++c) planes.first[c] = bits(dst[c]);
+    for (int c = 0; c < n; ++c) planes.first[c] = bits(get(dst + c));
     moveChannels<n, n, 1>(inPixels<n>(src, n), planes, roi, planarPastCache<T>(roi, n, false));
     return STATUS_OK;
 }
@@ -72,7 +72,7 @@ template <int n, class T, class E>
 StatusCode ownpi_CopyFromPlanes(const E* const* src, Len srcStep, Image<T> dst, Roi roi) {
     if (auto bad = firstOf({planePointers(src, n), pointers(dst.data), size(roi)})) return bad;
     Channels<const T, n> planes{{}, 1, srcStep};
-    for (int c = 0; c < n; ++c) planes.first[c] = bits(src[c]);
+    for (int c = 0; c < n; ++c) planes.first[c] = bits(get(src + c));
     moveChannels<n, 1, n>(planes, inPixels<n>(dst, n), roi, planarPastCache<T>(roi, n, true));
     return STATUS_OK;
 }

@@ -35,8 +35,6 @@ constexpr int lanesOf = int(sizeof(V) / sizeof(Element<V>));
 template <class T, int bytes = vectorBytes>
 constexpr int lanes = bytes / int(sizeof(T));
 
-#define ZMV_INLINE inline __attribute__((always_inline))
-
 // step(0) .. step(n - 1), each number a constant: arrays of vectors stay in registers.
 template <class Step, int... k>
 ZMV_INLINE void unrolled(Step step, std::integer_sequence<int, k...>) {
@@ -55,17 +53,6 @@ ZMV_INLINE V loadAs(const void* p) {
     V v;
     __builtin_memcpy(&v, p, sizeof v);
     return v;
-}
-// One element, at any address and whatever type the caller stored there.
-template <class T>
-ZMV_INLINE T get(const T* p) {
-    T x;
-    __builtin_memcpy(&x, p, sizeof x);
-    return x;
-}
-template <class T>
-ZMV_INLINE void put(T* p, std::type_identity_t<T> x) {
-    __builtin_memcpy(p, &x, sizeof x);
 }
 template <class T, int bytes = vectorBytes>
 ZMV_INLINE Vec<T, bytes> load(const T* p) {

@@ -1,27 +1,23 @@
 // The spec object of a histogram.  It starts at the first byte of the caller's block, whatever its alignment: the
-// header, then the levels of one channel after the other.  Levels are found by where they stand, not by the header's
-// pointers, so that a copy of the object is as good.
+// header, then the levels of one channel after the other.
 #pragma once
 
+#include <array>
+
+#include "core/spec.h"
 #include "kernels/simd.h"
 
 namespace zmv {
 
 struct HistogramSpec {
+    static constexpr std::array<char, 4> itsTag = {'h', 'i', 's', 't'};
     int32_t dataType, channels, uniform;
-    char tag[4];
+    std::array<char, 4> tag;
     int32_t levelCounts[4];
     const void* levels[4];
     float levelSteps[4];
-
-    static constexpr char itsTag[4] = {'h', 'i', 's', 't'};
-    bool isOne() const { return std::memcmp(tag, itsTag, sizeof tag) == 0; }
-    bool isFor(int type, int channelCount) const { return isOne() && dataType == type && channels == channelCount; }
-    // Where a channel's levels start, in bytes from the start of the object.
-    Len offset(int channel) const {
-        Len offset = sizeof *this;
-        for (int c = 0; c < channel; ++c) offset += Len(levelCounts[c]) * 4;
-        return offset;
+    bool isFor(int type, int channelCount) const {
+        return tag == itsTag && dataType == type && channels == channelCount;
     }
 };
 static_assert(sizeof(HistogramSpec) == 80);
@@ -35,15 +31,24 @@ constexpr int dataTypeOf = std::is_same_v<T, uint8_t>    ? DATATYPE_8U
 template <class T>
 using LevelOf = std::conditional_t<std::is_integral_v<T>, int32_t, float>;
 
+// L: the type of levels.
+template <class L>
+struct HistogramParts : SpecParts {
+    Table<L> levels[4];
+    explicit HistogramParts(const HistogramSpec& header) : SpecParts(sizeof header) {
+        for (int c = 0; c < 4; ++c) levels[c] = table<L>(header.levelCounts[c]);
+    }
+};
+
 template <class L>
 struct Levels {
-    const uint8_t* first;
+    const L* first;
     int count;
     Levels(const uint8_t* spec, int channel) {
-        const auto header = loadAs<HistogramSpec>(spec);
-        first = spec + header.offset(channel), count = header.levelCounts[channel];
+        const auto header = headerOf<HistogramSpec>(spec);
+        first = HistogramParts<L>(header).levels[channel].in(spec), count = header.levelCounts[channel];
     }
-    L operator[](Len k) const { return loadAs<L>(first + k * Len(sizeof(L))); }
+    L operator[](Len k) const { return get(first + k); }
 };
 
 }  // namespace zmv

@@ -6,7 +6,7 @@ namespace zmv {
 namespace {
 
 // What lies outside is counted: to fill up vectors with there is always a bound, which is inside.
-struct Outside {
+struct OutOfRange {
     template <class V>
     ZMV_INLINE auto operator()(V v, V low, V high) const {
         using Ones = Vec<Bits<Element<V>>>;
@@ -18,13 +18,13 @@ struct Outside {
 };
 
 template <int n, class T>
-struct OutsideFold : SumFold<n, T, Counts<Bits<T>>, Outside> {
+struct OutOfRangeFold : SumFold<n, T, Counts<Bits<T>>, OutOfRange> {
     Group<n, Vec<T>> low, high;
-    OutsideFold(const Pattern& lows, const Pattern& highs) {
+    OutOfRangeFold(const Pattern& lows, const Pattern& highs) {
         for (int k = 0; k < groupVectors<n>; ++k)
             low[k] = (Vec<T>)lows.at(k * vectorBytes), high[k] = (Vec<T>)highs.at(k * vectorBytes);
     }
-    using Sums = SumFold<n, T, Counts<Bits<T>>, Outside>;
+    using Sums = SumFold<n, T, Counts<Bits<T>>, OutOfRange>;
     ZMV_INLINE void add(typename Sums::Vectors& counts, const Group<n, Vec<T>>& group) const {
         Sums::add(counts, group, low, high);
     }
@@ -39,7 +39,7 @@ StatusCode ownpi_CountInRange(Image<const T> src, Roi roi, Layout layout, int* c
     const RoundingControl control(RoundingControl::toNearestEven);      // small numbers count as what they are
     const Pattern lows(bits(low), layout), highs(bits(high), layout);
     withChannels(layout.channels, [&](auto n) {
-        OutsideFold<n, T> fold(lows, highs);
+        OutOfRangeFold<n, T> fold(lows, highs);
         foldRegion<n>(fold, roi, lows, src);
         for (int c = 0; c < layout.used(); ++c) {
             const Len count = roi.width * roi.height - Len(fold.totals()[c]);

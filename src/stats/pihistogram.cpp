@@ -11,42 +11,51 @@ StatusCode levelCounts(const int* counts, int channels) {
     return STATUS_OK;
 }
 
-int32_t cutToInt(double level) {
+// A level as the object keeps it: of pixels of integers cut to an integer.
+template <class L>
+L keptAs(double level) {
+    if constexpr (std::is_same_v<L, float>) return float(level);
     if (level >= INT32_MAX) return INT32_MAX;
-    return level <= INT32_MIN ? INT32_MIN : int32_t(level);
+    return level <= INT32_MIN ? INT32_MIN : L(level);
+}
+// Does f with a zero of the type of levels.
+template <class F>
+void withLevelType(int dataType, F f) {
+    dataType == DATATYPE_32F ? f(0.0f) : f(int32_t(0));
 }
 
-HistogramSpec headerOf(int type, const int* counts, int channels, const uint8_t* spec) {
+HistogramSpec headerFor(int type, const int* counts, int channels) {
     HistogramSpec header = {};
     header.dataType = type;
     header.channels = channels;
-    std::memcpy(header.tag, header.itsTag, sizeof header.tag);
-    for (int c = 0; c < 4; ++c) header.levelCounts[c] = c < channels ? get(counts + c) : 0;
-    for (int c = 0; c < channels; ++c) header.levels[c] = spec + header.offset(c);
+    header.tag = header.itsTag;
+    for (int c = 0; c < channels; ++c) header.levelCounts[c] = get(counts + c);
     return header;
 }
 
 // Writes the object.  levelAt(c, k): level k of channel c.
 template <class LevelAt>
-void write(uint8_t* spec, const HistogramSpec& header, LevelAt levelAt) {
-    store(spec, header);
-    uint8_t* to = spec + sizeof header;
-    for (int c = 0; c < header.channels; ++c)
-        for (Len k = 0; k < header.levelCounts[c]; ++k, to += 4)
-            if (header.dataType == DATATYPE_32F)
-                store(to, float(levelAt(c, k)));
-            else
-                store(to, cutToInt(levelAt(c, k)));
+void write(uint8_t* spec, HistogramSpec header, LevelAt levelAt) {
+    withLevelType(header.dataType, [&](auto zero) {
+        using L = decltype(zero);
+        const HistogramParts<L> parts(header);
+        for (int c = 0; c < header.channels; ++c) header.levels[c] = parts.levels[c].in(spec);
+        store(spec, header);
+        for (int c = 0; c < header.channels; ++c)
+            for (Len k = 0; k < header.levelCounts[c]; ++k) put(parts.levels[c].in(spec) + k, keptAs<L>(levelAt(c, k)));
+    });
 }
 
 StatusCode ownpi_HistogramInit(int type, const float* const* levels, const int* counts, int channels, uint8_t* spec) {
     if (auto bad = firstOf({dataType(type), pointers(levels, counts, spec), channelCount(channels)})) return bad;
     if (auto bad = firstOf({planePointers(levels, channels), levelCounts(counts, channels)})) return bad;
     const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
+    const auto level = [&](int c, Len k) { return get(get(levels + c) + k); };
+    const HistogramSpec header = headerFor(type, counts, channels);
     for (int c = 0; c < channels; ++c)
-        for (Len k = 1; k < counts[c]; ++k)
-            if (!(get(levels[c] + k - 1) < get(levels[c] + k))) return STATUS_BAD_RANGE;
-    write(spec, headerOf(type, counts, channels, spec), [&](int c, Len k) { return double(get(levels[c] + k)); });
+        for (Len k = 1; k < header.levelCounts[c]; ++k)
+            if (!(level(c, k - 1) < level(c, k))) return STATUS_BAD_RANGE;
+    write(spec, header, level);
     return STATUS_OK;
 }
 
@@ -56,7 +65,7 @@ StatusCode ownpi_HistogramUniformInit(int type, const float* lower, const float*
     if (auto bad = levelCounts(counts, channels)) return bad;
     constexpr float most = std::numeric_limits<float>::max();
     const RoundingControl control(RoundingControl::toNearestEven);
-    HistogramSpec header = headerOf(type, counts, channels, spec);
+    HistogramSpec header = headerFor(type, counts, channels);
     header.uniform = 1;
     double from[4], to[4], steps[4];
     bool narrow = false;
@@ -75,19 +84,16 @@ StatusCode ownpi_HistogramUniformInit(int type, const float* lower, const float*
 }
 
 StatusCode ownpi_HistogramGetLevels(const uint8_t* spec, float* const* levels) {
-    if (auto bad = pointers(spec, levels)) return bad;
-    const auto header = loadAs<HistogramSpec>(spec);
-    if (!header.isOne()) return STATUS_BAD_SPEC_TAG;
+    const auto header = headerOf<HistogramSpec>(spec);
+    if (auto bad = firstOf({pointers(spec, levels), tagged(header, STATUS_BAD_SPEC_TAG)})) return bad;
     if (auto bad = planePointers(levels, header.channels)) return bad;
     const RoundingControl control(RoundingControl::toNearestEven);
-    const auto copy = [](auto from, float* to) {
-        for (int k = 0; k < from.count; ++k) put(to + k, float(from[k]));
-    };
-    for (int c = 0; c < header.channels; ++c)
-        if (header.dataType == DATATYPE_32F)
-            copy(Levels<float>(spec, c), levels[c]);
-        else
-            copy(Levels<int32_t>(spec, c), levels[c]);
+    withLevelType(header.dataType, [&](auto zero) {
+        for (int c = 0; c < header.channels; ++c) {
+            const Levels<decltype(zero)> from(spec, c);
+            for (Len k = 0; k < from.count; ++k) put(get(levels + c) + k, float(from[k]));
+        }
+    });
     return STATUS_OK;
 }
 
@@ -97,21 +103,25 @@ StatusCode ownpi_HistogramGetBufferSize(int type, ImageSize roi, const int* coun
     if (auto bad = firstOf({levelCounts(counts, channels), dataType(type)})) return bad;
     Len levels = 0;
     for (int c = 0; c < channels; ++c) levels += get(counts + c);
-    const Len spec = Len(sizeof(HistogramSpec)) + 4 * levels;
-    const Len buffer = histogramBufferSize(type, channels, Len(roi.width) * roi.height, levels);
-    if (std::max(spec, buffer) > INT32_MAX) return STATUS_SIZE_EXCEEDS_INT;
+    const WideLen spec = HistogramParts<float>(headerFor(type, counts, channels)).objectBytes(),
+                  buffer = histogramBufferSize(type, channels, Len(roi.width) * roi.height, levels);
+    if (auto bad = firstOf({fits<int>(spec), fits<int>(buffer)})) return bad;
     put(specSize, int(spec)), put(bufferSize, int(buffer));
     return STATUS_OK;
 }
 
 template <int n, class T>
-StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* bins, const uint8_t* spec, uint8_t* buffer) {
-    if (auto bad = firstOf({pointers(src.data, spec, buffer), planePointers(bins, n), size(roi),
+StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* binsOf, const uint8_t* spec, uint8_t* buffer) {
+    if (auto bad = firstOf({pointers(src.data, spec, buffer), planePointers(binsOf, n), size(roi),
                             rowStep(src.step, roi.width * n * Len(sizeof(T)))}))
         return bad;
-    const auto header = loadAs<HistogramSpec>(spec);
+    const auto header = headerOf<HistogramSpec>(spec);
     if (!header.isFor(dataTypeOf<T>, n)) return STATUS_BAD_SPEC_TAG;
-    for (int c = 0; c < n; ++c) std::memset(bins[c], 0, sizeof(int) * size_t(header.levelCounts[c] - 1));
+    int* bins[n];
+    for (int c = 0; c < n; ++c) {
+        bins[c] = get(binsOf + c);
+        std::memset(bins[c], 0, sizeof(int) * size_t(header.levelCounts[c] - 1));
+    }
 
     const RoundingControl control(RoundingControl::toNearestEven);  // small numbers are not zero
     const Len pixels = roi.width * roi.height;
