@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "filter/box.h"
+#include "harness/spec.h"
 
 namespace {
 
@@ -32,18 +33,12 @@ std::vector<int64_t> wholeWeights(const uint8_t* spec, int64_t mask) {
     return weights;
 }
 
-// A spec object made by the library under test, as it was where it is no longer.
-std::vector<uint8_t> madeSpec(const Library& library, int64_t mask, float sigma) {
-    alignas(8) static uint8_t block[1 << 16];
+StatusCode makeGauss(const Library& library, int64_t mask, float sigma, uint8_t* block) {
     const auto init = reinterpret_cast<StatusCode (*)(ImageSize, ImageSize, int, int, float, uint8_t*)>(
         library.find("zmviThresholdAdaptiveGaussInit"));
-    if (specBytes(mask) > int64_t(sizeof block) ||
-        init({1, 1}, {int(mask), int(mask)}, DATATYPE_8U, 1, sigma, block) != STATUS_OK)
-        throw std::string("no spec object");
-    const std::vector<uint8_t> made(block, block + specBytes(mask));
-    std::memset(block, 0, sizeof block);
-    return made;
+    return init({1, 1}, {int(mask), int(mask)}, DATATYPE_8U, 1, sigma, block);
 }
+const ObjectKind gaussObject([](uint8_t* block) { return makeGauss(underTest(), 5, 1, block); });
 
 // ---- Sizes ----
 
@@ -94,7 +89,7 @@ void arrangeInit(Case& c) {
     const float rare[] = {0, -0.0f, -1, NAN, INFINITY, 1e-45f, 1e-30f, 3e38f, 0.1f};
     const float sigma = c.rng.oneIn(2) ? rare[c.rng.below(9)] : float(c.rng.between(1, 4000)) / 100;
     std::memcpy(&c.arg("sigma").a, &sigma, sizeof sigma);
-    c.place("pSpec", specBytes(mask), 1);
+    placeBlock(c, "pSpec", specBytes(mask));
 }
 
 void judgeInit(Case& c) {
@@ -212,10 +207,10 @@ void layOut(Case& c, Shape s) {
     c.arg("maskSize") = {s.mask, s.mask};
     c.placeBuffer("buffer", int64_t(adaptiveBufferSize(s.w, s.h, s.mask)));
     if (isGauss(c)) {
-        // Made elsewhere and copied, mostly to another alignment.
-        const std::vector<uint8_t> spec = madeSpec(c.library, s.mask, float(c.rng.between(-5, 60)) / 10);
-        Image& copy = c.place("pSpec", specBytes(s.mask), 1);
-        for (int64_t i = 0; i < copy.width; ++i) c.set(copy, i, 0, 0, spec[size_t(i)]);
+        const float sigma = float(c.rng.between(-5, 60)) / 10;
+        placeObject(
+            c, "pSpec", specBytes(s.mask), [&](uint8_t* block) { return makeGauss(c.library, s.mask, sigma, block); },
+            1);
     }
     if (huge || c.rng.oneIn(4)) {  // flat, with one pixel whose distance from the mean is a whole number
         const int64_t area = s.mask * s.mask, step = area <= 255 ? area : 0;
@@ -290,7 +285,7 @@ std::vector<Check> queryRefusals(const char* first, const char* second) {
             values("numChannels", STATUS_BAD_CHANNELS, {0, 2, 3, 4, -1, 257})};
 }
 
-// Blocks that are no spec objects, and one of another mask size.
+// Blocks that only nearly hold an object, and one of another mask size.
 struct Foreign {
     uint8_t bytes[64] = {};
     Foreign(uint8_t distance, uint64_t tag, int mask = 0) {
@@ -300,15 +295,15 @@ struct Foreign {
     }
     int64_t address() const { return reinterpret_cast<int64_t>(bytes); }
 };
-const Foreign noTag(8, 0), otherTag(8, specTag + 1), shortTag(8, uint32_t(specTag)), noDistance(0, specTag),
-    farDistance(9, specTag), otherMask(8, specTag, 99);
+const Foreign otherTag(8, specTag + 1), shortTag(8, uint32_t(specTag)), noDistance(0, specTag), farDistance(9, specTag),
+    otherMask(8, specTag, 99);
 
 std::vector<Check> refusals(bool gauss) {
     std::vector<Check> all = {pointers({"src", "dst", "srcDst", "pSpec", "buffer"}), sizes({"roiSize"}),
                               positive({"srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP), masks()};
     if (gauss) {
-        Check foreign{STATUS_CONTEXT_MISMATCH, {}};
-        for (const Foreign* f : {&noTag, &otherTag, &shortTag, &noDistance, &farDistance})
+        Check foreign = notOne("pSpec", STATUS_CONTEXT_MISMATCH, gaussObject);
+        for (const Foreign* f : {&otherTag, &shortTag, &noDistance, &farDistance})
             foreign.breaks.push_back({"pSpec", Break::whole, f->address()});
         all.push_back(foreign);
         all.push_back(values("pSpec", STATUS_BAD_MASK_SIZE, {otherMask.address()}));

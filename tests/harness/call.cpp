@@ -64,6 +64,25 @@ std::string text(T value) {
 
 }  // namespace
 
+std::string faultOf(const std::function<void()>& calls, std::function<std::string(const void*)> where) {
+    catchFaults();
+    const unsigned ourMxcsr = _mm_getcsr();
+    const uint16_t ourX87 = x87Control();
+    faultSignal = 0;
+    if (sigsetjmp(faultReturn, 0) == 0) {
+        calling = 1;
+        calls();
+        calling = 0;
+    }
+    _mm_setcsr(ourMxcsr);
+    setX87Control(ourX87);
+    if (!faultSignal) return {};
+    if (faultSignal != SIGSEGV && faultSignal != SIGBUS) return std::string("ends in ") + strsignal(faultSignal);
+    std::ostringstream address;
+    address << "at " << faultAddress;
+    return "touches memory " + (where ? where(faultAddress) : address.str());
+}
+
 std::set<std::string> Case::exercised;
 
 // Where single operations round as the caller wants, those of the oracle do so too.
@@ -75,34 +94,31 @@ void Case::expectResults() {
 }
 
 void Case::call() {
-    catchFaults();
     exercised.insert(member.name);
     void* const function = library.find(member.name);
     for (Block& b : blocks_)
         if (b.size()) std::memcpy(b.live, b.shadow.data(), b.size());
-    const unsigned ourMxcsr = _mm_getcsr();
-    const uint16_t ourX87 = x87Control();
-    volatile unsigned mxcsrAfter = mxcsr_;
-    volatile uint16_t x87After = x87_;
-    if (sigsetjmp(faultReturn, 0) == 0) {
-        calling = 1;
-        setX87Control(x87_);
-        _mm_setcsr(mxcsr_);
-        returned = member.invoke(function, args_.data());
-        mxcsrAfter = _mm_getcsr();
-        x87After = x87Control();
-        calling = 0;
-    }
-    _mm_setcsr(ourMxcsr);
-    setX87Control(ourX87);
-    if (faultSignal) {
-        const std::string what = faultSignal == SIGSEGV || faultSignal == SIGBUS
-                                     ? "touches memory " + nearest(faultAddress)
-                                     : std::string("ends in ") + strsignal(faultSignal);
-        faultSignal = 0;
-        fail(what);
-        return;
-    }
+    // Arrays of planes stand at odd addresses.
+    constexpr size_t arrayBytes = sizeof(planePointers.begin()->second);
+    alignas(8) uint8_t arrays[4][arrayBytes + 8];
+    std::vector<Slot> args = args_;
+    for (size_t i = 0, next = 0; i < args.size(); ++i)
+        if (member.params[i].planes && args[i].a) {
+            std::memcpy(&arrays[next][1], reinterpret_cast<const void*>(args[i].a), arrayBytes);
+            args[i] = &arrays[next++][1];
+        }
+    unsigned mxcsrAfter = mxcsr_;
+    uint16_t x87After = x87_;
+    const std::string fault = faultOf(
+        [&] {
+            setX87Control(x87_);
+            _mm_setcsr(mxcsr_);
+            returned = member.invoke(function, args.data());
+            mxcsrAfter = _mm_getcsr();
+            x87After = x87Control();
+        },
+        [&](const void* address) { return nearest(address); });
+    if (!fault.empty()) return fail(fault);
     constexpr unsigned control = 0xffc0;  // the rest are flags that a call may raise
     if ((mxcsrAfter ^ mxcsr_) & control) fail("changes the control bits of MXCSR");
     if (x87After != x87_) fail("changes the x87 control word");

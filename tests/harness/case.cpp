@@ -199,7 +199,8 @@ Image& Case::placeValue(const std::string& name, int count) {
     i.width = i.height = 1;
     const bool flushEnd = flushEnd_;
     flushEnd_ = true;
-    i.first[0] = int64_t(newBlock(size_t(count * bytesOf(i.element))));
+    // At the end, or so near to it that no element is aligned.
+    i.first[0] = int64_t(newBlock(size_t(count * bytesOf(i.element)) + seed % 2));
     flushEnd_ = flushEnd;
     i.block[0] = int(blocks_.size()) - 1;
     i.pointer[0] = blocks_.back().live + i.first[0];

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -108,6 +109,9 @@ class Case {
     uint16_t x87_ = 0x37f;
     std::string failure_;
 };
+
+// Does what calls the library.  A fault in it ends it, not the tests; returns what the fault was, or nothing.
+std::string faultOf(const std::function<void()>& calls, std::function<std::string(const void*)> where = nullptr);
 
 // Runs one case from arrangement to verdict.
 std::string runCase(const Member& m, const Library& l, uint64_t seed, Mode mode);

@@ -56,7 +56,7 @@ void arrangeHistogram(Case& c) {
     withElement(c.member.source, [&](auto zero) { choosePixels<decltype(zero)>(c, src); });
     c.arg("roiSize") = {c.width, c.height};
     c.place("pHist", int64_t(arranged.most()) - 1, 1);
-    placeSpec(c, true);
+    placeHistogram(c);
     c.placeBuffer("buffer", bufferSize(arranged, c.width, c.height));
     if (c.mode != Mode::usual) return;
     const auto spoil = [&](int64_t byte, int value) {
@@ -94,7 +94,7 @@ void countPixels(Case& c) {
 std::vector<Check> histogramRefusals() {
     Check steps = positive({"srcStep"}, STATUS_BAD_STEP);
     steps.breaks.push_back({"srcStep", Break::whole, 4});  // the region is five pixels wide
-    return {pointers({"src", "pHist", "pSpec", "buffer"}), sizes({"roiSize"}), steps, badTag};
+    return {pointers({"src", "pHist", "pSpec", "buffer"}), sizes({"roiSize"}), steps, badTag()};
 }
 
 // More pixels in a bin than its int holds.

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "harness/case.h"
+#include "harness/spec.h"
 
 namespace test {
 
@@ -91,17 +91,39 @@ inline int anyChannels(Case& c) {
     return c.mode == Mode::controls ? 4 : counts[c.rng.below(3)];
 }
 
-// The object's memory at any alignment, flush against an unreadable page half of the time.  An object from elsewhere
-// has pointers that lead nowhere.
-inline void placeSpec(Case& c, bool made) {
-    const int64_t before = c.rng.below(20), behind = c.rng.oneIn(2) ? 0 : c.rng.below(20);
-    const Image& place = c.place("pSpec", arranged.bytes(), 1, {before, behind, 0, 0});
-    const std::vector<uint8_t> object = arranged.objectAt(nullptr);
-    for (size_t i = 0; i < object.size() && made; ++i) c.set(place, int64_t(i), 0, 0, object[i]);
+// The object made by the library.
+inline StatusCode makeHistogram(const Library& library, const Spec& spec, uint8_t* block) {
+    const float* levels[4];
+    float lower[4], upper[4];
+    int counts[4];
+    for (int k = 0; k < spec.channels; ++k) {
+        levels[k] = spec.given[k].data(), lower[k] = spec.given[k].front(), upper[k] = spec.given[k].back();
+        counts[k] = int(spec.levels[k].size());
+    }
+    using Init = StatusCode(int, const float* const*, const int*, int, uint8_t*);
+    using UniformInit = StatusCode(int, const float*, const float*, const int*, int, uint8_t*);
+    if (!spec.uniform)
+        return reinterpret_cast<Init*>(library.find("zmviHistogramInit"))(spec.type, levels, counts, spec.channels,
+                                                                          block);
+    return reinterpret_cast<UniformInit*>(library.find("zmviHistogramUniformInit"))(spec.type, lower, upper, counts,
+                                                                                    spec.channels, block);
 }
+inline void placeHistogram(Case& c) {
+    placeObject(
+        c, "pSpec", arranged.bytes(), [&](uint8_t* block) { return makeHistogram(c.library, arranged, block); }, 1);
+}
+inline const ObjectKind histogramObject([](uint8_t* block) {
+    Spec spec;
+    spec.type = DATATYPE_8U, spec.channels = 1, spec.given[0] = {0, 128, 256}, spec.keep(0, 3);
+    return makeHistogram(underTest(), spec, block);
+});
 
 // What lacks the tag of an object.
 inline const uint8_t untagged[headerBytes] = {DATATYPE_8U, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 'h', 'i', 's', 'x'};
-inline const Check badTag = values("pSpec", STATUS_BAD_SPEC_TAG, {reinterpret_cast<int64_t>(untagged)});
+inline Check badTag() {
+    Check check = notOne("pSpec", STATUS_BAD_SPEC_TAG, histogramObject);
+    check.breaks.push_back({"pSpec", Break::whole, reinterpret_cast<int64_t>(untagged)});
+    return check;
+}
 
 }  // namespace test

@@ -10,7 +10,7 @@ void arrangeMaker(Case& c) {
     arranged = anySpec(c, anyType(c), anyChannels(c), uniform);
     c.arg("dataType") = arranged.type;
     c.arg("numChannels") = arranged.channels;
-    placeSpec(c, false);
+    placeBlock(c, "pSpec", arranged.bytes());
     const bool bad = usual && c.rng.oneIn(6), few = usual && c.rng.oneIn(20);
     const int which = c.rng.below(arranged.channels);
     std::vector<float>& levels = arranged.given[which];
@@ -89,7 +89,7 @@ void answerSizes(Case& c) {
 
 void arrangeGetLevels(Case& c) {
     arranged = anySpec(c, anyType(c), anyChannels(c), c.rng.oneIn(2));
-    placeSpec(c, true);
+    placeHistogram(c);
     c.place("pLevels", int64_t(arranged.most()), 1);
 }
 void readLevels(Case& c) {
@@ -113,5 +113,6 @@ extern const Family test_zmviHistogramUniformInit = {
     .oracle = makeSpec,
     .ladder = {badType, pointers({"lowerLevel", "upperLevel", "nLevels", "pSpec"}), badChannels, noLevels,
                falling("lowerLevel")}};
-extern const Family test_zmviHistogramGetLevels = {
-    .arrange = arrangeGetLevels, .oracle = readLevels, .ladder = {noPointer({"pSpec", "pLevels"}), badTag, noArrays()}};
+extern const Family test_zmviHistogramGetLevels = {.arrange = arrangeGetLevels,
+                                                   .oracle = readLevels,
+                                                   .ladder = {noPointer({"pSpec", "pLevels"}), badTag(), noArrays()}};
