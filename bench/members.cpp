@@ -49,7 +49,7 @@ std::unique_ptr<Call> bind(const Member& member, const Setting& setting, const B
 }
 
 const Member table[] = {
-#define FAMILY(name, module, text, members) members
+#define FAMILY(name, module, facts, text, members) members
 #define ENTRY_OF(result, name, params, call) MEMBER(result, name, params)
 #define MEMBER(result, name, params) {#name, #params, bind<result params>},
 #define CONSTANT(name, value)

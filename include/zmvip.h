@@ -20,8 +20,8 @@ extern "C" {
 
 /* zmviMalloc: Memory for a width x height image whose rows start at multiples of 64 bytes.
    Writes the step in bytes to stepOut and returns the first pixel, or null: when stepOut is null, a size is not
-   positive, the row or the image does not fit the argument types, or memory runs out.  stepOut is then 0, or the
-   step if that was known before the whole image turned out too large.  Contents are not initialised.
+   positive, the row or the image does not fit the argument types, or memory runs out.  stepOut is then 0, or the step
+   if that was known before the whole image turned out too large.  Contents are not initialised.
    src/core/pialloc.cpp */
 ZMV_API uint8_t* zmviMalloc_8u_C1(int width, int height, int* stepOut);
 ZMV_API uint8_t* zmviMalloc_8u_C1_L(int64_t width, int64_t height, int64_t* stepOut);
@@ -114,13 +114,14 @@ extern ZMV_API const double zmvConstantOfINF_64f;
      C1C3R C1C4R       into one channel of each pixel: dst points at it
      C3AC4R AC4C3R     three channels into or out of four-channel pixels; the fourth of dst stays as it was
      C3P3R .. P4C4R    between pixels and an array of three or four planes that share one step
-   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
    In place: src == dst is allowed where both have one layout (it changes nothing).  Where src and dst otherwise
    overlap, the result of whole-pixel and masked copies is undefined; all other copies and AC4R then work pixel by
    pixel, top to bottom and left to right, each reading what the ones before it wrote.
-   Whole copies of more than 1 MiB, and planar ones (of 8u only P4C4R) that read and write more than the largest
-   cache holds, are written past the caches.
-   STATUS_NULL_POINTER: src, dst, mask, or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   Whole copies of more than 1 MiB, and planar ones (of 8u only P4C4R) that read and write more than the largest cache
+   holds, are written past the caches.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane or mask is null.  STATUS_BAD_SIZE: width or height
+   below 1.
    src/datamove/picopyca.cpp */
 ZMV_API StatusCode zmviCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviCopy_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize);
@@ -244,25 +245,27 @@ ZMV_API StatusCode zmviCopy_32f_P3C3R(const float* const src[3], int srcStep, fl
 ZMV_API StatusCode zmviCopy_32f_P4C4R(const float* const src[4], int srcStep, float* dst, int dstStep, ImageSize roiSize);
 
 /* zmviCopyManaged: dst = src with a say in the caches: bit 0 of flags set writes past them, no other bit matters.
-   Any step is accepted; src and dst must not overlap.
-   STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    src/datamove/picopymng.cpp */
 ZMV_API StatusCode zmviCopyManaged_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int flags);
 
 /* zmviDup: Every channel of dst = src, a one-channel image.
-   Any step is accepted.  Overlapping images are worked pixel by pixel, top to bottom and left to right.
-   STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   Overlapping images are worked pixel by pixel, top to bottom and left to right.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    src/datamove/picopyca.cpp */
 ZMV_API StatusCode zmviDup_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviDup_8u_C1C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 
 /* zmviSet: dst = value in every pixel: one value, or a pointer to one value a channel (three for C3 and AC4, four for
    C4).
-   AC4 leaves the fourth channel as it was; C3CR and C4CR set the one channel that dst points at; the M forms set
-   only pixels whose byte in mask, a one-channel 8-bit image, is not zero.
-   Any step is accepted, zero and negative ones too.  C1R, C3R and C4R regions larger than the cache are written
-   past it.
-   STATUS_NULL_POINTER: value, dst or mask is null.  STATUS_BAD_SIZE: width or height below 1.
+   AC4 leaves the fourth channel as it was; C3CR and C4CR set the one channel that dst points at; the M forms set only
+   pixels whose byte in mask, a one-channel 8-bit image, is not zero.
+   C1R, C3R and C4R regions larger than the cache are written past it.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: dst, value or mask is null.  STATUS_BAD_SIZE: width or height below 1.
    src/datamove/piset.cpp */
 ZMV_API StatusCode zmviSet_8u_C1R(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviSet_8u_C3R(const uint8_t* value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -321,8 +324,8 @@ ZMV_API StatusCode zmviSet_32f_C4CR(float value, float* dst, int dstStep, ImageS
    The frame takes value: one value, or a pointer to one value a channel (three for C3 and AC4).
    AC4 leaves the fourth channel as it was, inside and in the frame.  src and dst must not overlap.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
-   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
-   STATUS_NULL_POINTER: value is null, tested last.
+   STATUS_BAD_SIZE: a size below 1, then top or left is negative, then the source does not fit into dstRoiSize.
+   STATUS_NULL_POINTER: value is null.
    src/datamove/piconstlbordca.cpp */
 ZMV_API StatusCode zmviCopyConstBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left, uint8_t value);
 ZMV_API StatusCode zmviCopyConstBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left, uint8_t value);
@@ -409,10 +412,10 @@ ZMV_API StatusCode zmviCopyConstBorder_32f_AC4IR_L(float* srcDst, int64_t srcDst
    dstRoiSize is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame repeats the nearest pixel of the source: a a|a b c d|d d.
-   AC4 leaves the fourth channel as it was, inside and in the frame.  With src == dst the call is the in-place form
-   with the step of dst; other overlap is undefined.
+   AC4 leaves the fourth channel as it was, inside and in the frame.  With src == dst the call is the in-place form with
+   the step of dst; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
-   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   STATUS_BAD_SIZE: a size below 1, then top or left is negative, then the source does not fit into dstRoiSize.
    src/datamove/pireplbordca.cpp */
 ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
 ZMV_API StatusCode zmviCopyReplicateBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
@@ -499,10 +502,10 @@ ZMV_API StatusCode zmviCopyReplicateBorder_32f_AC4IR_L(float* srcDst, int64_t sr
    dstRoiSize is filled.
    In place (IR): srcDst points at the source region inside the larger image; only the frame is written.
    The frame mirrors the source about its edge pixels, which are not repeated: c b|a b c d|c b.
-   Borders may be wider than the source: the mirror images go on with period 2 * width - 2.  With src == dst the
-   call is the in-place form with the step of dst; other overlap is undefined.
+   Borders may be wider than the source: the mirror images go on with period 2 * width - 2.  With src == dst the call is
+   the in-place form with the step of dst; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
-   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   STATUS_BAD_SIZE: a size below 1, then top or left is negative, then the source does not fit into dstRoiSize.
    src/datamove/pimirrorborder.cpp */
 ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcRoiSize, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
 ZMV_API StatusCode zmviCopyMirrorBorder_8u_C1R_L(const uint8_t* src, int64_t srcStep, ImageSizeL srcRoiSize, uint8_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
@@ -571,7 +574,7 @@ ZMV_API StatusCode zmviCopyMirrorBorder_32f_C4IR_L(float* srcDst, int64_t srcDst
    The frame repeats the source periodically: c d|a b c d|a b, as often as needed.
    src and dst must not overlap.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
-   STATUS_BAD_SIZE: a size below 1, then top or left negative, then the source does not fit into dstRoiSize.
+   STATUS_BAD_SIZE: a size below 1, then top or left is negative, then the source does not fit into dstRoiSize.
    src/datamove/piwrapbordca.cpp */
 ZMV_API StatusCode zmviCopyWrapBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcRoiSize, int32_t* dst, int dstStep, ImageSize dstRoiSize, int top, int left);
 ZMV_API StatusCode zmviCopyWrapBorder_32s_C1R_L(const int32_t* src, int64_t srcStep, ImageSizeL srcRoiSize, int32_t* dst, int64_t dstStep, ImageSizeL dstRoiSize, int64_t top, int64_t left);
@@ -583,26 +586,28 @@ ZMV_API StatusCode zmviCopyWrapBorder_32f_C1IR(float* srcDst, int srcDstStep, Im
 ZMV_API StatusCode zmviCopyWrapBorder_32f_C1IR_L(float* srcDst, int64_t srcDstStep, ImageSizeL srcRoiSize, ImageSizeL dstRoiSize, int64_t top, int64_t left);
 
 /* zmviFilterBoxBorderGetBufferSize: For zmviFilterBoxBorder.
-   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and
-   a channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
-   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1.
-   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_DATATYPE, STATUS_BAD_CHANNELS: others than these.
-   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and a
+   channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U,
+   _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
    src/filter/piblurn.cpp */
 ZMV_API StatusCode zmviFilterBoxBorderGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
 
 /* zmviFilterBoxBorder: The mean of the window round each pixel (box filter).
    The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
    outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
-   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
-   alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
-   Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an
-   integer (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size,
-   times 1 / area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only
-   windows that contain it.
-   In place: src == dst with equal steps is allowed; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
-   positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   AC4 leaves the fourth channel as it was.
+   Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an integer
+   (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size, times 1 /
+   area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only windows that
+   contain it.
+   In place: src == dst with equal steps; other overlap is undefined.
+   buffer has the size that zmviFilterBoxBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.
    STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue.
    src/filter/piblurn.cpp */
 ZMV_API StatusCode zmviFilterBoxBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
@@ -624,34 +629,37 @@ ZMV_API StatusCode zmviFilterBoxBorder_32f_AC4R(const float* src, int srcStep, f
 
 /* zmviFilterBox: The mean of the window that covers columns x - anchor.x .. + maskSize.width - 1 and rows likewise, all
    read from
-   the caller's memory: those round the region must be readable.  src and dst must not overlap.
-   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_SIZE: a region size below 1.
-   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_ANCHOR: the anchor lies outside the mask.
+   the caller's memory: those round the region must be readable.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_ANCHOR: anchor lies outside the mask.
    STATUS_BAD_STEP: a step is not positive.
    src/filter/piblurn.cpp */
 ZMV_API StatusCode zmviFilterBox_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, ImagePoint anchor);
 
 /* zmviSumWindowGetBufferSize: For zmviSumWindow.
-   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and
-   a channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
-   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1.
-   STATUS_BAD_MASK_SIZE: a mask size below 1.  STATUS_BAD_DATATYPE, STATUS_BAD_CHANNELS: others than these.
-   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and a
+   channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U,
+   _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
    src/filter/pisumwindow.cpp */
 ZMV_API StatusCode zmviSumWindowGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
 
 /* zmviSumWindow: The sum of the window round each pixel.
    The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
    outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
-   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
-   alone.  buffer has the size that the query reports, at any alignment.  AC4 leaves the fourth channel as it was.
-   8u32s: the exact sum, saturated.  16u32f, 16s32f: the exact sum, rounded once to nearest even.  32f: the sum
-   formed in one order for every window of that mask size, as in zmviFilterBoxBorder.
-   In place: src == dst with equal steps is allowed (a row of dst then takes the place of its row of src), but not
-   with BORDER_IN_MEM_RIGHT where the elements of dst are wider: they would overwrite those columns.  Other overlap
-   is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: src, dst or buffer is null.  STATUS_BAD_STEP: a step is not
-   positive.  STATUS_BAD_SIZE: a region size below 1.  STATUS_BAD_MASK_SIZE: a mask size below 1.
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   AC4 leaves the fourth channel as it was.
+   8u32s: the exact sum, saturated.  16u32f, 16s32f: the exact sum, rounded once to nearest even.  32f: the sum formed
+   in one order for every window of that mask size, as in zmviFilterBoxBorder.
+   In place: src == dst with equal steps is allowed (a row of dst then takes the place of its row of src), but not with
+   BORDER_IN_MEM_RIGHT where the elements of dst are wider: they would overwrite those columns.  Other overlap is
+   undefined.
+   buffer has the size that zmviSumWindowGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.
    STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue.
    src/filter/pisumwindow.cpp */
 ZMV_API StatusCode zmviSumWindow_8u32s_C1R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
@@ -672,11 +680,13 @@ ZMV_API StatusCode zmviSumWindow_32f_C4R(const float* src, int srcStep, float* d
 ZMV_API StatusCode zmviSumWindow_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
 
 /* zmviSumWindowRow: dst(x, y) = sum of src(x - anchor + k, y) over
-   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before
-   and after the region must be readable.  Any step is accepted; src and dst must not overlap.  A region size below
-   1 is no error: the result is STATUS_OK and nothing is written.
-   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
-   STATUS_BAD_ANCHOR: anchor is not in 0 .. maskSize - 1.
+   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before and
+   after the region must be readable.  A region size below 1 is no error: the result is STATUS_OK and nothing is
+   written.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
+   STATUS_BAD_ANCHOR: anchor lies outside the mask.
    src/filter/pisumwindow.cpp */
 ZMV_API StatusCode zmviSumWindowRow_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 ZMV_API StatusCode zmviSumWindowRow_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
@@ -689,11 +699,13 @@ ZMV_API StatusCode zmviSumWindowRow_16s32f_C3R(const int16_t* src, int srcStep, 
 ZMV_API StatusCode zmviSumWindowRow_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 
 /* zmviSumWindowColumn: dst(x, y) = sum of src(x, y - anchor + k) over
-   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before
-   and after the region must be readable.  Any step is accepted; src and dst must not overlap.  A region size below
-   1 is no error: the result is STATUS_OK and nothing is written.
-   Checked in this order.  STATUS_NULL_POINTER: src or dst is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
-   STATUS_BAD_ANCHOR: anchor is not in 0 .. maskSize - 1.
+   pixels of memory, with k = 0 .. maskSize - 1; the exact sum, rounded once to nearest even.  The pixels before and
+   after the region must be readable.  A region size below 1 is no error: the result is STATUS_OK and nothing is
+   written.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_MASK_SIZE: maskSize below 1.
+   STATUS_BAD_ANCHOR: anchor lies outside the mask.
    src/filter/pisumwindow.cpp */
 ZMV_API StatusCode zmviSumWindowColumn_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 ZMV_API StatusCode zmviSumWindowColumn_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
@@ -706,14 +718,14 @@ ZMV_API StatusCode zmviSumWindowColumn_16s32f_C3R(const int16_t* src, int srcSte
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 
 /* zmviAdd: dst = src1 + src2.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
-   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
-   if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    src/arith/piadd.cpp */
 ZMV_API StatusCode zmviAdd_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -783,9 +795,9 @@ ZMV_API StatusCode zmviAdd_32f_AC4IR_L(const float* src, int64_t srcStep, float*
 
 /* zmviAddC: dst = src + value.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -857,14 +869,14 @@ ZMV_API StatusCode zmviAddC_32f_AC4IR(float* srcDst, int srcDstStep, const float
 ZMV_API StatusCode zmviAddC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
 
 /* zmviSub: dst = src2 - src1; in place, srcDst = srcDst - src.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
-   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
-   if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    src/arith/pisub.cpp */
 ZMV_API StatusCode zmviSub_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -934,9 +946,9 @@ ZMV_API StatusCode zmviSub_32f_AC4IR_L(const float* src, int64_t srcStep, float*
 
 /* zmviSubC: dst = src - value.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1008,14 +1020,14 @@ ZMV_API StatusCode zmviSubC_32f_AC4IR(float* srcDst, int srcDstStep, const float
 ZMV_API StatusCode zmviSubC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const float* value, ImageSizeL roiSize);
 
 /* zmviMul: dst = src1 * src2.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
-   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
-   if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMul_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1085,9 +1097,9 @@ ZMV_API StatusCode zmviMul_32f_AC4IR_L(const float* src, int64_t srcStep, float*
 
 /* zmviMulC: dst = src * value.
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both
-   operands are NaN, that of the image that is second, or only, goes on.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
+   are NaN, that of the image that is second, or only, goes on.
    AC4 leaves the fourth channel of the destination as it was.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
@@ -1162,15 +1174,14 @@ ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
    Integers: the exact quotient times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
    any scaleFactor is accepted.  32f: the quotient in single precision, under the caller's rounding mode.
    Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
-   negative one, zero for zero, and floats what division gives; the call ends with STATUS_WARN_DIV_BY_ZERO.  A fourth
-   channel that is left alone is not looked at.
+   negative one, zero for zero, and floats what division gives.  A fourth channel that is left alone is not looked at.
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
-   if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
-   STATUS_BAD_STEP: a step is not
-   positive.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   STATUS_WARN_DIV_BY_ZERO: a divisor is zero; all results are written.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDiv_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
 ZMV_API StatusCode zmviDiv_8u_C1RSfs_L(const uint8_t* src1, int64_t src1Step, const uint8_t* src2, int64_t src2Step, uint8_t* dst, int64_t dstStep, ImageSizeL roiSize, int scaleFactor);
@@ -1241,7 +1252,7 @@ ZMV_API StatusCode zmviDiv_32f_AC4IR_L(const float* src, int64_t srcStep, float*
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.  STATUS_DIV_BY_ZERO: a value is zero, of either sign.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1311,18 +1322,17 @@ ZMV_API StatusCode zmviDivC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
 
 /* zmviDiv_Round: dst = src2 / src1; in place, srcDst = srcDst / src.
    The exact quotient times 2 to the power of -scaleFactor, rounded once, saturated; any scaleFactor is accepted.
-   roundMode: ROUND_ZERO toward zero; ROUND_NEAR to nearest, ties to even; ROUND_FINANCIAL to the largest integer
-   that does not exceed the result plus one half.
+   roundMode: ROUND_ZERO toward zero; ROUND_NEAR to nearest, ties to even; ROUND_FINANCIAL to the largest integer that
+   does not exceed the result plus one half.
    Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
-   negative one, zero for zero, and floats what division gives; the call ends with STATUS_WARN_DIV_BY_ZERO.  A fourth
-   channel that is left alone is not looked at.
+   negative one, zero for zero, and floats what division gives.  A fourth channel that is left alone is not looked at.
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources
-   if it has that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
-   STATUS_BAD_STEP: a step is not
-   positive.  STATUS_BAD_ROUND_MODE: roundMode is none of these.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_ROUND_MODE: roundMode is none of these.
+   STATUS_WARN_DIV_BY_ZERO: a divisor is zero; all results are written.
    src/arith/pidiv.cpp */
 ZMV_API StatusCode zmviDiv_Round_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, int roundMode, int scaleFactor);
 ZMV_API StatusCode zmviDiv_Round_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int roundMode, int scaleFactor);
@@ -1351,10 +1361,10 @@ ZMV_API StatusCode zmviDiv_Round_16s_AC4IRSfs(const int16_t* src, int srcStep, i
 
 /* zmviAnd: dst = src1 & src2, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
-   that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1386,7 +1396,7 @@ ZMV_API StatusCode zmviAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1416,10 +1426,10 @@ ZMV_API StatusCode zmviAndC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int
 
 /* zmviOr: dst = src1 | src2, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
-   that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1451,7 +1461,7 @@ ZMV_API StatusCode zmviOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* sr
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1481,10 +1491,10 @@ ZMV_API StatusCode zmviOrC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int3
 
 /* zmviXor: dst = src1 ^ src2, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
-   that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1516,7 +1526,7 @@ ZMV_API StatusCode zmviXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* s
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pilogic.cpp */
 ZMV_API StatusCode zmviXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1548,10 +1558,10 @@ ZMV_API StatusCode zmviXorC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const int
    down over
    255.  16u: over 65535, rounded to nearest (there are no ties).
    AC4 leaves the fourth channel of the destination as it was.
-   In place (I): srcDst is one image and the destination.  In the other forms dst may be one of the sources if it has
-   that source's step; other overlap is undefined.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulScale_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1575,7 +1585,7 @@ ZMV_API StatusCode zmviMulScale_16u_AC4IR(const uint16_t* src, int srcStep, uint
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulCScale_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1600,7 +1610,7 @@ ZMV_API StatusCode zmviMulCScale_16u_AC4IR(uint16_t* srcDst, int srcDstStep, con
    nearest even whatever the caller's rounding mode.
    value is one number for C1, a pointer to three for C3, to four for C4.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pimul.cpp */
 ZMV_API StatusCode zmviMulC64f_8u_C1R(const uint8_t* src, int srcStep, double value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1632,7 +1642,7 @@ ZMV_API StatusCode zmviMulC64f_32f_C4IR(float* srcDst, int srcDstStep, const dou
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pishift.cpp */
 ZMV_API StatusCode zmviLShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1666,7 +1676,7 @@ ZMV_API StatusCode zmviLShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const 
    value is one number for C1, a pointer to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/pishift.cpp */
 ZMV_API StatusCode zmviRShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1705,7 +1715,7 @@ ZMV_API StatusCode zmviRShiftC_32s_AC4IR(int32_t* srcDst, int srcDstStep, const 
 /* zmviAbs: dst = |src|; of -32768 it is 32767.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviAbs_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
@@ -1726,11 +1736,11 @@ ZMV_API StatusCode zmviAbs_32f_AC4R(const float* src, int srcStep, float* dst, i
 ZMV_API StatusCode zmviAbs_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize);
 
 /* zmviSqr: dst = src * src.
-   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated;
-   any scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode.
+   Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
+   scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviSqr_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1769,12 +1779,12 @@ ZMV_API StatusCode zmviSqr_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize ro
 /* zmviSqrt: dst = the square root of src.
    Integers: the exact root times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
    scaleFactor is accepted.
-   Negative numbers give 0.  32f: the root in single precision, under the caller's rounding mode; negative numbers
-   give NaN.
+   Negative numbers give 0.  32f: the root in single precision, under the caller's rounding mode; negative numbers give
+   NaN.
    Regions that read and write more than the largest cache holds are written past the caches, but not in place.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviSqrt_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1809,7 +1819,7 @@ ZMV_API StatusCode zmviSqrt_32f_C4IR(float* srcDst, int srcDstStep, ImageSize ro
    32f: within one unit in the last place, the same whatever the caller's rounding mode; minus infinity gives 0.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piexpln.cpp */
 ZMV_API StatusCode zmviExp_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1836,7 +1846,7 @@ ZMV_API StatusCode zmviExp_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roi
    the caller's rounding mode; zero gives minus infinity, negative numbers NaN.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piexpln.cpp */
 ZMV_API StatusCode zmviLn_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1859,7 +1869,7 @@ ZMV_API StatusCode zmviLn_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiS
 /* zmviComplement: dst = -src in two's complement; the type's minimum stays as it is.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviComplement_8s_C1R(const int8_t* src, int srcStep, int8_t* dst, int dstStep, ImageSize roiSize);
@@ -1890,7 +1900,7 @@ ZMV_API StatusCode zmviComplement_32s_AC4IR(int32_t* srcDst, int srcDstStep, Ima
 /* zmviNot: dst = ~src, bit by bit.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1. 
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/arith/piunary.cpp */
 ZMV_API StatusCode zmviNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -1907,10 +1917,10 @@ ZMV_API StatusCode zmviNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize r
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_ARGUMENT: cmpOp is neither.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or threshold is null.  STATUS_BAD_SIZE: width or height below
+   1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_ARGUMENT: cmpOp is neither.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, int cmpOp);
 ZMV_API StatusCode zmviThreshold_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, int cmpOp);
@@ -1942,10 +1952,10 @@ ZMV_API StatusCode zmviThreshold_32f_AC4IR(float* srcDst, int srcDstStep, ImageS
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or threshold is null.  STATUS_BAD_SIZE: width or height below
+   1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_GT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold);
 ZMV_API StatusCode zmviThreshold_GT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
@@ -1977,10 +1987,10 @@ ZMV_API StatusCode zmviThreshold_GT_32f_AC4IR(float* srcDst, int srcDstStep, Ima
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or threshold is null.  STATUS_BAD_SIZE: width or height below
+   1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_LT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold);
 ZMV_API StatusCode zmviThreshold_LT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
@@ -2013,11 +2023,10 @@ ZMV_API StatusCode zmviThreshold_LT_32f_AC4IR(float* srcDst, int srcDstStep, Ima
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   STATUS_BAD_ARGUMENT: cmpOp is neither; this goes before the other checks.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_BAD_ARGUMENT: cmpOp is neither.  STATUS_NULL_POINTER: an image, threshold or value is
+   null.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_Val_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value, int cmpOp);
 ZMV_API StatusCode zmviThreshold_Val_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value, int cmpOp);
@@ -2049,10 +2058,10 @@ ZMV_API StatusCode zmviThreshold_Val_32f_AC4IR(float* srcDst, int srcDstStep, Im
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image, threshold or value is null.  STATUS_BAD_SIZE: width or height
+   below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_GTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
 ZMV_API StatusCode zmviThreshold_GTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
@@ -2092,10 +2101,10 @@ ZMV_API StatusCode zmviThreshold_GTVal_32f_AC4IR(float* srcDst, int srcDstStep, 
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image, threshold or value is null.  STATUS_BAD_SIZE: width or height
+   below 1.  STATUS_BAD_STEP: a step is not positive.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_LTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
 ZMV_API StatusCode zmviThreshold_LTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, uint8_t value);
@@ -2135,11 +2144,11 @@ ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, 
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
    AC4 leaves the fourth channel of the destination as it was.
-   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image, a threshold or a value is null.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_THRESHOLD: a thresholdGT lies below its
-   thresholdLT.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image, thresholdLT, valueLT, thresholdGT or valueGT is null.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_THRESHOLD: a
+   thresholdGT lies below its thresholdLT.
    src/arith/pithresh.cpp */
 ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
 ZMV_API StatusCode zmviThreshold_LTValGTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
@@ -2171,15 +2180,15 @@ ZMV_API StatusCode zmviThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstS
    less than 2^-23 of the pixels are not considered; when there are no others, as in a flat image, the result is 0.
    Evaluated in double precision; the caller's rounding mode has no influence and is not changed.
    Checked in this order.  STATUS_NULL_POINTER: src or pThreshold is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: srcStep is less than the width.
+   STATUS_BAD_STEP: srcStep is less than the bytes of a row.
    src/arith/pithresholdotsu.cpp */
 ZMV_API StatusCode zmviComputeThreshold_Otsu_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pThreshold);
 
 /* zmviThresholdAdaptiveBoxGetBufferSize: The size in bytes of the work buffer of zmviThresholdAdaptiveBox.
-   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: a region size below 1. 
-   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
-   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
-   STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.  STATUS_BAD_DATATYPE: dataType is not
+   DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647; nothing
+   is written.
    src/arith/pithresholdadaptive.cpp */
 ZMV_API StatusCode zmviThresholdAdaptiveBoxGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
 
@@ -2189,12 +2198,11 @@ ZMV_API StatusCode zmviThresholdAdaptiveBoxGetBufferSize(ImageSize roiSize, Imag
    is above.  A delta above 255 gives valGT, one at or below -255 valLE, and a mask of 1x1 valGT where delta > 0, all
    without reading src.
    Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue), each with any
-   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.  buffer has the size that the query
-   reports, at any alignment.
-   In place: the I form, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: a region size below 1. 
-   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize
-   is not square, not positive, or even.
+   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   buffer has the size that zmviThresholdAdaptiveBoxGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
    STATUS_BAD_BORDER: borderType is none of these.
    src/arith/pithresholdadaptive.cpp */
 ZMV_API StatusCode zmviThresholdAdaptiveBox_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, uint8_t* buffer);
@@ -2202,24 +2210,24 @@ ZMV_API StatusCode zmviThresholdAdaptiveBox_8u_C1IR(uint8_t* srcDst, int srcDstS
 
 /* zmviThresholdAdaptiveGaussGetBufferSize: The sizes in bytes of the spec object and of the work buffer of
    zmviThresholdAdaptiveGauss.
-   Checked in this order.  STATUS_NULL_POINTER: pSpecSize or pBufferSize is null.  STATUS_BAD_SIZE: a region size below
-   1.  STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
-   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
-   STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647; nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: pSpecSize or pBufferSize is null.  STATUS_BAD_SIZE: width or height
+   below 1.  STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.  STATUS_BAD_DATATYPE: dataType is not
+   DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647; nothing
+   is written.
    src/arith/pithresholdadaptive.cpp */
 ZMV_API StatusCode zmviThresholdAdaptiveGaussGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pSpecSize, int* pBufferSize);
 
 /* zmviThresholdAdaptiveGaussInit: Makes the spec object of zmviThresholdAdaptiveGauss in pSpec, at any alignment; it
    may be copied elsewhere.
-   The weights of offsets i from the middle, the same for rows and columns, are exp(-i * i / (2 * sigma * sigma))
-   over the sum of all, as multiples of 2^-22 that differ from it by at most one such unit and add up to 1.  A sigma
-   that is not above 0 stands for 0.15 * (maskSize - 1) + 0.5.
-   The object starts at the first multiple of 8 behind pSpec, whose first byte is the distance: a 64-bit tag, a mode
-   of 1 and the mask size in 32 bits, sigma, 4 bytes of 0, the address of the weights, and these as floats.
-   Checked in this order.  STATUS_NULL_POINTER: pSpec is null.  STATUS_BAD_SIZE: a region size below 1. 
-   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.
-   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.
-   STATUS_SIZE_EXCEEDS_INT: the object takes more than 2147483647 bytes.
+   The weights of offsets i from the middle, the same for rows and columns, are exp(-i * i / (2 * sigma * sigma)) over
+   the sum of all, as multiples of 2^-22 that differ from it by at most one such unit and add up to 1.  A sigma that is
+   not above 0 stands for 0.15 * (maskSize - 1) + 0.5.
+   The object starts at the first multiple of 8 behind pSpec, whose first byte is the distance: a 64-bit tag, a mode of
+   1 and the mask size in 32 bits, sigma, 4 bytes of 0, the address of the weights, and these as floats.
+   Checked in this order.  STATUS_NULL_POINTER: pSpec is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or even.  STATUS_BAD_DATATYPE: dataType is not
+   DATATYPE_8U.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the object takes more than
+   2147483647 bytes.
    src/arith/pithresholdadaptive.cpp */
 ZMV_API StatusCode zmviThresholdAdaptiveGaussInit(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, float sigma, uint8_t* pSpec);
 
@@ -2230,14 +2238,13 @@ ZMV_API StatusCode zmviThresholdAdaptiveGaussInit(ImageSize roiSize, ImageSize m
    without reading src.
    The mean is weighted: a pixel counts with the product of the weights of its column and of its row in pSpec.
    Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue), each with any
-   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.  buffer has the size that the query
-   reports, at any alignment.
-   In place: the I form, or src == dst with equal steps; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image, pSpec or buffer is null.  STATUS_BAD_SIZE: a region size below
-   1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize
-   is not square, not positive, or even.
-   STATUS_CONTEXT_MISMATCH: pSpec holds no object of zmviThresholdAdaptiveGaussInit.
-   STATUS_BAD_MASK_SIZE: it has another mask size.  STATUS_BAD_BORDER: borderType is none of these.
+   BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   buffer has the size that zmviThresholdAdaptiveGaussGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pSpec or buffer is null.  STATUS_BAD_SIZE: width or height
+   below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: maskSize is not square, not positive, or
+   even.  STATUS_CONTEXT_MISMATCH: pSpec holds no object of zmviThresholdAdaptiveGaussInit.  STATUS_BAD_MASK_SIZE: it
+   has another mask size.  STATUS_BAD_BORDER: borderType is none of these.
    src/arith/pithresholdadaptive.cpp */
 ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, const uint8_t* pSpec, uint8_t* buffer);
 ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize, float delta, uint8_t valGT, uint8_t valLE, int borderType, uint8_t borderValue, const uint8_t* pSpec, uint8_t* buffer);
@@ -2251,16 +2258,16 @@ ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1IR(uint8_t* srcDst, int srcDs
      ALPHA_ATOP    cA*aA*aB + cB*aB*(1 - aA)          aB
      ALPHA_XOR     cA*aA*(1 - aB) + cB*aB*(1 - aA)    aA*(1 - aB) + aB*(1 - aA)
      ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
-   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA
-   or aB behind a colour, and at most 1.
+   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
+   aB behind a colour, and at most 1.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
    rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
    Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
    AC1: images of alphas alone.  AC4: the fourth channel is alpha, of dst too.  AP4: the fourth plane is.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if
-   it has that source's step, of planes each its own; other overlap is undefined.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_ALPHA_TYPE: alphaType is none of the twelve.
    src/arith/pialpha8u.cpp */
@@ -2296,16 +2303,16 @@ ZMV_API StatusCode zmviAlphaComp_16u_AP4IR(const uint16_t* const src1[4], int sr
      ALPHA_ATOP    cA*aA*aB + cB*aB*(1 - aA)          aB
      ALPHA_XOR     cA*aA*(1 - aB) + cB*aB*(1 - aA)    aA*(1 - aB) + aB*(1 - aA)
      ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
-   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA
-   or aB behind a colour, and at most 1.
+   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
+   aB behind a colour, and at most 1.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
    rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
    Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
    Only colours are written.  AC4 and AP4 leave the fourth channel or plane of the destination as it was.
    Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
-   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if
-   it has that source's step, of planes each its own; other overlap is undefined.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_ALPHA_TYPE: alphaType is none of the twelve.
    src/arith/pialpha8u.cpp */
@@ -2392,7 +2399,7 @@ ZMV_API StatusCode zmviAlphaPremulC_16u_AP4IR(uint16_t* const srcDst[4], int src
    Except in Rs, RSfs and AC4, regions that read and write more than the largest cache holds are written past the
    caches.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive; Rs accepts any step.
+   STATUS_BAD_STEP: a step is not positive; Rs accepts any.
    src/datamove/piconvertca.cpp and piconvert_ort.cpp */
 ZMV_API StatusCode zmviConvert_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviConvert_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
@@ -2503,11 +2510,11 @@ ZMV_API StatusCode zmviConvert_64f16s_C1RSfs(const double* src, int srcStep, int
 /* zmviNorm_Inf: value = the largest magnitude of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: src or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: srcStep is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
 ZMV_API StatusCode zmviNorm_Inf_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
 ZMV_API StatusCode zmviNorm_Inf_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
@@ -2525,8 +2532,8 @@ ZMV_API StatusCode zmviNorm_Inf_32f_C4R(const float* src, int srcStep, ImageSize
 /* zmviNormDiff_Inf: value = the largest magnitude of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
@@ -2547,11 +2554,11 @@ ZMV_API StatusCode zmviNormDiff_Inf_32f_C4R(const float* src1, int src1Step, con
 /* zmviNormRel_Inf: value = the largest magnitude of src1 - src2, over that of src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
-   the difference is zero, too, or NaN.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of the
+   difference is zero, too, or NaN.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
@@ -2572,11 +2579,11 @@ ZMV_API StatusCode zmviNormRel_Inf_32f_C4R(const float* src1, int src1Step, cons
 /* zmviNorm_L1: value = the sum of the magnitudes of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: src or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: srcStep is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
 ZMV_API StatusCode zmviNorm_L1_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
 ZMV_API StatusCode zmviNorm_L1_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
@@ -2594,8 +2601,8 @@ ZMV_API StatusCode zmviNorm_L1_32f_C4R(const float* src, int srcStep, ImageSize 
 /* zmviNormDiff_L1: value = the sum of the magnitudes of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
@@ -2616,11 +2623,11 @@ ZMV_API StatusCode zmviNormDiff_L1_32f_C4R(const float* src1, int src1Step, cons
 /* zmviNormRel_L1: value = the sum of the magnitudes of src1 - src2, over that of src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
-   the difference is zero, too, or NaN.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of the
+   difference is zero, too, or NaN.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
@@ -2641,11 +2648,11 @@ ZMV_API StatusCode zmviNormRel_L1_32f_C4R(const float* src1, int src1Step, const
 /* zmviNorm_L2: value = the square root of the sum of the squares of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: src or value is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: srcStep is not positive.
    src/stats/pinorm8u.cpp, pinorm16u.cpp, pinorm32f.cpp */
 ZMV_API StatusCode zmviNorm_L2_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
 ZMV_API StatusCode zmviNorm_L2_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* value);
@@ -2663,8 +2670,8 @@ ZMV_API StatusCode zmviNorm_L2_32f_C4R(const float* src, int srcStep, ImageSize 
 /* zmviNormDiff_L2: value = the square root of the sum of the squares of src1 - src2, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
@@ -2686,11 +2693,11 @@ ZMV_API StatusCode zmviNormDiff_L2_32f_C4R(const float* src1, int src1Step, cons
    channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; the largest
-   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint
-   in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
+   distance, and with hint HINT_ACCURATE all differences, squares and sums, are formed in double; with any other hint in
+   float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
    The caller's rounding mode has no influence and is not changed.
-   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of
-   the difference is zero, too, or NaN.
+   Where the norm of src2 is zero, of 32f below the smallest normal double, value is infinite, or NaN if that of the
+   difference is zero, too, or NaN.
    Checked in this order.  STATUS_NULL_POINTER: an image or value is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    STATUS_WARN_DIV_BY_ZERO: a norm of src2 is zero; all results are written.
@@ -2712,8 +2719,8 @@ ZMV_API StatusCode zmviNormRel_L2_32f_C4R(const float* src1, int src1Step, const
    sum: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: with hint HINT_ACCURATE summed in double, with any
    other in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
-   Any step is accepted, zero and negative ones too.
-   Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src or sum is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/pisum.cpp */
 ZMV_API StatusCode zmviSum_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum);
 ZMV_API StatusCode zmviSum_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* sum);
@@ -2732,8 +2739,8 @@ ZMV_API StatusCode zmviSum_32f_C4R(const float* src, int srcStep, ImageSize roiS
    mean: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
    Integers: exact for a region of any size, and rounded once.  32f: with hint HINT_ACCURATE summed in double, with any
    other in float, in partial sums that are added up in double (docs/sums.md has their order, the same in every build).
-   Any step is accepted, zero and negative ones too.
-   Checked in this order.  STATUS_NULL_POINTER: src or the result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src or mean is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/pisum.cpp */
 ZMV_API StatusCode zmviMean_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean);
 ZMV_API StatusCode zmviMean_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, double* mean);
@@ -2750,9 +2757,9 @@ ZMV_API StatusCode zmviMean_32f_C4R(const float* src, int srcStep, ImageSize roi
 
 /* zmviMin: pMin = the smallest pixel, for each channel.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
-   Any step is accepted, zero and negative ones too.
    32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
-   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src or pMin is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviMin_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
 ZMV_API StatusCode zmviMin_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin);
@@ -2773,9 +2780,9 @@ ZMV_API StatusCode zmviMin_32f_AC4R(const float* src, int srcStep, ImageSize roi
 
 /* zmviMax: pMax = the largest pixel, for each channel.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
-   Any step is accepted, zero and negative ones too.
    32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
-   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src or pMax is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviMax_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
 ZMV_API StatusCode zmviMax_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax);
@@ -2796,9 +2803,9 @@ ZMV_API StatusCode zmviMax_32f_AC4R(const float* src, int srcStep, ImageSize roi
 
 /* zmviMinMax: pMin = the smallest pixel and pMax = the largest, for each channel.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
-   Any step is accepted, zero and negative ones too.
    32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
-   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src, pMin or pMax is null.  STATUS_BAD_SIZE: width or height below 1.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviMinMax_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
 ZMV_API StatusCode zmviMinMax_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, uint8_t* pMax);
@@ -2819,10 +2826,11 @@ ZMV_API StatusCode zmviMinMax_32f_AC4R(const float* src, int srcStep, ImageSize 
 
 /* zmviMinIndx: pMin = the smallest pixel, for each channel, and its place.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
-   Any step is accepted, zero and negative ones too.
    pIndexX, pIndexY: the column and the row where it is found first, going from the top by rows.
    32f: -0 and 0 are equal, and what stands there first is given; a channel of nothing but NaN gives NaN at (0, 0).
-   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src, pMin, pIndexX or pIndexY is null.  STATUS_BAD_SIZE: width or height
+   below 1.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviMinIndx_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
 ZMV_API StatusCode zmviMinIndx_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMin, int* pIndexX, int* pIndexY);
@@ -2843,10 +2851,11 @@ ZMV_API StatusCode zmviMinIndx_32f_AC4R(const float* src, int srcStep, ImageSize
 
 /* zmviMaxIndx: pMax = the largest pixel, for each channel, and its place.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.
-   Any step is accepted, zero and negative ones too.
    pIndexX, pIndexY: the column and the row where it is found first, going from the top by rows.
    32f: -0 and 0 are equal, and what stands there first is given; a channel of nothing but NaN gives NaN at (0, 0).
-   Checked in this order.  STATUS_NULL_POINTER: src or a result is null.  STATUS_BAD_SIZE: width or height below 1.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: src, pMax, pIndexX or pIndexY is null.  STATUS_BAD_SIZE: width or height
+   below 1.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviMaxIndx_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
 ZMV_API StatusCode zmviMaxIndx_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t* pMax, int* pIndexX, int* pIndexY);
@@ -2869,8 +2878,9 @@ ZMV_API StatusCode zmviMaxIndx_32f_AC4R(const float* src, int srcStep, ImageSize
    In place: srcDst = src < srcDst ? src : srcDst; out of place: dst = src1 < src2 ? src1 : src2.
    So a NaN in either image, and zeros of different sign, give the pixel of the second.
    AC4 leaves the fourth channel of srcDst as it was.
-   dst may be src1 or src2 if it has that one's step; other overlap is undefined.  Out of place, regions that read and
-   write more than the largest cache holds are written past the caches.
+   Out of place, regions that read and write more than the largest cache holds are written past the caches.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/piminmax.cpp */
@@ -2898,8 +2908,9 @@ ZMV_API StatusCode zmviMinEvery_32f_C1R(const float* src1, int src1Step, const f
    In place: srcDst = src > srcDst ? src : srcDst; out of place: dst = src1 > src2 ? src1 : src2.
    So a NaN in either image, and zeros of different sign, give the pixel of the second.
    AC4 leaves the fourth channel of srcDst as it was.
-   dst may be src1 or src2 if it has that one's step; other overlap is undefined.  Out of place, regions that read and
-   write more than the largest cache holds are written past the caches.
+   Out of place, regions that read and write more than the largest cache holds are written past the caches.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/stats/piminmax.cpp */
@@ -2925,12 +2936,12 @@ ZMV_API StatusCode zmviMaxEvery_32f_C1R(const float* src1, int src1Step, const f
 
 /* zmviBlockMinMax: The smallest and the largest pixel of each block of blockSize: of block column i and block row j,
    pixel (i, j) of
-   dstMin and of dstMax.  The last blocks of rows and columns may be smaller, so that the results are
-   (width + blockSize.width - 1) / blockSize.width wide, and as high by the same rule.
+   dstMin and of dstMax.  The last blocks of rows and columns may be smaller, so that the results are (width +
+   blockSize.width - 1) / blockSize.width wide, and as high by the same rule.
    32f: NaN counts only where a channel has nothing else, and -0 is less than 0.
    The images must not overlap.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1, then that
-   of blockSize.  STATUS_BAD_STEP: a step is not positive.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1, then width
+   or height of blockSize below 1.  STATUS_BAD_STEP: a step is not positive.
    src/stats/piminmax.cpp */
 ZMV_API StatusCode zmviBlockMinMax_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dstMin, int dstMinStep, uint8_t* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
 ZMV_API StatusCode zmviBlockMinMax_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dstMin, int dstMinStep, uint16_t* dstMax, int dstMaxStep, ImageSize roiSize, ImageSize blockSize);
@@ -2940,11 +2951,9 @@ ZMV_API StatusCode zmviBlockMinMax_32f_C1R(const float* src, int srcStep, float*
 /* zmviCountInRange: pCounts = the number of pixels from lowerBound to upperBound, both included, for each channel.
    One count for C1, an array of three for C3 and AC4, which leaves the fourth channel out; the bounds likewise.
    NaN is in no range.  A count beyond 2147483647 is given as that.
-   Checked in this order.  STATUS_NULL_POINTER: src, pCounts or an array of bounds is null.  STATUS_BAD_STEP: the step
-   is
-   not positive.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_RANGE: a lower bound lies above its upper
-   bound,
-   or one is NaN.
+   Checked in this order.  STATUS_NULL_POINTER: src, pCounts, lowerBound or upperBound is null.  STATUS_BAD_STEP:
+   srcStep is not positive.  STATUS_BAD_SIZE: width or height below 1.  STATUS_BAD_RANGE: a lower bound lies above its
+   upper bound, or one is NaN.
    src/stats/picount.cpp */
 ZMV_API StatusCode zmviCountInRange_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pCounts, uint8_t lowerBound, uint8_t upperBound);
 ZMV_API StatusCode zmviCountInRange_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, int* pCounts, const uint8_t* lowerBound, const uint8_t* upperBound);
@@ -3009,11 +3018,11 @@ ZMV_API StatusCode zmviMirror_32f_AC4R(const float* src, int srcStep, float* dst
 ZMV_API StatusCode zmviMirror_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, int axis);
 
 /* zmviTranspose: dst (x, y) = src (y, x), all bits kept; dst is as wide as src is high.
-   Any step is accepted, zero and negative ones too.
    In place: the I forms, or src == dst with equal steps, of a square region; other overlap is undefined.
    32s_C1R writes regions that read and write more than the largest cache holds past the caches.
-   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1, or in
-   place not the same.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: a size below 1, then in place they
+   differ.
    src/datamove/pitransp8uca.cpp */
 ZMV_API StatusCode zmviTranspose_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize srcRoiSize);
 ZMV_API StatusCode zmviTranspose_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize srcRoiSize);
@@ -3052,11 +3061,11 @@ ZMV_API StatusCode zmviTranspose_32fc_C1R(const Complex32f* src, int srcStep, Co
      AC4R         three entries from 0 to 2; the fourth channel of dst stays as it was
      C4C3R        three entries from 0 to 3
      C3C4R        four entries; a channel whose entry is 3 or more stays as it was
-   Any step but zero is accepted, negative ones too.
    In place: the I forms, or src == dst with equal steps where both have one layout; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: an image or dstOrder is null.  STATUS_BAD_SIZE: width or height below
-   1.  STATUS_BAD_STEP: a step is zero.  STATUS_BAD_CHANNEL_ORDER: an entry is negative, or names no channel of src
-   (in C3C4R negative only).
+   Any step but zero is accepted, negative ones too.
+   Checked in this order.  STATUS_NULL_POINTER: an image or dstOrder is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is zero.  STATUS_BAD_CHANNEL_ORDER: an entry is negative, or names no channel of src (in
+   C3C4R negative only).
    src/datamove/piswapca.cpp */
 ZMV_API StatusCode zmviSwapChannels_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
 ZMV_API StatusCode zmviSwapChannels_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const int* dstOrder);
@@ -3088,10 +3097,10 @@ ZMV_API StatusCode zmviSwapChannels_8u_C4IR(uint8_t* srcDst, int srcDstStep, Ima
 
 /* zmviHistogramGetBufferSize: The bytes of a histogram's spec object, and of the work buffer for regions of at most
    so many pixels.  nLevels: one count a channel.  uniform makes no difference.
-   Checked in this order.  STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
-   STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.  STATUS_SIZE_EXCEEDS_INT: a size exceeds
-   2147483647; nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: nLevels, pSpecSize or pBufferSize is null.  STATUS_BAD_SIZE: width or
+   height below 1.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than
+   two levels.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_SIZE_EXCEEDS_INT: a size
+   exceeds 2147483647; nothing is written.
    src/stats/pihistogram.cpp */
 ZMV_API StatusCode zmviHistogramGetBufferSize(int dataType, ImageSize roiSize, const int* nLevels, int numChannels, int uniform, int* pSpecSize, int* pBufferSize);
 
@@ -3101,11 +3110,10 @@ ZMV_API StatusCode zmviHistogramGetBufferSize(int dataType, ImageSize roiSize, c
    whose levels become equal stays empty.
    pSpec has the size that zmviHistogramGetBufferSize reports, at any alignment.  A copy of its bytes is as good as the
    object itself.  The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.
-   STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
-   STATUS_NULL_POINTER: the array of a channel is null.
-   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
-   STATUS_BAD_RANGE: levels do not strictly increase, or one is NaN.
+   Checked in this order.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_NULL_POINTER:
+   pLevels, nLevels or pSpec is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_NULL_POINTER: an array
+   of pLevels is null.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.  STATUS_BAD_RANGE: levels do not
+   strictly increase, or one is NaN.
    src/stats/pihistogram.cpp */
 ZMV_API StatusCode zmviHistogramInit(int dataType, const float* const* pLevels, const int* nLevels, int numChannels, uint8_t* pSpec);
 
@@ -3117,18 +3125,18 @@ ZMV_API StatusCode zmviHistogramInit(int dataType, const float* const* pLevels, 
    whose levels become equal stays empty.
    pSpec has the size that zmviHistogramGetBufferSize reports, at any alignment.  A copy of its bytes is as good as the
    object itself.  The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.
-   STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
-   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
-   STATUS_BAD_RANGE: a lowerLevel is not below its upperLevel, or one is infinite or NaN.
-   STATUS_WARN_SIZE_CLIPPED, with the object made: levels of an integer type are less than 1 apart.
+   Checked in this order.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_NULL_POINTER:
+   lowerLevel, upperLevel, nLevels or pSpec is null.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.  STATUS_BAD_RANGE: a lowerLevel is not below its
+   upperLevel, or one is infinite or NaN.
+   STATUS_WARN_SIZE_CLIPPED: levels of an integer type are less than 1 apart; the object is made.
    src/stats/pihistogram.cpp */
 ZMV_API StatusCode zmviHistogramUniformInit(int dataType, const float* lowerLevel, const float* upperLevel, const int* nLevels, int numChannels, uint8_t* pSpec);
 
 /* zmviHistogramGetLevels: Copies the levels of a histogram's spec object to arrays of floats, one a channel.
    Integers beyond 2^24 are rounded to nearest even.
    Checked in this order.  STATUS_NULL_POINTER: pSpec or pLevels is null.  STATUS_BAD_SPEC_TAG: pSpec is no spec object
-   of a histogram.  STATUS_NULL_POINTER: the array of a channel is null.
+   of a histogram.  STATUS_NULL_POINTER: an array of pLevels is null.
    src/stats/pihistogram.cpp */
 ZMV_API StatusCode zmviHistogramGetLevels(const uint8_t* pSpec, float* const* pLevels);
 

@@ -1,25 +1,42 @@
-// Prints include/zmvip.h from the members: every prototype, one a line, under its family's banner.
+// Prints include/zmvip.h from the catalog: every prototype, one a line, under its family's banner.
 #include <cstdio>
-#include <string>
+#include <exception>
+#include <sstream>
 
-#include "core/members.h"
+#include "catalog.h"
 
-// Prints a banner as a C comment, its lines under the family's name, broken between words where they are too long.
-static void banner(const std::string& name, const char* module, std::string text) {
-    constexpr size_t columns = 120;
-    text.insert(0, "/* " + name + ": ");
-    for (size_t start = 0, space = 0, i = 0; i < text.size(); ++i) {
-        if (text[i] == ' ') space = i;
-        if (i - start >= columns && space > start + 3) text[i = space] = '\n';
-        if (text[i] == '\n') {
-            text.insert(i + 1, "   ");
-            start = i + 1;
-        }
+// The paragraphs of a banner: a line that does not end a sentence goes on in the next, and tables stay as they are.
+static std::string paragraphs(std::string text) {
+    for (size_t end = text.find('\n'); end != text.npos; end = text.find('\n', end + 1)) {
+        const bool table = text[end + 1] == ' ' || text.rfind("\n ", end) == text.rfind('\n', end - 1);
+        if (!table && text[end - 1] != '.' && text[end - 1] != ':') text[end] = ' ';
     }
-    std::printf("\n%s\n   src/%s */\n", text.c_str(), module);
+    return text;
 }
 
-int main() {
+// A banner as a C comment, its lines broken between words and set under the family's name.
+static void print(const catalog::Family& family) {
+    constexpr size_t columns = 120;
+    std::istringstream in("/* " + family.name + ": " + paragraphs(family.banner()));
+    std::printf("\n");
+    bool first = true;
+    for (std::string line; std::getline(in, line); first = false) {
+        if (!first) line.insert(0, "   ");
+        while (line.size() > columns) {
+            const size_t blank = line.rfind(' ', columns);
+            std::printf("%s\n", line.substr(0, line.find_last_not_of(' ', blank) + 1).c_str());
+            line = "   " + line.substr(line.find_first_not_of(' ', blank));
+        }
+        std::printf("%s\n", line.c_str());
+    }
+    std::printf("   src/%s */\n", family.module.c_str());
+    for (const catalog::Member& m : family.members)
+        std::printf("ZMV_API %s %s%s;\n", m.result.c_str(), m.name.c_str(), m.list.c_str());
+    for (const catalog::Constant& c : family.constants) std::printf("extern ZMV_API const double %s;\n", c.name);
+}
+
+int main() try {
+    const std::vector<catalog::Family>& families = catalog::families();
     std::puts(
         "/* zmvIP: image-processing primitives.  Every function, under the banner of its family.\n"
         "\n"
@@ -41,15 +58,7 @@ int main() {
         "#ifdef __cplusplus\n"
         "extern \"C\" {\n"
         "#endif");
-
-#define FAMILY(name, module, text, members)                                                                            \
-    banner(#name, module, text);                                                                                       \
-    members
-#define ENTRY_OF(result, name, params, call) PRINT_ENTRY(result, name, params)
-#define PRINT_ENTRY(result, name, params) std::printf("ZMV_API %s %s%s;\n", #result, #name, #params);
-#define CONSTANT(name, value) std::printf("extern ZMV_API const double %s;\n", #name);
-#include "families.def"
-
+    for (const catalog::Family& family : families) print(family);
     std::puts(
         "\n"
         "#ifdef __cplusplus\n"
@@ -57,4 +66,7 @@ int main() {
         "#endif\n"
         "\n"
         "#endif");
+} catch (const std::exception& e) {
+    std::fprintf(stderr, "print_header: %s\n", e.what());
+    return 1;
 }

@@ -36,35 +36,12 @@ void eachElement(const Case& c, F f) {
             for (int k = 0; k < c.member.to.used(); ++k) f(x, y, k);
 }
 
-// Every argument of an operation on one or two images, or on an image and a constant.
-void arrangeArithmetic(Case& c);
-
-// Passes a constant that is passed by value as its image has it.
-inline void bindValue(Case& c, const std::string& name = "value") {
-    const Image& value = c.image(name);
-    if (c.member.points(name)) return;
-    withElement(value.element, [&](auto zero) {
-        zero = c.get<decltype(zero)>(value, 0, 0);
-        std::memcpy(&c.arg(name).a, &zero, sizeof zero);
-    });
-}
-
 inline std::string overwritten(const Case& c) { return c.has("dst") ? "dst" : "srcDst"; }
 inline std::string onlySource(const Case& c) { return c.has("src") ? "src" : "srcDst"; }
 // Of two: what is overwritten in place is the second, and a constant takes the place of the first.
 inline std::string firstSource(const Case& c) { return c.has("value") ? "value" : c.has("src1") ? "src1" : "src"; }
 inline std::string secondSource(const Case& c) {
     return c.has("value") ? onlySource(c) : c.has("src2") ? "src2" : "srcDst";
-}
-
-inline std::vector<Check> anyStep() {
-    return {pointers({"src1", "src2", "src", "dst", "srcDst", "value"}), sizes({"roiSize"})};
-}
-inline std::vector<Check> positiveStep(std::vector<Check> more = {}) {
-    std::vector<Check> ladder = anyStep();
-    ladder.push_back(positive({"src1Step", "src2Step", "srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP));
-    ladder.insert(ladder.end(), more.begin(), more.end());
-    return ladder;
 }
 
 // Writes f(a, x, y, k) for every element a of the only source; and f(b, a) for every pair of elements of the second and

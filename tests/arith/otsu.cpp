@@ -87,12 +87,6 @@ void judgeOtsu(Case& c) {
     c.set(c.image("pThreshold"), 0, 0, 0, uint8_t(level));
 }
 
-std::vector<Check> ladder() {
-    Check steps = positive({"srcStep"}, STATUS_BAD_STEP);
-    steps.breaks.push_back({"srcStep", Break::whole, 4});  // the region is five pixels wide
-    return {pointers({"src", "pThreshold"}), sizes({"roiSize"}), steps};
-}
-
 int thresholdOf(const uint8_t* pixels, int width, int height) {
     uint8_t level = 77;
     const auto function = reinterpret_cast<StatusCode (*)(const uint8_t*, int, ImageSize, uint8_t*)>(
@@ -125,5 +119,4 @@ TEST(Large, OtsuCountsBeyond32Bits) {
 
 }  // namespace
 
-extern const Family test_zmviComputeThreshold_Otsu = {
-    .arrange = arrangeOtsu, .oracle = judgeOtsu, .ladder = ladder(), .bulk = true};
+extern const Family test_zmviComputeThreshold_Otsu = {.arrange = arrangeOtsu, .oracle = judgeOtsu};

@@ -12,8 +12,7 @@ using namespace test;
 
 // A third of the cases has no zero divisor, but in the channel that is left alone; and of these half has a single one.
 void arrangeDivision(Case& c) {
-    arrangeArithmetic(c);
-    if (c.has("roundMode")) c.arg("roundMode") = c.rng.below(3);
+    arrangeByRoles(c);
     const Image& divisors = c.image(firstSource(c));
     withElement(divisors.element, [&](auto zero) {
         using T = decltype(zero);
@@ -28,7 +27,7 @@ void arrangeDivision(Case& c) {
             c.set(divisors, c.rng.below(int(c.width)), c.rng.below(int(c.height)), c.rng.below(c.member.to.used()),
                   T(-0.0));
     });
-    if (c.has("value")) bindValue(c);
+    if (c.has("value")) c.bindValue("value");
 }
 // Whatever the control word makes of small numbers.
 template <class T>
@@ -100,12 +99,12 @@ void computeLn(Case& c) {
 
 // Factors whose products are near ties and limits.
 void arrangeMulC64f(Case& c) {
-    arrangeArithmetic(c);
+    arrangeByRoles(c);
     const Image& value = c.image("value");
     static const double factors[] = {0.5, 1.5, -0.5, 1.0 / 3, 255, 1e-3, 1e300, -INFINITY, NAN, 0x1.fffffffffffffp-2};
     for (int k = 0; k < value.channels; ++k)
         if (c.rng.below(4)) c.set(value, 0, 0, k, factors[c.rng.below(10)]);
-    bindValue(c);
+    c.bindValue("value");
 }
 void computeMulC64f(Case& c) {
     oneByOne(c, [&]<class T>(T pixel, int64_t, int64_t, int k) -> T {
@@ -118,27 +117,12 @@ void computeMulC64f(Case& c) {
     });
 }
 
-const Check roundModes{STATUS_BAD_ROUND_MODE,
-                       {{"roundMode", Break::whole, -1},
-                        {"roundMode", Break::whole, 3},
-                        {"roundMode", Break::whole, INT32_MIN},
-                        {"roundMode", Break::whole, INT32_MAX}}};
-
 }  // namespace
 
-extern const Family test_zmviDiv = {
-    .arrange = arrangeDivision, .oracle = divide, .ladder = positiveStep(), .rounds = Rounds::floats, .bulk = true};
-extern const Family test_zmviDivC = {.arrange = arrangeDivision,
-                                     .oracle = divide,
-                                     .ladder = positiveStep({zeroConstants(STATUS_DIV_BY_ZERO)}),
-                                     .rounds = Rounds::floats};
-extern const Family test_zmviDiv_Round = {
-    .arrange = arrangeDivision, .oracle = divide, .ladder = positiveStep({roundModes}), .bulk = true};
-extern const Family test_zmviSqrt = {.arrange = arrangeArithmetic,
-                                     .oracle = computeSqrt,
-                                     .ladder = positiveStep(),
-                                     .rounds = Rounds::floats,
-                                     .bulk = true};
-extern const Family test_zmviExp = {.arrange = arrangeArithmetic, .oracle = computeExp, .ladder = positiveStep()};
-extern const Family test_zmviLn = {.arrange = arrangeArithmetic, .oracle = computeLn, .ladder = positiveStep()};
-extern const Family test_zmviMulC64f = {.arrange = arrangeMulC64f, .oracle = computeMulC64f, .ladder = positiveStep()};
+extern const Family test_zmviDiv = {.arrange = arrangeDivision, .oracle = divide};
+extern const Family test_zmviDivC = {.arrange = arrangeDivision, .oracle = divide};
+extern const Family test_zmviDiv_Round = {.arrange = arrangeDivision, .oracle = divide};
+extern const Family test_zmviSqrt = {.oracle = computeSqrt};
+extern const Family test_zmviExp = {.oracle = computeExp};
+extern const Family test_zmviLn = {.oracle = computeLn};
+extern const Family test_zmviMulC64f = {.arrange = arrangeMulC64f, .oracle = computeMulC64f};

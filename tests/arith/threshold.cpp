@@ -7,12 +7,8 @@ using namespace test;
 
 // Levels in the middle of the pixels, and some pixels at the levels.
 void arrangeThreshold(Case& c) {
-    for (const char* name : {"src", "dst", "srcDst"})
-        if (c.has(name)) c.place(name, c.width, c.height);
-    if (c.has("dst") && c.mode == Mode::usual && c.rng.oneIn(4)) c.alias("dst", "src");
+    arrangeByRoles(c);
     const Image& src = c.image(onlySource(c));
-    for (const char* name : {"threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"})
-        if (c.has(name)) c.placeValue(name, c.member.to.used());
     withElement(src.element, [&](auto zero) {
         using T = decltype(zero);
         for (int k = 0; k < c.member.to.used(); ++k) {
@@ -27,10 +23,8 @@ void arrangeThreshold(Case& c) {
             }
         }
     });
-    for (const char* name : {"threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"})
-        if (c.has(name)) bindValue(c, name);
-    c.arg("roiSize") = {c.width, c.height};
-    if (c.has("cmpOp")) c.arg("cmpOp") = c.rng.oneIn(2) ? CMP_LESS : CMP_GREATER;
+    for (const char* name : {"threshold", "thresholdLT", "thresholdGT"})
+        if (c.has(name)) c.bindValue(name);
 }
 
 bool crossed(Case& c) {
@@ -62,31 +56,13 @@ void threshold(Case& c) {
     });
 }
 
-const Check operators{STATUS_BAD_ARGUMENT,
-                      {{"cmpOp", Break::whole, 1},
-                       {"cmpOp", Break::whole, 2},
-                       {"cmpOp", Break::whole, 3},
-                       {"cmpOp", Break::whole, 5},
-                       {"cmpOp", Break::whole, -1},
-                       {"cmpOp", Break::whole, INT32_MIN}}};
-std::vector<Check> ladder(bool operatorFirst = false) {
-    const std::vector<Check> rest = {
-        pointers({"src", "dst", "srcDst", "threshold", "value", "thresholdLT", "valueLT", "thresholdGT", "valueGT"}),
-        sizes({"roiSize"}), positive({"srcStep", "dstStep", "srcDstStep"}, STATUS_BAD_STEP)};
-    std::vector<Check> all = rest;
-    all.insert(operatorFirst ? all.begin() : all.end(), operators);
-    return all;
-}
-
 }  // namespace
 
-#define THRESHOLD(name, op, ...)                                                                                       \
-    extern const Family test_##name = {                                                                                \
-        .arrange = arrangeThreshold, .oracle = threshold<op>, .ladder = ladder(__VA_ARGS__), .bulk = true};
+#define THRESHOLD(name, op) extern const Family test_##name = {.arrange = arrangeThreshold, .oracle = threshold<op>};
 THRESHOLD(zmviThreshold, CMP_LESS)
 THRESHOLD(zmviThreshold_GT, CMP_GREATER)
 THRESHOLD(zmviThreshold_LT, CMP_LESS)
-THRESHOLD(zmviThreshold_Val, CMP_LESS, true)
+THRESHOLD(zmviThreshold_Val, CMP_LESS)
 THRESHOLD(zmviThreshold_GTVal, CMP_GREATER)
 THRESHOLD(zmviThreshold_LTVal, CMP_LESS)
 THRESHOLD(zmviThreshold_LTValGTVal, CMP_LESS)

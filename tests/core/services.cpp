@@ -117,8 +117,11 @@ TEST(Services, VersionIsOneRecord) {
 }
 
 TEST(Services, Constants) {
-    ASSERT_EQ(constants().size(), 2u);
-    for (const Constant& constant : constants()) {
+    std::vector<Constant> constants;
+    for (const Tested& f : families())
+        constants.insert(constants.end(), f.row->constants.begin(), f.row->constants.end());
+    ASSERT_EQ(constants.size(), 2u);
+    for (const Constant& constant : constants) {
         const double value = *static_cast<const double*>(underTest().find(constant.name));
         EXPECT_EQ(std::isnan(value), std::string(constant.name).find("NAN") != std::string::npos) << constant.name;
         EXPECT_EQ(std::isinf(value) && value > 0, std::string(constant.name).find("INF") != std::string::npos);
@@ -127,6 +130,6 @@ TEST(Services, Constants) {
 
 }  // namespace
 
-extern const Family test_zmviMalloc = {.arrange = arrangeMalloc, .oracle = checkMalloc, .status = false};
-extern const Family test_zmviFree = {.arrange = arrangeFree, .oracle = nothing, .status = false};
-extern const Family test_zmviGetLibVersion = {.arrange = nothing, .oracle = checkVersion, .status = false};
+extern const Family test_zmviMalloc = {.arrange = arrangeMalloc, .oracle = checkMalloc};
+extern const Family test_zmviFree = {.arrange = arrangeFree, .oracle = nothing};
+extern const Family test_zmviGetLibVersion = {.arrange = nothing, .oracle = checkVersion};

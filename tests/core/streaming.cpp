@@ -94,7 +94,7 @@ TEST(Streaming, AsksFromItsThresholdOn) {
 TEST(Streaming, OthersNeverAsk) {
     fake("fakeCacheStatus") = STATUS_OK;
     for (const Member& m : members()) {
-        if (!m.family->bulk || bytesPerPixel(m) || (!options.only.empty() && m.name != options.only)) continue;
+        if (!m.facts().bulk || bytesPerPixel(m) || (!options.only.empty() && m.name != options.only)) continue;
         fake("fakeCacheSize") = 1;
         const int64_t rowBytes = 300 * bytesOf(m.destination) * std::max(m.from.channels, m.to.channels);
         EXPECT_EQ(check(m, 300, askFrom / rowBytes + 1, 4, 0, false), "");

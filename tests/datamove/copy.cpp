@@ -16,28 +16,9 @@ int used(const Member& m) {
     return 1;
 }
 
-// Nothing, everything, a random mixture, or runs that leave whole blocks out; any byte but zero counts.
-void fillMask(Case& c) {
-    static const uint8_t set[] = {1, 2, 127, 128, 254, 255};
-    const Image& mask = c.image("mask");
-    const int kind = c.rng.below(4);
-    bool on = kind == 1;
-    for (int64_t y = 0; y < mask.height; ++y)
-        for (int64_t x = 0; x < mask.width; ++x) {
-            if (kind == 2) on = c.rng.oneIn(2);
-            if (kind == 3 && c.rng.oneIn(24)) on = !on;
-            c.set<uint8_t>(mask, x, y, 0, on ? set[c.rng.below(6)] : 0);
-        }
-}
-
 void arrangePixels(Case& c) {
     c.allChannels = spreads(c.member);
-    for (const Parameter& p : c.member.params)
-        if (c.has(p.name + "Step")) c.place(p.name, c.width, c.height);
-    if (c.has("value")) c.placeValue("value", used(c.member));
-    if (c.has("mask")) fillMask(c);
-    if (c.has("flags")) c.arg("flags") = c.rng.between(-4, 4);
-    c.arg("roiSize") = {c.width, c.height};
+    arrangeByRoles(c);
     // Copying an image onto itself is allowed and changes nothing.
     const bool same = c.has("src") && c.member.from == c.member.to && !c.has("flags");
     if (same && c.mode == Mode::usual && c.rng.oneIn(8)) c.alias("dst", "src");
@@ -61,24 +42,9 @@ void movePixels(Case& c) {
     });
 }
 
-bool definedOverlap(const Member& m) { return !m.masked && (m.oneChannel || !(m.from == m.to) || m.to.alpha); }
-
-const std::vector<Check> refusals = {pointers({"src", "value", "dst", "mask"}), sizes({"roiSize"})};
-
 }  // namespace
 
-extern const Family test_zmviCopy = {.arrange = arrangePixels,
-                                     .oracle = movePixels,
-                                     .steps = Steps::any,
-                                     .ladder = refusals,
-                                     .bulk = true,
-                                     .overlaps = definedOverlap};
-extern const Family test_zmviCopyManaged = {
-    .arrange = arrangePixels, .oracle = movePixels, .steps = Steps::any, .ladder = refusals, .bulk = true};
-extern const Family test_zmviDup = {.arrange = arrangePixels,
-                                    .oracle = movePixels,
-                                    .steps = Steps::any,
-                                    .ladder = refusals,
-                                    .overlaps = definedOverlap};
-extern const Family test_zmviSet = {
-    .arrange = arrangePixels, .oracle = movePixels, .steps = Steps::any, .ladder = refusals, .bulk = true};
+extern const Family test_zmviCopy = {.arrange = arrangePixels, .oracle = movePixels};
+extern const Family test_zmviCopyManaged = {.arrange = arrangePixels, .oracle = movePixels};
+extern const Family test_zmviDup = {.arrange = arrangePixels, .oracle = movePixels};
+extern const Family test_zmviSet = {.arrange = arrangePixels, .oracle = movePixels};

@@ -66,14 +66,6 @@ void answerQuery(Case& c) {
         c.set(c.image("pBufferSize"), 0, 0, 0, int(size));
 }
 
-const std::vector<Check> queryRefusals = {
-    pointers({"pBufferSize"}),
-    sizes({"roiSize"}),
-    sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
-    values("dataType", STATUS_BAD_DATATYPE, {0, 2, 19, -1, 6, 257}),
-    values("numChannels", STATUS_BAD_CHANNELS, {0, 2, 5, -1, 257}),
-    {STATUS_SIZE_EXCEEDS_INT, {{"roiSize", Break::width, INT_MAX}, {"maskSize", Break::height, INT_MAX}}}};
-
 // Windows with a border.
 
 void arrangeWindow(Case& c) {
@@ -228,14 +220,6 @@ void judgeWindow(Case& c) {
     }
 }
 
-const std::vector<Check> windowRefusals = {
-    pointers({"src", "dst", "buffer"}),
-    positive({"srcStep", "dstStep"}, STATUS_BAD_STEP),
-    sizes({"roiSize"}),
-    sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
-    values("borderType", STATUS_BAD_BORDER, {0, 2, 4, 5, 7, 15, 16, 18, 224, 239, 242, 256, 257, -1, INT_MIN + 1}),
-    pointers({"borderValue"})};
-
 // Sums along a row or a column.
 
 void arrangeLine(Case& c) {
@@ -273,20 +257,11 @@ void sumLines(Case& c) {
     });
 }
 
-const std::vector<Check> lineRefusals = {pointers({"src", "dst"}), positive({"maskSize"}, STATUS_BAD_MASK_SIZE),
-                                         values("anchor", STATUS_BAD_ANCHOR, {-1, INT_MIN, 1 << 20, INT_MAX})};
-
 // The mean in double precision, its neighbourhood in the caller's memory.
 
 void arrangeBox64f(Case& c) {
-    const int64_t mw = c.rng.between(1, 9), mh = c.rng.between(1, c.mode == Mode::far ? 3 : 9);
-    const int64_t ax = c.rng.below(int(mw)), ay = c.rng.below(int(mh));
-    c.place("src", c.width, c.height, {ax, mw - 1 - ax, ay, mh - 1 - ay});
-    c.place("dst", c.width, c.height);
+    arrangeByRoles(c);
     fillFloats<double>(c, c.image("src"));
-    c.arg("roiSize") = {c.width, c.height};
-    c.arg("maskSize") = {mw, mh};
-    c.arg("anchor") = {ax, ay};
 }
 
 void judgeBox64f(Case& c) {
@@ -305,35 +280,12 @@ void judgeBox64f(Case& c) {
         }
 }
 
-const std::vector<Check> box64fRefusals = {pointers({"src", "dst"}),
-                                           sizes({"roiSize"}),
-                                           sizes({"maskSize"}, STATUS_BAD_MASK_SIZE),
-                                           {STATUS_BAD_ANCHOR,
-                                            {{"anchor", Break::width, -1},
-                                             {"anchor", Break::height, -1},
-                                             {"anchor", Break::width, 1 << 20},
-                                             {"anchor", Break::height, 1 << 20}}},
-                                           positive({"srcStep", "dstStep"}, STATUS_BAD_STEP)};
-
 }  // namespace
 
-extern const Family test_zmviFilterBoxBorderGetBufferSize = {
-    .arrange = arrangeQuery, .oracle = answerQuery, .ladder = queryRefusals};
-extern const Family test_zmviSumWindowGetBufferSize = {
-    .arrange = arrangeQuery, .oracle = answerQuery, .ladder = queryRefusals};
-extern const Family test_zmviFilterBoxBorder = {
-    .arrange = arrangeWindow, .oracle = judgeWindow<true>, .ladder = windowRefusals, .rounds = Rounds::always};
-extern const Family test_zmviSumWindow = {
-    .arrange = arrangeWindow, .oracle = judgeWindow<false>, .ladder = windowRefusals, .rounds = Rounds::always};
-extern const Family test_zmviSumWindowRow = {.arrange = arrangeLine,
-                                             .oracle = sumLines<true>,
-                                             .steps = Steps::any,
-                                             .ladder = lineRefusals,
-                                             .rounds = Rounds::always};
-extern const Family test_zmviSumWindowColumn = {.arrange = arrangeLine,
-                                                .oracle = sumLines<false>,
-                                                .steps = Steps::any,
-                                                .ladder = lineRefusals,
-                                                .rounds = Rounds::always};
-extern const Family test_zmviFilterBox = {
-    .arrange = arrangeBox64f, .oracle = judgeBox64f, .ladder = box64fRefusals, .rounds = Rounds::always};
+extern const Family test_zmviFilterBoxBorderGetBufferSize = {.arrange = arrangeQuery, .oracle = answerQuery};
+extern const Family test_zmviSumWindowGetBufferSize = {.arrange = arrangeQuery, .oracle = answerQuery};
+extern const Family test_zmviFilterBoxBorder = {.arrange = arrangeWindow, .oracle = judgeWindow<true>};
+extern const Family test_zmviSumWindow = {.arrange = arrangeWindow, .oracle = judgeWindow<false>};
+extern const Family test_zmviSumWindowRow = {.arrange = arrangeLine, .oracle = sumLines<true>};
+extern const Family test_zmviSumWindowColumn = {.arrange = arrangeLine, .oracle = sumLines<false>};
+extern const Family test_zmviFilterBox = {.arrange = arrangeBox64f, .oracle = judgeBox64f};

@@ -84,6 +84,7 @@ std::string faultOf(const std::function<void()>& calls, std::function<std::strin
 }
 
 std::set<std::string> Case::exercised;
+std::map<const Family*, std::set<int64_t>> Case::returns;
 
 // Where single operations round as the caller wants, those of the oracle do so too.
 void Case::expectResults() {
@@ -216,10 +217,11 @@ std::string runCase(const Member& m, const Library& l, uint64_t seed, Mode mode)
     Case c(m, l, seed, mode);
     m.family->arrange(c);
     c.call();
+    Case::returns[m.family].insert(c.returned);
     // Only a call that came back can be judged by the oracle.
     if (const std::string bad = c.trapped() ? c.verdict() : std::string(); !bad.empty()) return bad;
     // Under another rounding mode some results have no reference; the control words are what that mode is about.
-    if (mode == Mode::controls && m.family->rounds == Rounds::always)
+    if (mode == Mode::controls && m.facts().rounds == zmv::Rounds::always)
         c.acceptMemory();
     else
         c.expectResults();

@@ -34,14 +34,13 @@ int64_t widthOf(uint64_t seed) {
 
 }  // namespace
 
-bool acceptsAnyStep(const Member& m) {
-    return m.family->steps == Steps::any || (m.family->freeSteps && m.family->freeSteps(m));
-}
+bool acceptsAnyStep(const Member& m) { return m.facts().steps == zmv::Steps::any || m.among(m.facts().freeSteps); }
 
-bool acceptsNegativeSteps(const Member& m) { return acceptsAnyStep(m) || m.family->steps == Steps::nonzero; }
+bool acceptsNegativeSteps(const Member& m) { return acceptsAnyStep(m) || m.facts().steps == zmv::Steps::nonzero; }
 
 bool rounds(const Member& m) {
-    return m.family->rounds == Rounds::always || (m.family->rounds == Rounds::floats && isReal(m.destination));
+    return m.facts().rounds == zmv::Rounds::always ||
+           (m.facts().rounds == zmv::Rounds::floats && isReal(m.destination));
 }
 
 Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
@@ -161,6 +160,7 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
     const int64_t bytes = bytesOf(i.element), pixel = bytes * i.channels;
     const bool one = member.oneChannel || (!allChannels && !member.from.planar && !member.to.planar &&
                                            std::min(member.from.channels, member.to.channels) == 1);
+    i.own = p->planes ? i.planes : one ? 1 : i.channels;
     const int64_t channel = one && i.channels > 1 ? rng.below(i.channels) * bytes : 0;
 
     const std::string stepName = name + "Step";
@@ -195,7 +195,7 @@ Image& Case::placeValue(const std::string& name, int count) {
     Image i;
     i.name = name;
     i.element = p->element;
-    i.channels = count;
+    i.channels = i.own = count;
     i.width = i.height = 1;
     const bool flushEnd = flushEnd_;
     flushEnd_ = true;
@@ -204,11 +204,17 @@ Image& Case::placeValue(const std::string& name, int count) {
     flushEnd_ = flushEnd;
     i.block[0] = int(blocks_.size()) - 1;
     i.pointer[0] = blocks_.back().live + i.first[0];
-    if (p->pointer)
-        arg(name) = i.pointer[0];
-    else
-        std::memcpy(&arg(name).a, i.at(blocks_, 0, 0, 0), size_t(bytesOf(i.element)));
-    return images[name] = i;
+    images[name] = i;
+    arg(name) = i.pointer[0];
+    bindValue(name);
+    return images[name];
+}
+
+void Case::bindValue(const std::string& name) {
+    const Image& i = image(name);
+    if (member.points(name)) return;
+    arg(name) = int64_t(0);
+    std::memcpy(&arg(name).a, i.at(blocks_, 0, 0, 0), size_t(bytesOf(i.element)));
 }
 
 void Case::alias(const std::string& name, const std::string& other) {
@@ -217,6 +223,30 @@ void Case::alias(const std::string& name, const std::string& other) {
     images[name] = i;
     arg(name) = arg(other);
     arg(name + "Step") = arg(other + "Step");
+}
+
+int64_t Case::bufferSize(const std::string& reported) {
+    for (const Member& query : members()) {
+        if (query.name != member.facts().query) continue;
+        static const std::map<Element, int> codes = {{Element::u8, DATATYPE_8U},
+                                                     {Element::u16, DATATYPE_16U},
+                                                     {Element::s16, DATATYPE_16S},
+                                                     {Element::f32, DATATYPE_32F},
+                                                     {Element::f64, DATATYPE_64F}};
+        std::vector<Slot> asked;
+        int64_t answer = 0, other = 0;
+        for (const Parameter& p : query.params)
+            asked.push_back(p.name == reported        ? Slot(&answer)
+                            : p.role == Role::result  ? Slot(&other)
+                            : has(p.name)             ? arg(p.name)
+                            : p.name == "dataType"    ? codes.at(member.source)
+                            : p.name == "numChannels" ? member.to.channels
+                                                      : throw query.name + ": what is " + p.name + "?");
+        if (query.invoke(library.find(query.name), asked.data()) != STATUS_OK)
+            throw query.name + " refuses " + member.name;
+        return query.large ? answer : int(answer);
+    }
+    throw member.name + " has no query";
 }
 
 void Case::placeBuffer(const std::string& name, int64_t bytes) {

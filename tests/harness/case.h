@@ -25,6 +25,9 @@ enum class Mode {
 bool rounds(const Member& m);
 bool acceptsAnyStep(const Member& m);
 bool acceptsNegativeSteps(const Member& m);
+// Numbers near ties and limits.
+class Case;
+void fillNumbers(Case& c, const std::string& name);
 
 class Case {
   public:
@@ -48,12 +51,15 @@ class Case {
     // Lays out the image of this name and binds its pointer and step.  Where only one channel of many takes part the
     // pointer is at a random one.
     Image& place(const std::string& name, int64_t w, int64_t h, Margins readable = {});
-    // The constant argument: elements behind a pointer, or one by value.
+    // The constant argument: elements behind a pointer, or one by value, which bindValue passes as its image has it.
     Image& placeValue(const std::string& name, int count);
+    void bindValue(const std::string& name);
     // Makes an operand the same memory as another.
     void alias(const std::string& name, const std::string& other);
     // A work buffer of exactly this size: it ends at an unreadable page, or starts at a chosen misalignment.
     void placeBuffer(const std::string& name, int64_t bytes);
+    // What the family's query says for the other arguments, a block being asked for by the name that reports it.
+    int64_t bufferSize(const std::string& reported = "pBufferSize");
 
     // Elements of the shadow: before the call what the operand will hold, after it what the oracle makes of it.
     template <class T>
@@ -91,7 +97,8 @@ class Case {
 
     std::map<std::string, std::array<uint8_t*, 4>> planePointers;
     std::map<std::string, Image> images;
-    static std::set<std::string> exercised;  // members that were called
+    static std::set<std::string> exercised;                     // members that were called
+    static std::map<const Family*, std::set<int64_t>> returns;  // what families gave in the sweep
 
   private:
     std::vector<Block>& blocks() const { return const_cast<Case*>(this)->blocks_; }

@@ -1,18 +1,23 @@
-// The members of the library as the tests see them: the rows of src/families.def, taken apart.
+// The members of the library as the tests call them: the catalog, and a way to call each.
 #pragma once
 
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "catalog.h"
 #include "zmvip.h"
 
 namespace test {
 
-enum class Element { none, u8, s8, u16, s16, u32, s32, s64, f32, f64, sc32, fc32 };
-int bytesOf(Element);
-inline bool isReal(Element e) { return e == Element::f32 || e == Element::f64; }
+using catalog::bytesOf;
+using catalog::Constant;
+using catalog::Element;
+using catalog::isReal;
+using catalog::Layout;
+using catalog::Parameter;
+using catalog::Role;
+using zmv::Facts;
 
 // Calls f with a value of the element's type: the way from a member's name to a template.
 template <class F>
@@ -50,46 +55,22 @@ struct Slot {
     Slot(const void* p) : a(reinterpret_cast<int64_t>(p)) {}
 };
 
-struct Parameter {
-    std::string type, name;
-    Element element = Element::none;  // of what it points at, or of itself
-    bool pointer = false, written = false;
-    int planes = 0;  // of an array of planes
-};
-
-// A channel code of a name: P3 is three planes of one channel.
-struct Layout {
-    int channels = 1;
-    bool planar = false, alpha = false;
-    bool operator==(const Layout&) const = default;
-    int used() const { return alpha ? 3 : channels; }
-};
-
 struct Family;
 
-struct Member {
-    std::string name;
+// A member with what is needed to call and to judge it.
+struct Member : catalog::Member {
+    const catalog::Family* row;
     const Family* family;
-    std::vector<Parameter> params;
     int64_t (*invoke)(void* function, const Slot* args);  // the result as an integer, 0 for void
-    // What the name says.
-    Element source = Element::none, destination = Element::none;
-    Layout from, to;
-    bool inPlace = false, masked = false, oneChannel = false, large = false;
 
-    const Parameter* find(const std::string& parameter) const;
-    bool points(const std::string& parameter) const {
-        const Parameter* p = find(parameter);
-        return p && p->pointer;
-    }
+    const Facts& facts() const { return row->facts; }
 };
 
 const std::vector<Member>& members();
-const std::vector<std::pair<std::string, const Family*>>& families();  // in the order of families.def
-struct Constant {
-    const char* name;
-    double value;
+struct Tested {
+    const catalog::Family* row;
+    const Family* family;
 };
-const std::vector<Constant>& constants();
+const std::vector<Tested>& families();  // in the order of families.def
 
 }  // namespace test

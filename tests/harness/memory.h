@@ -55,6 +55,7 @@ struct Image {
     std::string name;
     Element element = Element::none;
     int channels = 1;  // elements from pixel to pixel
+    int own = 1;       // elements of a pixel that are its memory
     int planes = 0;    // of a planar operand; channel c is then plane c
     int64_t width = 0, height = 0;
     Margins readable;       // beyond width and height: columns -left .. width + right - 1 are its memory too

@@ -1,6 +1,7 @@
 // The program: every family's members swept, refused, and compared, in the build that --build names.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -15,14 +16,11 @@ bool chosen(const Member& m) {
 }
 
 bool hasStep(const Member& m) {
-    for (const Parameter& p : m.params)
-        if (p.name.size() > 4 && p.name.ends_with("Step")) return true;
-    return false;
+    return std::any_of(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.role == Role::step; });
 }
 
 bool fits(const Member& m, Mode mode) {
-    if (mode == Mode::overlap) return m.family->overlaps && m.family->overlaps(m);
-    if (mode == Mode::bulk) return m.family->bulk;
+    if (mode == Mode::overlap) return m.among(m.facts().ordered);
     if (mode == Mode::far) return hasStep(m);
     return true;
 }
@@ -50,45 +48,12 @@ void sweep(const Family& family, Mode mode, long cases) {
         EXPECT_TRUE(m.family != &family || !chosen(m) || Case::exercised.count(m.name)) << m.name << " never ran";
 }
 
-bool applies(const Check& check, const Break& b, const Member& m) {
-    const Parameter* p = m.find(b.argument);
-    if (b.part == Break::plane) return p && b.value < p->planes;
-    if (b.part == Break::channel) return p && b.value < m.to.used();
-    if (b.argument.ends_with("Step") && acceptsAnyStep(m)) return false;
-    return p && (p->pointer || check.status != STATUS_NULL_POINTER);  // a constant may be passed by value
-}
-
-void apply(const Break& b, Case& c) {
-    // In 64 bits: a negative value whose lower half is positive, and the largest value of all.
-    int64_t value = b.value;
-    if (c.member.large && value == -1) value = -int64_t(0xffffffff);
-    if (c.member.large && value == INT32_MAX) value = INT64_MAX;
-    if (b.part == Break::width)
-        c.arg(b.argument).a = value;
-    else if (b.part == Break::height)
-        c.arg(b.argument).b = value;
-    else if (b.part == Break::whole)
-        c.arg(b.argument).a = value;
-    else if (b.part == Break::channel) {
-        const Image& image = c.image(b.argument);
-        withElement(image.element, [&](auto zero) { c.set(image, 0, 0, int(value), zero); });
-        if (!c.member.points(b.argument)) c.arg(b.argument) = int64_t(0);
-    } else {
-        c.planePointers[b.argument][size_t(value)] = nullptr;
-        c.arg(b.argument) = c.planePointers[b.argument].data();
-    }
-}
-
 // Breaks every precondition in every way, together with every subset of the later ones: the first one's status must
 // come back, with nothing written.
 std::string refuse(const Member& m, uint64_t seed) {
-    std::vector<Check> ladder;
-    for (Check check : m.family->ladder) {
-        std::erase_if(check.breaks, [&](const Break& b) { return !applies(check, b, m); });
-        if (!check.breaks.empty()) ladder.push_back(check);
-    }
     Case whole(m, underTest(), seed + 4, Mode::controls);
     m.family->arrange(whole);
+    const std::vector<Check> ladder = ladderOf(whole);
     for (size_t i = 0; i < ladder.size(); ++i)
         for (const Break& first : ladder[i].breaks)
             for (unsigned later = 0; later < 1u << (ladder.size() - i - 1); ++later) {
@@ -104,6 +69,20 @@ std::string refuse(const Member& m, uint64_t seed) {
                 if (const std::string bad = c.verdict(); !bad.empty()) return bad;
             }
     return {};
+}
+
+// What the facts only tell has to come up in the sweep, and nothing else may.
+void judgeReturns(const Tested& f) {
+    if (!options.only.empty() || options.integers || f.row->members[0].result != "StatusCode") return;
+    std::set<int64_t> named = {STATUS_OK}, due;
+    for (const zmv::Refusal& refusal : f.row->facts.refusals) {
+        named.insert(refusal.status);
+        if (refusal.bad == zmv::Bad::told) due.insert(refusal.status);
+    }
+    for (const zmv::Warning& warning : f.row->facts.warnings) named.insert(warning.status), due.insert(warning.status);
+    const std::set<int64_t>& seen = Case::returns[f.family];
+    for (const int64_t status : seen) EXPECT_TRUE(named.count(status)) << "the facts do not name " << status;
+    for (const int64_t status : due) EXPECT_TRUE(seen.count(status)) << "the sweep never met " << status;
 }
 
 // A family's test under a name that --gtest_filter knows.
@@ -140,16 +119,19 @@ void buildsAgree(const std::string& build, const Family& family) {
 }
 
 void registerAll() {
-    for (const auto& [name, family] : families()) {
-        const Family& f = *family;
-        add("Sweep", name, [&f] { sweep(f, Mode::usual, 160); });
+    for (const Tested& tested : families()) {
+        const Family& f = *tested.family;
+        const std::string& name = tested.row->name;
+        const Facts& facts = tested.row->facts;
+        add("Sweep", name, [&tested, &f] { sweep(f, Mode::usual, 160), judgeReturns(tested); });
         add("Controls", name, [&f] { sweep(f, Mode::controls, 8); });
         add("Far", name, [&f] { sweep(f, Mode::far, 3); });
-        if (f.overlaps) add("Overlap", name, [&f] { sweep(f, Mode::overlap, 80); });
-        if (f.bulk) add("Bulk", name, [&f] { sweep(f, Mode::bulk, 1); });
-        if (!f.ladder.empty()) add("Refusals", name, [&f] { eachCase(f, 1, refuse); });
+        if (*facts.ordered) add("Overlap", name, [&f] { sweep(f, Mode::overlap, 80); });
+        if (facts.bulk) add("Bulk", name, [&f] { sweep(f, Mode::bulk, 1); });
+        if (facts.refusals.count) add("Refusals", name, [&f] { eachCase(f, 1, refuse); });
         for (const char* build : {"v3", "v4"})
-            if (f.status) add("BuildsAgree", build + ("/" + name), [&f, build] { buildsAgree(build, f); });
+            if (tested.row->members[0].result == "StatusCode")
+                add("BuildsAgree", build + ("/" + name), [&f, build] { buildsAgree(build, f); });
     }
 }
 
@@ -180,44 +162,6 @@ void readOptions(int argc, char** argv) {
 }
 
 }  // namespace
-
-Check pointers(std::vector<std::string> names) {
-    Check check{STATUS_NULL_POINTER, {}};
-    for (const std::string& name : names) {
-        check.breaks.push_back({name, Break::whole, 0});
-        for (int plane = 0; plane < 4; ++plane) check.breaks.push_back({name, Break::plane, plane});
-    }
-    return check;
-}
-
-Check sizes(std::vector<std::string> names, StatusCode status) {
-    Check check{status, {}};
-    for (const std::string& name : names)
-        for (const Break::Part part : {Break::width, Break::height})
-            for (const int64_t value : {int64_t(0), int64_t(-1), int64_t(INT32_MIN)})
-                check.breaks.push_back({name, part, value});
-    return check;
-}
-
-Check positive(std::vector<std::string> names, StatusCode status) {
-    Check check{status, {}};
-    for (const std::string& name : names)
-        for (const int64_t value : {int64_t(0), int64_t(-1), int64_t(INT32_MIN)})
-            check.breaks.push_back({name, Break::whole, value});
-    return check;
-}
-
-Check values(const char* argument, StatusCode status, std::vector<int64_t> bad) {
-    Check check{status, {}};
-    for (const int64_t value : bad) check.breaks.push_back({argument, Break::whole, value});
-    return check;
-}
-
-Check zeroConstants(StatusCode status) {
-    Check check{status, {}};
-    for (const int64_t channel : {0, 1, 2, 3}) check.breaks.push_back({"value", Break::channel, channel});
-    return check;
-}
 
 }  // namespace test
 

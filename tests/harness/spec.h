@@ -6,7 +6,7 @@
 //
 //     placeObject(c, "pSpec", bytes, [&](uint8_t* block) { return init(..., block); });   // where an object is used
 //     placeBlock(c, "pSpec", bytes);                                                      // where it is made
-//     .ladder = {..., notOne("pSpec", STATUS_CONTEXT_MISMATCH, curve)}                    // where it is refused
+//     .more = {notOne("pSpec", STATUS_CONTEXT_MISMATCH, curve)}                           // where it is refused
 //
 // with a kind of object that every other family is given for its own:
 //

@@ -46,22 +46,6 @@ void makeSpec(Case& c) {
     for (size_t i = 0; i < object.size(); ++i) c.set(place, int64_t(i), 0, 0, object[i]);
 }
 
-const Check badType = values("dataType", STATUS_BAD_DATATYPE, {0, 2, 19, -1, 6, 257});
-const Check badChannels = values("numChannels", STATUS_BAD_CHANNELS, {0, 2, 5, -1, 257, INT_MIN});
-const Check noLevels{STATUS_BAD_LEVEL_COUNT, {{"nLevels", Break::channel, 0}}};
-// How many arrays there have to be is known late.
-Check noArrays() {
-    Check check{STATUS_NULL_POINTER, {}};
-    for (const int64_t k : {0, 1, 2, 3}) check.breaks.push_back({"pLevels", Break::plane, k});
-    return check;
-}
-Check noPointer(std::vector<std::string> names) {
-    Check check{STATUS_NULL_POINTER, {}};
-    for (const std::string& name : names) check.breaks.push_back({name, Break::whole, 0});
-    return check;
-}
-Check falling(const char* argument) { return {STATUS_BAD_RANGE, {{argument, Break::channel, 0}}}; }
-
 void arrangeSizes(Case& c) {
     const int channels = anyChannels(c);
     c.arg("dataType") = anyType(c);
@@ -100,19 +84,9 @@ void readLevels(Case& c) {
 
 }  // namespace
 
-extern const Family test_zmviHistogramGetBufferSize = {
-    .arrange = arrangeSizes,
-    .oracle = answerSizes,
-    .ladder = {pointers({"nLevels", "pSpecSize", "pBufferSize"}), sizes({"roiSize"}), badChannels, noLevels, badType}};
-extern const Family test_zmviHistogramInit = {.arrange = arrangeMaker,
-                                              .oracle = makeSpec,
-                                              .ladder = {badType, noPointer({"pLevels", "nLevels", "pSpec"}),
-                                                         badChannels, noArrays(), noLevels, falling("pLevels")}};
+extern const Family test_zmviHistogramGetBufferSize = {.arrange = arrangeSizes, .oracle = answerSizes};
+extern const Family test_zmviHistogramInit = {
+    .arrange = arrangeMaker, .oracle = makeSpec, .more = {{STATUS_BAD_RANGE, {{"pLevels", Break::element, 0}}}}};
 extern const Family test_zmviHistogramUniformInit = {
-    .arrange = arrangeMaker,
-    .oracle = makeSpec,
-    .ladder = {badType, pointers({"lowerLevel", "upperLevel", "nLevels", "pSpec"}), badChannels, noLevels,
-               falling("lowerLevel")}};
-extern const Family test_zmviHistogramGetLevels = {.arrange = arrangeGetLevels,
-                                                   .oracle = readLevels,
-                                                   .ladder = {noPointer({"pSpec", "pLevels"}), badTag(), noArrays()}};
+    .arrange = arrangeMaker, .oracle = makeSpec, .more = {{STATUS_BAD_RANGE, {{"lowerLevel", Break::element, 0}}}}};
+extern const Family test_zmviHistogramGetLevels = {.arrange = arrangeGetLevels, .oracle = readLevels, .more = {badTag()}};

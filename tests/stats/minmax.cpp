@@ -37,10 +37,11 @@ void fillTies(Case& c, const Image& image) {
                 }
     });
 }
-Image& placeTies(Case& c, const char* name) {
-    Image& image = c.place(name, c.width, c.height);
-    if (c.rng.below(3)) fillTies(c, image);
-    return image;
+// Images by their roles, of which two in three are such.
+void arrangeTies(Case& c) {
+    arrangeByRoles(c);
+    for (const char* name : {"src", "src1", "src2", "srcDst"})
+        if (c.has(name) && c.rng.below(3)) fillTies(c, c.image(name));
 }
 
 bool least(const std::string& result) { return result == "pMin" || result == "dstMin"; }
@@ -60,12 +61,6 @@ void setExtreme(Case& c, const Image& to, int64_t x, int64_t y, int k, T value) 
     c.set(to, x, y, k, value == value || written == written ? value : written);  // any NaN
 }
 
-void arrangeExtreme(Case& c) {
-    placeTies(c, "src");
-    for (const char* name : {"pMin", "pMax", "pIndexX", "pIndexY"})
-        if (c.has(name)) c.place(name, c.member.from.used(), 1);
-    c.arg("roiSize") = {c.width, c.height};
-}
 void extreme(Case& c) {
     const Image& src = c.image("src");
     withElement(src.element, [&]<class T>(T) {
@@ -86,13 +81,6 @@ void extreme(Case& c) {
     });
 }
 
-void arrangeEvery(Case& c) {
-    for (const char* name : {"src", "src1", "src2", "srcDst"})
-        if (c.has(name)) placeTies(c, name);
-    if (c.has("dst")) c.place("dst", c.width, c.height);
-    if (c.has("dst") && c.mode == Mode::usual && c.rng.oneIn(4)) c.alias("dst", c.rng.oneIn(2) ? "src1" : "src2");
-    c.arg("roiSize") = {c.width, c.height};
-}
 void every(Case& c) {
     const bool toLeast = c.member.name.rfind("zmviMinEvery", 0) == 0;
     pairByPair(
@@ -104,7 +92,7 @@ void arrangeBlocks(Case& c) {
     c.height += c.rng.below(12);
     if (c.mode == Mode::far) c.height = 4;
     const int64_t w = c.rng.oneIn(4) ? c.rng.between(1, 1200) : c.rng.between(1, 20), h = c.rng.between(1, 8);
-    placeTies(c, "src");
+    if (const Image& src = c.place("src", c.width, c.height); c.rng.below(3)) fillTies(c, src);
     for (const char* name : {"dstMin", "dstMax"}) c.place(name, (c.width + w - 1) / w, (c.height + h - 1) / h);
     c.arg("roiSize") = {c.width, c.height};
     c.arg("blockSize") = {c.rng.oneIn(9) && w >= c.width ? INT_MAX : w, c.rng.oneIn(9) && h >= c.height ? INT_MAX : h};
@@ -130,10 +118,9 @@ void blocks(Case& c) {
 }
 
 void arrangeCount(Case& c) {
-    const Image& src = placeTies(c, "src");
+    arrangeTies(c);
+    const Image& src = c.image("src");
     const int used = c.member.from.used();
-    for (const char* name : {"lowerBound", "upperBound"}) c.placeValue(name, used);
-    c.place("pCounts", used, 1);
     withElement(src.element, [&]<class T>(T) {
         for (int k = 0; k < used; ++k) {
             const auto pixel = [&] { return c.get<T>(src, c.rng.below(int(c.width)), c.rng.below(int(c.height)), k); };
@@ -147,8 +134,7 @@ void arrangeCount(Case& c) {
             c.set(c.image("upperBound"), 0, 0, k, high);
         }
     });
-    for (const char* name : {"lowerBound", "upperBound"}) bindValue(c, name);
-    c.arg("roiSize") = {c.width, c.height};
+    for (const char* name : {"lowerBound", "upperBound"}) c.bindValue(name);
 }
 void count(Case& c) {
     const Image& src = c.image("src");
@@ -168,28 +154,15 @@ void count(Case& c) {
     });
 }
 
-const std::vector<Check> anyStepped = {pointers({"src", "pMin", "pMax", "pIndexX", "pIndexY"}), sizes({"roiSize"})};
-
 }  // namespace
 
-#define EXTREME(name)                                                                                                  \
-    extern const Family test_##name = {                                                                                \
-        .arrange = arrangeExtreme, .oracle = extreme, .steps = Steps::any, .ladder = anyStepped};
+#define EXTREME(name) extern const Family test_##name = {.arrange = arrangeTies, .oracle = extreme};
 EXTREME(zmviMin)
 EXTREME(zmviMax)
 EXTREME(zmviMinMax)
 EXTREME(zmviMinIndx)
 EXTREME(zmviMaxIndx)
-extern const Family test_zmviMinEvery = {
-    .arrange = arrangeEvery, .oracle = every, .ladder = positiveStep(), .bulk = true};
-extern const Family test_zmviMaxEvery = {
-    .arrange = arrangeEvery, .oracle = every, .ladder = positiveStep(), .bulk = true};
-extern const Family test_zmviBlockMinMax = {
-    .arrange = arrangeBlocks,
-    .oracle = blocks,
-    .ladder = {pointers({"src", "dstMin", "dstMax"}), sizes({"roiSize"}), sizes({"blockSize"}),
-               positive({"srcStep", "dstMinStep", "dstMaxStep"}, STATUS_BAD_STEP)}};
-extern const Family test_zmviCountInRange = {.arrange = arrangeCount,
-                                             .oracle = count,
-                                             .ladder = {pointers({"src", "pCounts", "lowerBound", "upperBound"}),
-                                                        positive({"srcStep"}, STATUS_BAD_STEP), sizes({"roiSize"})}};
+extern const Family test_zmviMinEvery = {.arrange = arrangeTies, .oracle = every};
+extern const Family test_zmviMaxEvery = {.arrange = arrangeTies, .oracle = every};
+extern const Family test_zmviBlockMinMax = {.arrange = arrangeBlocks, .oracle = blocks};
+extern const Family test_zmviCountInRange = {.arrange = arrangeCount, .oracle = count};
