@@ -1,16 +1,17 @@
 // zmviGetLibVersion: the version record of this build, and the shared constants.
 #include "core/frame.h"
+#include "core/version.h"
 
 namespace {
 
 const LibraryVersion theVersion = {
-    2022,
-    2,
-    0,
-    0x42DB1A66,
+    ZMV_VERSION_MAJOR,
+    ZMV_VERSION_MINOR,
+    ZMV_VERSION_PATCH,
+    ZMV_VERSION_BUILD,
     ZMV_STR(ZMV_BUILD),
     "zmvIP " ZMV_TARGET " (" ZMV_STR(ZMV_BUILD) ")",
-    "2022.2.0 (r0x42db1a66)",
+    ZMV_VERSION_TEXT,
     "May  9 2025",  // part of the record, not the date of this compilation: builds are reproducible
 };
 

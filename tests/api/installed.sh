@@ -59,6 +59,7 @@ case $step in
 ./lib/libzmvip.so
 ./lib/libzmvip.so.1
 ./lib/pkgconfig/zmvip.pc
+./share/zmvip/api.json
 TREE
         ;;
     pkg_config)
