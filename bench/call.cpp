@@ -2,40 +2,56 @@
 #include "call.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstring>
 #include <stdexcept>
 
 Call::Call(const Member& theMember, const Setting& theSetting, const Build& theBuild)
     : member(theMember), setting(theSetting), build(theBuild) {
-    // "(const uint8_t* src, int srcStep, uint8_t* const dst[3])": the last identifier before each comma and the end.
-    std::string word;
-    bool inWord = false;
-    for (const char c : std::string(member.parameters)) {
-        if (c == ',' || c == ')') names.push_back(word);
-        const bool letter = std::isalpha(c) || c == '_' || (inWord && std::isdigit(c));
-        if (letter) word = inWord ? word + c : std::string(1, c);
-        inWord = letter;
-    }
+    const catalog::Member& named = setting.about.empty() ? *member.parts : *findMember(setting.about).parts;
+    const size_t letters = named.types.find_first_not_of("0123456789");
+    if (letters != std::string::npos) type = named.types.substr(0, named.types.find_first_not_of("usfc", letters));
+    fromChannels = named.from.channels;
+    toChannels = named.to.channels;
+    // In order: the step of an image is known once its pointer is.
+    for (const catalog::Parameter& parameter : member.parts->params) slots.push_back(argument(parameter));
+}
 
-    // zmviCopy_8u_C3AC4R_L: after the operation the types, then the layouts.  Size queries have neither.
-    const std::string name = setting.about.empty() ? member.name : setting.about;
-    const size_t types = name.find('_') + 1, layouts = name.find('_', types);
-    if (types == 0 || layouts == std::string::npos) return;
-    const size_t letters = name.find_first_not_of("0123456789", types);
-    type = name.substr(types, name.find_first_not_of("usfc", letters) - types);
-    int channels[2] = {}, count = 0;
-    for (size_t i = layouts; i + 1 < name.size() && count < 2; ++i)
-        if ((name[i] == 'C' || name[i] == 'P') && std::isdigit(name[i + 1])) channels[count++] = name[i + 1] - '0';
-    fromChannels = channels[0];
-    toChannels = count == 2 ? channels[1] : channels[0];
+test::Slot Call::argument(const catalog::Parameter& p) {
+    const int64_t bytes = std::max(1, catalog::bytesOf(p.element));
+    if (p.planes) return planes(p.name, bytes);
+    if (p.pointer) return pointer(p.name, bytes);
+    if (p.type.rfind("ImageSize", 0) == 0) {
+        const ImageSizeL size = area(p.name);
+        return {size.width, size.height};
+    }
+    const double value = number(p.name);
+    test::Slot slot{int64_t(value), int64_t(value)};  // a point has it twice
+    const auto single = float(value);
+    if (p.type == "float") std::memcpy(&slot.a, &single, sizeof single);
+    if (p.type == "double") std::memcpy(&slot.a, &value, sizeof value);
+    return slot;
+}
+
+void Call::run(const Build& where, void* function, int64_t count) {
+    const std::string& result = member.parts->result;
+    const auto call = [&](int64_t times) { return member.thunk(function, slots.data(), times); };
+    bool failed = false;
+    if (result.ends_with('*') && result.rfind("const ", 0) != 0)
+        for (; count > 0 && !failed; --count) {  // what is allocated is released, and timed together
+            const int64_t given = call(1);
+            failed = !given;
+            where.release(reinterpret_cast<void*>(given));
+        }
+    else if (const int64_t last = count > 0 ? call(count) : 0; result == "StatusCode")
+        failed = last != STATUS_OK && last != STATUS_WARN_DIV_BY_ZERO;
+    if (failed) throw std::runtime_error(where.code + " refused " + member.name);
 }
 
 void Call::unknown(const std::string& name) const {
     throw std::runtime_error(std::string(member.name) + ": no timing, as nothing is known of its argument " + name);
 }
 
-bool Call::has(const std::string& name) const { return std::find(names.begin(), names.end(), name) != names.end(); }
+bool Call::has(const std::string& name) const { return member.parts->find(name); }
 
 ImageSizeL Call::area(const std::string& name) const {
     const bool turnsInPlace = std::string(member.name).rfind("zmviTranspose_", 0) == 0 && has("roiSize");
@@ -157,7 +173,7 @@ void* Call::workBuffer() {
     const Member& query = findMember(name.substr(0, name.find('_')) + "GetBufferSize");
     Setting asked = setting;
     asked.about = name;
-    const auto call = query.bind(query, asked, build);
+    const auto call = query.bind(asked, build);
     call->run(build, build.find(query.name), 1);
     return allocate(call->answer).data();
 }
@@ -170,7 +186,7 @@ void* Call::specObject() {
     const Member& init = findMember(histogram ? "zmviHistogramUniformInit" : family + "Init");
     Setting asked = setting;
     asked.about = name;
-    maker = init.bind(init, asked, build);
+    maker = init.bind(asked, build);
     maker->run(build, build.find(init.name), 1);
     return maker->spec;
 }

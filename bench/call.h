@@ -7,9 +7,10 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <type_traits>
 #include <vector>
 
+#include "catalog.h"
+#include "harness/thunks.h"
 #include "zmvip_types.h"
 
 // One of the three builds, loaded by path.
@@ -30,16 +31,18 @@ struct Setting {
 
 class Call;
 struct Member {
-    const char *name, *parameters;
-    std::unique_ptr<Call> (*bind)(const Member&, const Setting&, const Build&);
+    const char* name;
+    const catalog::Member* parts;
+    test::Thunk thunk;
+    std::unique_ptr<Call> bind(const Setting& setting, const Build& build) const;
 };
 std::span<const Member> members();
 const Member& findMember(const std::string& name);  // throws when there is none
 
 class Call {
   public:
-    virtual ~Call() = default;
-    virtual void run(const Build& build, void* function, int64_t count) = 0;  // throws unless each call succeeds
+    Call(const Member& member, const Setting& setting, const Build& build);
+    void run(const Build& build, void* function, int64_t count);  // throws unless each call succeeds
     // memcpy of half the bytes that a call reads and writes moves the same number of bytes.
     void copySameBytes(int64_t count);
     // What a call that only writes images comes down to.
@@ -50,37 +53,13 @@ class Call {
     int64_t bytes = 0, pixels = 1, shortestRow = INT64_MAX, answer = 0;
     bool reads = false;  // an image
 
-  protected:
-    Call(const Member& member, const Setting& setting, const Build& build);
-    const Member& member;
-    std::vector<std::string> names;  // of the parameters, in order
-
-    template <class A>
-    A argument(const std::string& name) {
-        if constexpr (std::is_same_v<A, ImageSize> || std::is_same_v<A, ImageSizeL>) {
-            const ImageSizeL size = area(name);
-            return {decltype(A::width)(size.width), decltype(A::height)(size.height)};
-        } else if constexpr (std::is_same_v<A, ImagePoint>) {
-            return {int(number(name)), int(number(name))};
-        } else if constexpr (std::is_pointer_v<A>) {
-            using Target = std::remove_pointer_t<A>;
-            if constexpr (std::is_void_v<Target>)
-                return pointer(name, 1);
-            else if constexpr (std::is_pointer_v<Target>)
-                return static_cast<A>(planes(name, sizeof(std::remove_pointer_t<Target>)));
-            else
-                return static_cast<A>(pointer(name, sizeof(Target)));
-        } else {
-            return A(number(name));
-        }
-    }
-
   private:
     struct alignas(64) Line {
         uint32_t words[16];
     };
     using Memory = std::vector<Line>;
 
+    test::Slot argument(const catalog::Parameter& parameter);
     ImageSizeL area(const std::string& name) const;
     double number(const std::string& name) const;
     void* pointer(const std::string& name, int64_t element);
@@ -100,8 +79,10 @@ class Call {
     bool has(const std::string& name) const;
     [[noreturn]] void unknown(const std::string& name) const;
 
+    const Member& member;
     const Setting setting;
     const Build& build;
+    std::vector<test::Slot> slots;
     std::string type = "8u";               // of the source
     int fromChannels = 1, toChannels = 1;  // of the source and of the destination, or the number of planes
     std::map<std::string, int64_t> steps;

@@ -62,10 +62,10 @@ Rounds timeBuilds(Call& call, Call* padded, const Member& member, const std::vec
 
 void printGoal(const Goal& goal, const std::vector<Build>& builds, int rounds) {
     const Member& member = findMember(goal.member);
-    const auto call = member.bind(member, goal.setting, builds.front());
+    const auto call = member.bind(goal.setting, builds.front());
     Setting padding = goal.setting;
     padding.padding = 64;
-    const auto padded = member.bind(member, padding, builds.front());
+    const auto padded = member.bind(padding, builds.front());
     const Rounds times = timeBuilds(*call, padded.get(), member, builds, rounds, 1e6);
     const size_t memsetRunner = times.front().size() - 1;
     const auto own = [](size_t b) { return 3 * b + 1; };
@@ -109,7 +109,7 @@ void printGoal(const Goal& goal, const std::vector<Build>& builds, int rounds) {
 void printMasks(const MaskRow& row, const std::vector<Build>& builds, int rounds) {
     const Member& member = findMember(row.member);
     std::vector<std::unique_ptr<Call>> calls;
-    for (int mask : masks) calls.push_back(member.bind(member, {1920, 1080, mask}, builds.front()));
+    for (int mask : masks) calls.push_back(member.bind({1920, 1080, mask}, builds.front()));
     for (const Build& build : builds) {
         std::vector<Runner> runners;
         for (const auto& call : calls) runners.push_back(runnerOf(*call, member, build));
@@ -154,7 +154,7 @@ void printMembers(const std::vector<Build>& builds, const Options& options) {
     std::printf("\n");
     for (const Member& member : members()) {
         if (!wanted(member.name, options)) continue;
-        const auto call = member.bind(member, {options.width, options.height}, builds.front());
+        const auto call = member.bind({options.width, options.height}, builds.front());
         const Rounds times = timeBuilds(*call, nullptr, member, builds, options.rounds, 5e4);
         std::printf("%-45s", member.name);
         for (size_t b = 0; b < builds.size(); ++b) {
@@ -177,7 +177,7 @@ int smoke(const std::vector<Build>& builds) {
     };
     for (const Member& member : members())
         attempt([&] {
-            const auto call = member.bind(member, {24, 16}, builds.front());
+            const auto call = member.bind({24, 16}, builds.front());
             for (const Build& build : builds) call->run(build, build.find(member.name), 1);
             call->copySameBytes(1);
         });

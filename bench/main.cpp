@@ -24,7 +24,7 @@ static void registerAll(const std::vector<Build>& builds, const Options& options
     const auto add = [&](const Member& member, const std::string& code, auto makeRunner) {
         const Setting setting{options.width, options.height};
         const auto body = [=, &member, &builds](benchmark::State& state) {
-            const auto call = member.bind(member, setting, builds.front());
+            const auto call = member.bind(setting, builds.front());
             const Runner runner = makeRunner(*call);
             for (auto _ : state) runner(1);
             state.SetBytesProcessed(state.iterations() * call->bytes);

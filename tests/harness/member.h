@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "catalog.h"
+#include "harness/thunks.h"
 #include "zmvip.h"
 
 namespace test {
@@ -46,22 +47,14 @@ void withElement(Element element, F f) {
     }
 }
 
-// One argument of a call: a pointer or an integer in a, a floating-point value by its bits in a, a size or point in
-// a and b.
-struct Slot {
-    int64_t a = 0, b = 0;
-    Slot() = default;
-    Slot(int64_t first, int64_t second = 0) : a(first), b(second) {}
-    Slot(const void* p) : a(reinterpret_cast<int64_t>(p)) {}
-};
-
 struct Family;
 
 // A member with what is needed to call and to judge it.
 struct Member : catalog::Member {
     const catalog::Family* row;
     const Family* family;
-    int64_t (*invoke)(void* function, const Slot* args);  // the result as an integer, 0 for void
+    Thunk thunk;
+    int64_t invoke(void* function, const Slot* args) const { return thunk(function, args, 1); }
 
     const Facts& facts() const { return row->facts; }
 };
