@@ -110,7 +110,7 @@ TEST(ApiJson, SaysWhatTheHeaderSays) {
     EXPECT_EQ(printed, declared);
     EXPECT_EQ(constants, readConstants());
     std::set<std::string> exports, names = constants;
-    for (const auto& [name, symbol] : symbolsOf(ZMV_LIB_DIR "/libzmvip.so.1", "-D --defined-only"))
+    for (const auto& [name, symbol] : symbolsOf(ZMV_LIBRARY, "-D --defined-only"))
         if (symbol.kind != 'A') exports.insert(name);
     for (const auto& [name, prototype] : printed) names.insert(name);
     EXPECT_EQ(names, exports);

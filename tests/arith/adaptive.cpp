@@ -38,7 +38,7 @@ StatusCode makeGauss(const Library& library, int64_t mask, float sigma, uint8_t*
         library.find("zmviThresholdAdaptiveGaussInit"));
     return init({1, 1}, {int(mask), int(mask)}, DATATYPE_8U, 1, sigma, block);
 }
-const ObjectKind gaussObject([](uint8_t* block) { return makeGauss(underTest(), 5, 1, block); });
+const ObjectKind gaussObject([](uint8_t* block) { return makeGauss(builds().front(), 5, 1, block); });
 
 // ---- Sizes ----
 

@@ -44,7 +44,13 @@ bool rounds(const Member& m) {
 }
 
 Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
-    : member(m), library(l), seed(number), mode(how), rng(number * 8 + unsigned(how)), args_(m.params.size()) {
+    : member(m),
+      library(l),
+      seed(number),
+      mode(how),
+      rng(number * 8 + unsigned(how)),
+      args_(m.params.size()),
+      replay_(l.build) {
     extreme_ = rng.oneIn(2);
     packed_ = rng.oneIn(4);
     flushEnd_ = rng.oneIn(2);
@@ -255,7 +261,8 @@ void Case::placeBuffer(const std::string& name, int64_t bytes) {
     Arena& a = arena(n, size_t(bytes) + 2 * margin);
     uint8_t* start = flushEnd_ ? a.end - bytes : a.begin + misalignment;
     misalignment = int(reinterpret_cast<uintptr_t>(start) % 64);
-    for (int64_t i = 0; i < std::min<int64_t>(bytes, 1 << 16); ++i) start[i] = uint8_t(rng.next());
+    buffers_.emplace_back(start, size_t(std::min<int64_t>(bytes, 1 << 16)));
+    for (size_t i = 0; i < buffers_.back().second; ++i) start[i] = uint8_t(rng.next());
     const auto watch = [&](uint8_t* from, size_t size) { blocks_.push_back({from, std::vector<uint8_t>(size, 0xA5)}); };
     watch(a.begin, flushEnd_ ? 0 : size_t(misalignment));
     flushEnd_ ? watch(start - margin, margin) : watch(start + bytes, margin);

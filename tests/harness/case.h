@@ -34,7 +34,7 @@ class Case {
     Case(const Member& m, const Library& l, uint64_t number, Mode how = Mode::usual);
 
     const Member& member;
-    const Library& library;
+    Library library;
     const uint64_t seed;
     const Mode mode;
     Rng rng;
@@ -83,6 +83,10 @@ class Case {
 
     void expectResults();
     void call();
+    // The same call in another build, on operands as they were before the first call.
+    void keepOperands();
+    void callAgain(const Library& other);
+    void use(const Library& other) { library = other, replay_ = other.build; }
     int64_t returned = 0, expected = STATUS_OK;  // the oracle may expect another status
     void fail(const std::string& what) {
         if (failure_.empty()) failure_ = what;
@@ -93,7 +97,6 @@ class Case {
     std::string difference() const;  // between memory and shadow
     void acceptMemory();             // whatever it is
     std::string describe() const;
-    void expectMemoryOf(const Case& other);
 
     std::map<std::string, std::array<uint8_t*, 4>> planePointers;
     std::map<std::string, Image> images;
@@ -110,7 +113,10 @@ class Case {
     std::string nearest(const void* address) const;
 
     std::vector<Block> blocks_;
+    std::vector<std::vector<uint8_t>> kept_;            // what the blocks held
+    std::vector<std::pair<uint8_t*, size_t>> buffers_;  // work buffers, as far as they are filled
     std::vector<Slot> args_;
+    std::string replay_;  // the builds that show the failure
     bool extreme_, packed_, flushEnd_;
     unsigned mxcsr_ = 0x1f80;
     uint16_t x87_ = 0x37f;
@@ -120,7 +126,7 @@ class Case {
 // Does what calls the library.  A fault in it ends it, not the tests; returns what the fault was, or nothing.
 std::string faultOf(const std::function<void()>& calls, std::function<std::string(const void*)> where = nullptr);
 
-// Runs one case from arrangement to verdict.
-std::string runCase(const Member& m, const Library& l, uint64_t seed, Mode mode);
+// Runs one case in all builds, from arrangement to verdict.
+std::string runCase(const Member& m, uint64_t seed, Mode mode);
 
 }  // namespace test

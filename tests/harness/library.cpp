@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 
+#include <sstream>
 #include <stdexcept>
 
 namespace test {
@@ -26,6 +27,7 @@ bool processorRuns(const std::string& build) {
     return true;
 }
 
+namespace {
 Library open(const std::string& build) {
     fakeCore();
     const std::string folder = build == "s3" ? "" : "glibc-hwcaps/x86-64-" + build + "/";
@@ -34,10 +36,22 @@ Library open(const std::string& build) {
     if (!library.handle) throw std::runtime_error(dlerror());
     return library;
 }
+}  // namespace
+
+const std::vector<Library>& builds() {
+    static const std::vector<Library> opened = [] {
+        std::vector<Library> all;
+        std::istringstream codes(options.builds);
+        for (std::string code; std::getline(codes, code, ',');)
+            if (processorRuns(code)) all.push_back(open(code));
+        return all;
+    }();
+    return opened;
+}
 
 const Library& underTest() {
-    static const Library library = open(options.build);
-    return library;
+    if (builds().size() != 1) throw std::runtime_error("this test takes one build: name it with --build=");
+    return builds().front();
 }
 
 // Opened before any build, it satisfies their need of libzmvcore.so.1 by its SONAME.

@@ -13,15 +13,17 @@ struct Library {
 };
 
 struct Options {
-    std::string build = "s3", libs, core, only;
-    long seed = -1;         // run this case only
-    long cases = 1;         // multiplies the number of cases
-    bool integers = false;  // only members whose results are integers
+    std::string builds, libs, core, only;  // codes of builds, separated by commas
+    long seed = -1;                        // run this case only
+    double cases = 1;                      // multiplies the number of cases
+    bool integers = false;                 // only members whose results are integers
 };
 extern Options options;
 
 bool processorRuns(const std::string& build);
-Library open(const std::string& build);
+// Those that the options name and the processor runs, opened.
+const std::vector<Library>& builds();
+// The only one of them, for tests that are run build by build.
 const Library& underTest();
 void* fakeCore();  // the core library given by --core, or null
 

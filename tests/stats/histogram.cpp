@@ -8,13 +8,14 @@ namespace {
 using namespace test;
 
 template <class F>
-auto call(const char* name) {
-    return reinterpret_cast<F*>(underTest().find(name));
+auto call(const char* name, const Library& library = underTest()) {
+    return reinterpret_cast<F*>(library.find(name));
 }
-int bufferSize(const Spec& spec, int64_t width, int64_t height) {
+int bufferSize(const Library& library, const Spec& spec, int64_t width, int64_t height) {
     int counts[4], specSize = 0, size = 0;
     for (int k = 0; k < 4; ++k) counts[k] = int(spec.levels[k].size());
-    const auto ask = call<StatusCode(int, ImageSize, const int*, int, int, int*, int*)>("zmviHistogramGetBufferSize");
+    const auto ask =
+        call<StatusCode(int, ImageSize, const int*, int, int, int*, int*)>("zmviHistogramGetBufferSize", library);
     EXPECT_EQ(ask(spec.type, {int(width), int(height)}, counts, spec.channels, 0, &specSize, &size), STATUS_OK);
     return size;
 }
@@ -57,7 +58,7 @@ void arrangeHistogram(Case& c) {
     c.arg("roiSize") = {c.width, c.height};
     c.place("pHist", int64_t(arranged.most()) - 1, 1);
     placeHistogram(c);
-    c.placeBuffer("buffer", bufferSize(arranged, c.width, c.height));
+    c.placeBuffer("buffer", bufferSize(c.library, arranged, c.width, c.height));
     if (c.mode != Mode::usual) return;
     const auto spoil = [&](int64_t byte, int value) {
         if (!c.rng.oneIn(30)) return;
@@ -103,7 +104,7 @@ void countMany(const char* name, int type) {
     Spec spec;
     spec.type = type, spec.channels = 1, spec.levels[0] = {0, 5, 10, 30};
     const std::vector<uint8_t> object = spec.objectAt(nullptr);
-    std::vector<uint8_t> buffer(size_t(bufferSize(spec, width, height)));
+    std::vector<uint8_t> buffer(size_t(bufferSize(underTest(), spec, width, height)));
     int bins[3] = {};
     const auto count = call<StatusCode(const void*, int, ImageSize, int*, const uint8_t*, uint8_t*)>(name);
     ASSERT_EQ(count(ring.begin, width * int(sizeof(T)), {width, height}, bins, object.data(), buffer.data()),

@@ -115,7 +115,7 @@ inline void placeHistogram(Case& c) {
 inline const ObjectKind histogramObject([](uint8_t* block) {
     Spec spec;
     spec.type = DATATYPE_8U, spec.channels = 1, spec.given[0] = {0, 128, 256}, spec.keep(0, 3);
-    return makeHistogram(underTest(), spec, block);
+    return makeHistogram(builds().front(), spec, block);
 });
 
 // What lacks the tag of an object.
