@@ -17,6 +17,7 @@ struct Options {
     long seed = -1;                        // run this case only
     double cases = 1;                      // multiplies the number of cases
     bool integers = false;                 // only members whose results are integers
+    bool anyBits = false;                  // results are not judged, only that calls come back with their status
 };
 extern Options options;
 

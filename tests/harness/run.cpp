@@ -150,6 +150,8 @@ void readOptions(int argc, char** argv) {
             options.cases = std::atof(v);
         else if (text == "--integers")
             options.integers = true;
+        else if (text == "--any-bits")
+            options.anyBits = true;
         else
             throw std::runtime_error("what is " + text + "?");
     }
