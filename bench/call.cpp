@@ -155,6 +155,9 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
 
     (isRead ? read : written) = &block;
     reads |= name != "dst";
+    inPlace |= name == "srcDst";
+    sources += isRead;
+    (isRead ? readBytes : writtenBytes) += row * size.height;
     steps[name + "Step"] = step;
     shortestRow = std::min(shortestRow, row);
     if (name != "mask") pixels = size.width * size.height;  // the destination comes last

@@ -52,6 +52,11 @@ class Call {
     // source, the bytes of the shortest row of any image, and what a size query wrote.
     int64_t bytes = 0, pixels = 1, shortestRow = INT64_MAX, answer = 0;
     bool reads = false;  // an image
+    // The streams of a call: images that are only read and their bytes, the bytes written, and whether those are read
+    // as well.
+    int sources = 0;
+    int64_t readBytes = 0, writtenBytes = 0;
+    bool inPlace = false;
 
   private:
     struct alignas(64) Line {

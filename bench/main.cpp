@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <stdexcept>
 
 #include "measure.h"
@@ -16,6 +17,7 @@ static const char usage[] =
     "  (no mode)     every member and its memcpy under Google Benchmark; takes --benchmark_... options\n"
     "  --libs=DIR    where the builds are, laid out as installed (default: those of this build tree)\n"
     "  --only=TEXT   cases or members whose names contain the text\n"
+    "  --cache=BYTES what the builds are told of the largest cache: what moves more goes past the caches\n"
     "  --size=WxH    region for --members and Google Benchmark (default 256x256)\n"
     "  --rounds=N    rounds to take medians over (at least 5, default 15)\n"
     "  --core=N      the core to stay on (default: the one it starts on)\n";
@@ -58,6 +60,8 @@ static int run(int argc, char** argv) {
             options.only = value;
         else if (name == "--rounds")
             options.rounds = std::max(5, std::atoi(value.c_str()));
+        else if (name == "--cache")
+            options.cache = std::max(1ll, std::atoll(value.c_str()));
         else if (name == "--core")
             options.core = std::atoi(value.c_str());
         else if (name == "--size" && value.find('x') != std::string::npos) {
@@ -69,14 +73,19 @@ static int run(int argc, char** argv) {
             return std::fputs(usage, stderr), 2;
     }
 
-    cpu_set_t core;
-    CPU_ZERO(&core);
-    CPU_SET(options.core < 0 ? sched_getcpu() : options.core, &core);
-    if (sched_setaffinity(0, sizeof core, &core) != 0) throw std::runtime_error("cannot stay on that core");
+    cpu_set_t cores;
+    CPU_ZERO(&cores);
+    CPU_SET(options.core < 0 ? sched_getcpu() : options.core, &cores);
+    if (sched_setaffinity(0, sizeof cores, &cores) != 0) throw std::runtime_error("cannot stay on that core");
     std::setvbuf(stdout, nullptr, _IOLBF, 0);  // rows appear as they are measured, also in a pipe
+    std::optional<Core> core;  // its allocator is a simple one: where members are timed, the real library unless asked
+    if (mode == "--goals" || options.cache >= 0) core.emplace();
+    if (options.cache >= 0 && !*core) throw std::runtime_error("--cache needs a build tree with tests");
+    const int64_t cache = options.cache >= 0 ? options.cache : cacheOf(options.libraries);
+    if (core && *core) core->answer(cache);
     const std::vector<Build> builds = loadBuilds(options.libraries);
     if (mode == "--smoke") return smoke(builds) == 0 ? 0 : 1;
-    if (mode == "--goals") return printGoals(builds, options), 0;
+    if (mode == "--goals") return printGoals(builds, options, *core, cache), 0;
     if (mode == "--members") return printMembers(builds, options), 0;
 
     registerAll(builds, options);

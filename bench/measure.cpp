@@ -6,10 +6,35 @@
 #include <cstdio>
 #include <stdexcept>
 
+#include "wall.h"
+
 void* Build::find(const std::string& name) const {
     void* function = dlsym(handle, name.c_str());
     if (!function) throw std::runtime_error("the " + code + " build lacks " + name);
     return function;
+}
+
+Core::Core() {
+    if (!*ZMV_CORE) return;
+    void* const handle = dlopen(ZMV_CORE, RTLD_NOW | RTLD_GLOBAL);
+    if (!handle) throw std::runtime_error(dlerror());
+    size_ = static_cast<int*>(dlsym(handle, "fakeCacheSize"));
+    asked_ = static_cast<int*>(dlsym(handle, "fakeCacheAsked"));
+}
+void Core::answer(int64_t cacheBytes) { *size_ = int(std::min<int64_t>(cacheBytes, INT32_MAX)); }
+bool Core::isAskedBy(const std::function<void()>& thing) {
+    const int before = *asked_;
+    thing();
+    return *asked_ != before;
+}
+
+int64_t cacheOf(const std::string& directory) {
+    // By its path, it is another library than the one that has taken its name.
+    void* const handle = dlopen((directory + "/libzmvcore.so.1").c_str(), RTLD_NOW | RTLD_LOCAL);
+    if (!handle) throw std::runtime_error(dlerror());
+    int bytes = 0;
+    reinterpret_cast<StatusCode (*)(int*)>(dlsym(handle, "zmvGetMaxCacheSizeB"))(&bytes);
+    return bytes;
 }
 
 std::vector<Build> loadBuilds(const std::string& directory) {
@@ -46,6 +71,36 @@ Runner runnerOf(Call& call, const Member& member, const Build& build) {
 
 Runner copierOf(Call& call) {
     return [&](int64_t count) { call.copySameBytes(count); };
+}
+
+Walls::Walls(Call& call, const Build& widest) {
+    const int sources = call.inPlace ? call.sources + 1 : call.sources;
+    const int64_t read = sources ? (call.readBytes + (call.inPlace ? call.writtenBytes : 0)) / sources : 0;
+    // The nearest of the proportions that there are loops for.
+    Wall wall{sources, 1, 1, 0, {}, nullptr};
+    const double ratio = double(call.writtenBytes) / double(std::max<int64_t>(1, read));
+    if (sources == 0)
+        wall.from = 0;
+    else if (call.writtenBytes < read / 16)
+        wall.from = 4, wall.to = 0;
+    else
+        wall.from = ratio < 0.35 ? 4 : ratio < 0.7 ? 2 : 1, wall.to = ratio > 2.8 ? 4 : ratio > 1.4 ? 2 : 1;
+    wall.times = (wall.from ? read / wall.from : call.writtenBytes) / 64;
+    memory_[2].resize(size_t(wall.times * wall.to + 1), {{1}});
+    wall.destination = memory_[2][0].bytes;
+    for (int i = 0; i < sources; ++i) {
+        const bool written = call.inPlace && i == 0;
+        if (!written) memory_[i].resize(size_t(wall.times * wall.from + 1), {{1}});
+        wall.source[i] = (written ? memory_[2] : memory_[i])[0].bytes;
+    }
+    const auto loop = widest.code == "v4" ? v4_wall : widest.code == "v3" ? v3_wall : s3_wall;
+    for (const bool streaming : {false, true})
+        if (!streaming || wall.to > 0)
+            runners.push_back([=](int64_t count) {
+                for (; count > 0; --count) loop(wall, streaming);
+            });
+    if (sources == 0) runners.push_back([&](int64_t count) { call.setSameBytes(count); });
+    if (sources == 1 && wall.from == wall.to && !call.inPlace) runners.push_back(copierOf(call));
 }
 
 // Of this thread on its core: what other programs take meanwhile does not count.

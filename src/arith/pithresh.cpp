@@ -21,7 +21,8 @@ StatusCode operatorOf(int cmpOp) { return refuse(cmpOp != CMP_LESS && cmpOp != C
 
 template <class T, class Rule, class... Level>
 StatusCode run(const Rule& rule, Image<const T> src, Image<T> dst, Roi roi, Layout layout, const Level*... levels) {
-    const bool pastCache = regionPastCache(roi, layout, 2 * sizeof(T));
+    // A line that has just been read is in the caches: to stream it back in place would only drive it out first.
+    const bool pastCache = regionPastCache(roi, layout, 2 * sizeof(T)) && src.data != dst.data;
     const auto walk = [&] {
         pointwise(rule, dst, roi, layout, pastCache, src, Constant<T>(levels, layout)...);
         return STATUS_OK;

@@ -42,8 +42,35 @@ void moveElements(const Channels<const T, n>& src, const Channels<T, n>& dst, Ro
                 std::memcpy(dst.row(c, y) + x * dst.distance, src.row(c, y) + x * src.distance, sizeof(T));
 }
 
+// Rows that go past the caches by way of a block that stays in the nearest cache: they are written to it like to any
+// memory, and leave as whole lines.
+class Stage {
+  public:
+    static constexpr Len room = 16 * lineBytes;  // for what is written at a time
+
+    explicit Stage(void* row) : begin_(Len(reinterpret_cast<uintptr_t>(row) % lineBytes)), end_(begin_) {
+        line_ = static_cast<uint8_t*>(row) - begin_;
+    }
+    // Where the row goes on.
+    uint8_t* end() { return lines_ + end_; }
+    // So many bytes more have been written there.
+    void wrote(Len bytes, bool last) {
+        end_ += bytes;
+        const Len whole = last ? end_ : end_ / lineBytes * lineBytes;
+        zmv::streamRow(line_ + begin_, lines_ + begin_, whole - begin_);
+        if (last) return;
+        for (Len i = 0; i < lineBytes; i += vectorBytes) store(lines_ + i, loadAs<Vec<uint8_t>>(lines_ + whole + i));
+        line_ += whole, end_ -= whole, begin_ = 0;
+    }
+
+  private:
+    alignas(64) uint8_t lines_[room + 2 * lineBytes];
+    uint8_t* line_;    // of the row, where the block belongs
+    Len begin_, end_;  // of what waits in the block
+};
+
 // The vector path: n channels out of pixels of `from` channels into pixels of `to` channels; 1 means planes.
-template <int n, int from, int to, bool streaming, class T>
+template <int n, int from, int to, class T>
 struct ChannelMover {
     using V = Vec<T>;
     static constexpr int block = lanes<T>;
@@ -77,7 +104,7 @@ struct ChannelMover {
     static ZMV_INLINE void storeAt(T* const* dst, Len x, const Block<V, n>& channels,
                                    std::integer_sequence<int, v...>) {
         if constexpr (to == 1) {
-            (..., storeLanes<streaming>(dst[v] + x, channels[v], 16));
+            (..., store(dst[v] + x, channels[v]));
         } else {
             T* const p = dst[0] + x * to - first;
             Block<V, to> planes;
@@ -87,7 +114,7 @@ struct ChannelMover {
                 const auto old = loadPixels<to>(p);
                 ((pixels[v] = select(maskWhere<IsMoved<v, first>, V>(), pixels[v], old[v])), ...);
             }
-            storePixels<to, streaming>(p, pixels);
+            storePixels<to>(p, pixels);
         }
     }
     template <bool last>
@@ -106,8 +133,28 @@ struct ChannelMover {
         const auto outBytes = size_t(rowBytes<T>(width, to == 1 ? 1 : n, to));
         for (int c = 0; c < sources; ++c) std::memcpy(in[c], src[c], inBytes), inRows[c] = in[c];
         for (int c = 0; c < targets; ++c) std::memcpy(out[c], dst[c], outBytes), outRows[c] = out[c];
-        ChannelMover<n, from, to, false, T>::template moveBlock<false>(inRows, outRows, 0);
+        moveBlock<false>(inRows, outRows, 0);
         for (int c = 0; c < targets; ++c) std::memcpy(dst[c], out[c], outBytes);
+    }
+
+    // The same past the caches, where all channels of the destination's pixels move.
+    static void streamRow(const T* const* src, T* const* dst, Len width) {
+        static_assert(n == to || to == 1);
+        constexpr int targets = to == 1 ? n : 1;
+        constexpr Len part = Stage::room / (to * vectorBytes) * block;
+        const auto stages = [&]<size_t... c>(std::index_sequence<c...>) {
+            return std::array<Stage, targets>{Stage(dst[c])...};
+        };
+        auto staged = stages(std::make_index_sequence<targets>());
+        for (Len x = 0; x < width; x += part) {
+            const Len count = std::min(part, width - x);
+            const T* s[n];
+            T* d[n];
+            for (int c = 0; c < n; ++c) s[c] = src[c] + x * from;
+            for (int c = 0; c < targets; ++c) d[c] = reinterpret_cast<T*>(staged[c].end());
+            moveRow(s, d, count);
+            for (auto& stage : staged) stage.wrote(count * to * Len(sizeof(T)), x + count == width);
+        }
     }
 
     // Source and destination do not overlap, so the last block may move some pixels a second time.
@@ -115,7 +162,7 @@ struct ChannelMover {
         if (width < block + endsInsidePixel) return moveShort(src, dst, width);
         Len x = 0;
         for (; x + block < width; x += block) moveBlock<false>(src, dst, x);
-        ChannelMover<n, from, to, false, T>::template moveBlock<true>(src, dst, width - block);
+        moveBlock<true>(src, dst, width - block);
     }
 };
 
@@ -124,17 +171,18 @@ template <int n, int from, int to, class T>
 void moveChannels(const Channels<const T, n>& src, const Channels<T, n>& dst, Roi roi, bool pastCache = false) {
     if (overlaps(src, dst, roi)) return moveElements(src, dst, roi);
     roi = joinRows(roi, src.step == roi.width * from * Len(sizeof(T)) && dst.step == roi.width * to * Len(sizeof(T)));
+    using Mover = ChannelMover<n, from, to, T>;
     for (Len y = 0; y < roi.height; ++y) {
         const T* s[n];
         T* d[n];
-        bool streaming = pastCache;
-        for (int c = 0; c < n; ++c) {
-            s[c] = src.row(c, y), d[c] = dst.row(c, y);
-            streaming = streaming && (to > 1 || canStream(d[c]));
+        for (int c = 0; c < n; ++c) s[c] = src.row(c, y), d[c] = dst.row(c, y);
+        if constexpr (n == to || to == 1) {
+            if (pastCache) {
+                Mover::streamRow(s, d, roi.width);
+                continue;
+            }
         }
-        streaming = streaming && canStream(d[0]);
-        (streaming ? ChannelMover<n, from, to, true, T>::moveRow : ChannelMover<n, from, to, false, T>::moveRow)(
-            s, d, roi.width);
+        Mover::moveRow(s, d, roi.width);
     }
     if (pastCache) fence();
 }

@@ -99,13 +99,21 @@ StatusCode ownpi_Mirror(Image<const T> src, Image<T> dst, Roi roi, int axis) {
     if (axis == AXIS_HORIZONTAL && !layout.alpha)
         return copyRows(src, dst, {rowBytes, roi.height}, pastCache()), STATUS_OK;
     const RowReverser<T, channels> reverse;
-    eachRow(dst, roi, layout, pastCache(), [&](T* to, Len y, Len x, Len n) {
-        const Len first = x / channels, count = (n + channels - 1) / channels;
-        if (axis == AXIS_HORIZONTAL)
-            copyRow(to, src.row(y) + x, n * Len(sizeof(T)));
-        else
-            reverse(to, src.row(y) + (roi.width - first - count) * channels, count);
-    });
+    // The pixels that elements x to x + n of a row come from, which begin with a pixel.
+    const auto opposite = [&](Len y, Len x, Len n) {
+        return src.row(y) + roi.width * channels - x - (n + channels - 1) / channels * channels;
+    };
+    eachRow(
+        dst, roi, layout, pastCache() && canStream(dst, channels * sizeof(T)),
+        [&](T* to, Len y, Len x, Len n) {
+            if (axis == AXIS_HORIZONTAL)
+                copyRow(to, src.row(y) + x, n * Len(sizeof(T)));
+            else
+                reverse(to, opposite(y, x, n), (n + channels - 1) / channels);
+        },
+        [&](T* to, Len y, Len x, Len n) {
+            if constexpr (asks) reverse.lines(to, opposite(y, x, n), n / channels);
+        });
     return STATUS_OK;
 }
 

@@ -23,7 +23,11 @@ StatusCode ownpi_Set(const T* value, Image<T> dst, Roi roi) {
     const bool pastCache = regionPastCache(roi, layout, sizeof(T));
     roi = joinRows(roi, gapless(dst, roi.width, layout.channels));
     const Len bytes = roi.width * layout.channels * Len(sizeof(T));
-    for (Len y = 0; y < roi.height; ++y) (pastCache ? fillRow<true> : fillRow<false>)(dst.row(y), values, bytes);
+    for (Len y = 0; y < roi.height; ++y)
+        if (pastCache)
+            streamFill(dst.row(y), values, bytes);
+        else
+            fillRow(dst.row(y), values, bytes);
     if (pastCache) fence();
     return STATUS_OK;
 }

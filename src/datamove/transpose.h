@@ -40,9 +40,10 @@ class Transposer {
 
   private:
     static constexpr bool inVectors = 16 % pixel == 0;
-    static constexpr int across = 16 / pixel;                 // pixels of a lane
-    static constexpr int line = 64, lineRows = line / pixel;  // rows that make a cache line of the destination
-    static constexpr int blockLines = 2;                      // cache lines of a row of a block of columns
+    static constexpr int across = 16 / pixel;  // pixels of a lane
+    static constexpr int line = int(lineBytes),
+                         lineRows = line / pixel;  // rows that make a cache line of the destination
+    static constexpr int blockLines = 2;           // cache lines of a row of a block of columns
     static constexpr Len block = blockLines * line / pixel;
 
     // From so many bytes read and written on, what the nearest cache cannot hold is fetched ahead.
@@ -58,11 +59,11 @@ class Transposer {
         rows = transposed<across, Vec<T, size>>(rows);
         for (int i = 0; i < across; ++i) store(dst + i * dstStep, rows[i]);
     }
-    // Lines leave for the memory whole, one after the other.
     static ZMV_INLINE void streamLines(const uint8_t* lines, uint8_t* dst, Len dstStep) {
-        for (int i = 0; i < across; ++i)
-            for (int at = 0; at < line; at += vectorBytes)
-                stream(dst + i * dstStep + at, loadAs<Vec<uint8_t>>(lines + i * line + at));
+        for (int i = 0; i < across; ++i) {
+            const uint8_t* const from = lines + i * line;
+            streamLine(dst + i * dstStep, [&](int k) { return loadAs<Vec<uint8_t>>(from + k * vectorBytes); });
+        }
     }
 
     // A tile's share of what the next band of rows reads and writes: rows that start far apart are no sequence that the
@@ -76,7 +77,8 @@ class Transposer {
     }
 
     // Columns in blocks, so that the destination's lines stay in the nearest cache until the next band of rows goes on
-    // with them.  The last band and the last columns go over pixels that are done already.
+    // with them.  The last band and the last columns go over pixels that are done already; past the caches the last
+    // band leaves whole lines alone.
     template <int size, int down, bool streaming = false>
     static void tiles(ConstBytes src, Bytes dst, Roi roi) {
         constexpr int tileRows = size / pixel;
@@ -85,7 +87,6 @@ class Transposer {
         for (Len x0 = 0; x0 < roi.width; x0 += block)
             for (Len y = 0; y < roi.height; y += down) {
                 const Len row = std::min(y, roi.height - down), next = std::min(y + down, roi.height - down);
-                const bool past = streaming && row == y;
                 for (Len x = x0; x < std::min(x0 + block, roi.width); x += across) {
                     const Len column = std::min(x, roi.width - across);
                     uint8_t* const to = dst.row(column) + row * pixel;
@@ -93,9 +94,13 @@ class Transposer {
                         fetchAhead<down>(src.row(next) + x0 * pixel, src.step, dst.row(column) + next * pixel, dst.step,
                                          unsigned(x - x0) / across);
                     for (int part = 0; part < down; part += tileRows)
-                        tile<size>(src.row(row + part) + column * pixel, src.step, (past ? lines : to) + part * pixel,
-                                   past ? line : dst.step);
-                    if (past) streamLines(lines, to, dst.step);
+                        tile<size>(src.row(row + part) + column * pixel, src.step,
+                                   (streaming ? lines : to) + part * pixel, streaming ? line : dst.step);
+                    if (!streaming) continue;
+                    if (row == y) streamLines(lines, to, dst.step);
+                    const Len done = (y - row) * pixel;
+                    for (int i = 0; done > 0 && i < across; ++i)
+                        copyRow(dst.row(column + i) + y * pixel, lines + i * line + done, line - done);
                 }
             }
     }

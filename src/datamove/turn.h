@@ -110,6 +110,15 @@ class RowReverser {
         else
             reverse(reinterpret_cast<uint8_t*>(dst), reinterpret_cast<const uint8_t*>(src), pixels * pixel);
     }
+    // Whole lines, past the caches.
+    void lines(T* dst, const T* src, Len pixels) const {
+        static_assert(n != 3);
+        const auto to = reinterpret_cast<uint8_t*>(dst);
+        const uint8_t* const end = reinterpret_cast<const uint8_t*>(src) + pixels * pixel;
+        for (Len at = 0; at < pixels * pixel; at += lineBytes)
+            streamLine(to + at,
+                       [&](int i) { return opposite<pixel>(loadAs<Vec<uint8_t>>(end - at - (i + 1) * vectorBytes)); });
+    }
 
   private:
     static constexpr int pixel = n * int(sizeof(T));

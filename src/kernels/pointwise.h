@@ -28,19 +28,19 @@ struct ImageRow {
 template <class T>
 struct ConstantRow {
     Vec<T> period[3];
-    explicit ConstantRow(const Pattern& p)
-        : period{(Vec<T>)p.at(0), (Vec<T>)p.at(vectorBytes), (Vec<T>)p.at(2 * vectorBytes)} {}
+    ConstantRow(const Pattern& p, Len from)
+        : period{(Vec<T>)p.at(from), (Vec<T>)p.at(from + vectorBytes), (Vec<T>)p.at(from + 2 * vectorBytes)} {}
     Vec<T> at(Len, int k) const { return period[k]; }
     Vec<T> part(Len, int k, int) const { return period[k]; }
 };
-// Elements x to x + n of row y; a constant starts with its first channel.
+// Elements x to x + n of row y.
 template <class T>
 ZMV_INLINE ImageRow<T> rowOf(Image<const T> image, Len y, Len x, Len) {
     return {image.row(y) + x};
 }
 template <class T>
-ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len, Len) {
-    return ConstantRow<T>(constant.pattern);
+ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len x, Len) {
+    return {constant.pattern, x * Len(sizeof(T))};
 }
 template <class T>
 bool operandGapless(Image<const T> image, Len width, int channels) {
@@ -61,29 +61,51 @@ ZMV_INLINE void pointwiseRow(const Rule& rule, T* dst, Len count, const Row&... 
         storePart(to + done, rule(rows.part(done, int(done / vectorBytes % 3), rest)...), rest);
 }
 
-// Where a channel is left alone, and past the caches, results take a detour through a block that stays in the nearest
-// cache; it holds whole periods of every pattern.
+// Whole lines, past the caches.
+template <class T, class Rule, class... Row>
+ZMV_INLINE void pointwiseLines(const Rule& rule, T* dst, Len count, const Row&... rows) {
+    const auto to = reinterpret_cast<uint8_t*>(dst);
+    const Len bytes = count * Len(sizeof(T));
+    int first = 0;
+    for (Len at = 0; at < bytes; at += lineBytes, first = (first + lineVectors) % 3)
+        streamLine(to + at, [&](int i) { return rule(rows.at(at + i * vectorBytes, (first + i) % 3)...); });
+}
+
+// Where a channel is left alone, results take a detour through a block that stays in the nearest cache; it holds whole
+// periods of every pattern.
 template <class T, class Row>
-__attribute__((noinline)) void eachBlock(Image<T> dst, Len height, Len count, bool pastCache, Row row) {
+__attribute__((noinline)) void eachBlock(Image<T> dst, Len height, Len count, Row row) {
     constexpr Len blockBytes = 48 * vectorBytes, block = blockBytes / Len(sizeof(T));
     alignas(64) uint8_t results[blockBytes];
     for (Len y = 0; y < height; ++y)
         for (Len x = 0; x < count; x += block) {
             const Len n = std::min(block, count - x);
             row(reinterpret_cast<T*>(results), y, x, n);
-            if (pastCache)
-                streamRow(dst.row(y) + x, results, n * Len(sizeof(T)));
-            else
-                blendRow(dst.row(y) + x, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
+            blendRow(dst.row(y) + x, fromRow(results), Pattern::mask<Bits<T>>(3, 4), n * Len(sizeof(T)));
         }
-    if (pastCache) fence();
 }
-// Calls row(to, y, x, n) for the elements x to x + n of each row y, which it writes to `to`.
-template <class T, class Row>
-void eachRow(Image<T> dst, Roi roi, Layout layout, bool pastCache, Row row) {
-    const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / Len(sizeof(T));
-    if (layout.alpha || pastCache) return eachBlock(dst, roi.height, count, pastCache, row);
-    for (Len y = 0; y < roi.height; ++y) row(dst.row(y), y, 0, count);
+// Elements in groups of so many bytes, which do not lie across the ends of lines.
+template <class T>
+bool canStream(Image<T> dst, Len group) {
+    return (reinterpret_cast<uintptr_t>(dst.data) | uintptr_t(dst.step)) % uintptr_t(group) == 0;
+}
+// Calls row(to, y, x, n) for the elements x to x + n of each row y, which it writes to `to`; past the caches
+// lines(to, y, x, n) for those that are whole lines, which it streams.
+template <class T, class Row, class Lines>
+void eachRow(Image<T> dst, Roi roi, Layout layout, bool pastCache, Row row, Lines lines) {
+    constexpr Len size = sizeof(T);
+    const Len count = rowBytes<T>(roi.width, layout.used(), layout.channels) / size;
+    if (layout.alpha) return eachBlock(dst, roi.height, count, row);
+    for (Len y = 0; y < roi.height; ++y) {
+        T* const to = dst.row(y);
+        if (!pastCache)
+            row(to, y, 0, count);
+        else
+            splitAtLines(
+                to, count * size, [&](Len at, Len n) { row(to + at / size, y, at / size, n / size); },
+                [&](Len at, Len n) { lines(to + at / size, y, at / size, n / size); });
+    }
+    if (pastCache) fence();
 }
 template <class T, class... Operand>
 Roi joinOperands(Roi roi, Layout layout, Image<T> dst, const Operand&... operands) {
@@ -94,10 +116,14 @@ Roi joinOperands(Roi roi, Layout layout, Image<T> dst, const Operand&... operand
 // dst = rule(operands...) over a region.
 template <class T, class Rule, class... Operand>
 void pointwise(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
-    eachRow(dst, joinOperands(roi, layout, dst, operands...), layout, pastCache,
-            [&](T* to, [[maybe_unused]] Len y, [[maybe_unused]] Len x, Len n) {
-                pointwiseRow(rule, to, n, rowOf(operands, y, x, n)...);
-            });
+    eachRow(
+        dst, joinOperands(roi, layout, dst, operands...), layout, pastCache && canStream(dst, sizeof(T)),
+        [&](T* to, [[maybe_unused]] Len y, [[maybe_unused]] Len x, Len n) {
+            pointwiseRow(rule, to, n, rowOf(operands, y, x, n)...);
+        },
+        [&](T* to, [[maybe_unused]] Len y, [[maybe_unused]] Len x, Len n) {
+            pointwiseLines(rule, to, n, rowOf(operands, y, x, n)...);
+        });
 }
 
 }  // namespace zmv

@@ -37,45 +37,59 @@ struct ImageRowIn {
 template <class W>
 struct ConstantRowIn {
     const ConstantIn<W>& constant;
-    Vec<W> at(Len x) const { return constant.at(x); }
-    Vec<W> part(Len x, Len) const { return constant.at(x); }
+    Len from;
+    Vec<W> at(Len x) const { return constant.at(from + x); }
+    Vec<W> part(Len x, Len) const { return at(x); }
 };
 template <class W, class T>
 ZMV_INLINE ImageRowIn<W, T> rowIn(Image<const T> image, Len y, Len x, Len) {
     return {image.row(y) + x};
 }
 template <class W>
-ZMV_INLINE ConstantRowIn<W> rowIn(const ConstantIn<W>& constant, Len, Len, Len) {
-    return {constant};
+ZMV_INLINE ConstantRowIn<W> rowIn(const ConstantIn<W>& constant, Len, Len x, Len) {
+    return {constant, x};
 }
 template <class W>
 bool operandGapless(const ConstantIn<W>&, Len, int) {
     return true;
 }
 
+// The vector of results from element x on.
+template <class W, class T, class Rule, class... Row>
+ZMV_INLINE Vec<T> resultsIn(const Rule& rule, Len x, const Row&... rows) {
+    std::array<Vec<W>, sizeof(W) / sizeof(T)> results;
+    for (size_t i = 0; i < results.size(); ++i) results[i] = rule(rows.at(x + Len(i) * lanes<W>)...);
+    return joined<T>(results);
+}
 template <class W, class T, class Rule, class... Row>
 ZMV_INLINE void pointwiseRowIn(const Rule& rule, T* dst, Len count, const Row&... rows) {
-    constexpr size_t vectors = sizeof(W) / sizeof(T);
-    std::array<Vec<W>, vectors> results;
     Len x = 0;
 #pragma GCC unroll 4
-    for (; count - x >= lanes<T>; x += lanes<T>) {
-        for (size_t i = 0; i < vectors; ++i) results[i] = rule(rows.at(x + Len(i) * lanes<W>)...);
-        store(dst + x, joined<T>(results));
-    }
+    for (; count - x >= lanes<T>; x += lanes<T>) store(dst + x, resultsIn<W, T>(rule, x, rows...));
     if (x == count) return;
-    for (size_t i = 0; i < vectors; ++i) {
+    std::array<Vec<W>, sizeof(W) / sizeof(T)> results;
+    for (size_t i = 0; i < results.size(); ++i) {
         const Len at = x + Len(i) * lanes<W>;
         results[i] = rule(rows.part(at, count - at)...);
     }
     storePart(dst + x, joined<T>(results), int(count - x));
 }
 
+// Whole lines, past the caches.
+template <class W, class T, class Rule, class... Row>
+ZMV_INLINE void pointwiseLinesIn(const Rule& rule, T* dst, Len count, const Row&... rows) {
+    for (Len x = 0; x < count; x += lineVectors * lanes<T>)
+        streamLine(reinterpret_cast<uint8_t*>(dst + x),
+                   [&](int i) { return resultsIn<W, T>(rule, x + i * lanes<T>, rows...); });
+}
+
 // dst = rule(operands...) over a region, the rule in lanes of W.
 template <class W, class T, class Rule, class... Operand>
 void pointwiseIn(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
-    eachRow(dst, joinOperands(roi, layout, dst, operands...), layout, pastCache,
-            [&](T* to, Len y, Len x, Len n) { pointwiseRowIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); });
+    eachRow(
+        dst, joinOperands(roi, layout, dst, operands...), layout, pastCache && canStream(dst, sizeof(T)),
+        [&](T* to, Len y, Len x, Len n) { pointwiseRowIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); },
+        [&](T* to, Len y, Len x, Len n) { pointwiseLinesIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); });
 }
 
 }  // namespace zmv

@@ -40,21 +40,41 @@ inline void copyRow(void* dst, const void* src, Len bytes) {
     store(to + bytes - vectorBytes, last);
 }
 
-// The same past the caches.  fence() when all rows are done.
+// ---- Past the caches ----
+// A line of memory whose bytes all come from streaming stores, one behind the other, leaves as it is; one that ordinary
+// stores touch too goes there and back, at several times the cost of either.  So whole lines are streamed, and the part
+// lines at the two ends of a row are stored like anything else.  fence() when all rows are done.
+
+constexpr Len lineBytes = 64;
+constexpr int lineVectors = int(lineBytes) / vectorBytes;
+
+// The vectors vectorAt(0), vectorAt(1).. of the line at `to`, all made before the first is stored.
+template <class VectorAt>
+ZMV_INLINE void streamLine(uint8_t* to, const VectorAt& vectorAt) {
+    Vec<uint8_t> line[lineVectors];
+    unrolled<lineVectors>([&](auto i) { line[i] = (Vec<uint8_t>)vectorAt(i); });
+    complete(line);
+    unrolled<lineVectors>([&](auto i) { stream(to + i * vectorBytes, line[i]); });
+}
+// A row taken apart: part(at, n) for the bytes of the part lines at its ends, lines(at, n) for all whole lines.
+template <class Part, class Lines>
+ZMV_INLINE void splitAtLines(const void* row, Len bytes, const Part& part, const Lines& lines) {
+    const Len head = std::min(bytes, Len(-reinterpret_cast<uintptr_t>(row) % lineBytes)),
+              whole = (bytes - head) / lineBytes * lineBytes, tail = head + whole;
+    if (head > 0) part(Len(0), head);
+    if (whole > 0) lines(head, whole);
+    if (tail < bytes) part(tail, bytes - tail);
+}
+
 inline void streamRow(void* dst, const void* src, Len bytes) {
-    constexpr Len block = 4 * vectorBytes;
-    using V = Vec<uint8_t>;
-    auto to = static_cast<uint8_t*>(dst);
-    auto from = static_cast<const uint8_t*>(src);
-    if (bytes < block + vectorBytes) return copyRow(to, from, bytes);
-    const uint8_t* const end = from + bytes;
-    store(to, loadAs<V>(from));
-    const Len head =
-        vectorBytes - Len(reinterpret_cast<uintptr_t>(to) % vectorBytes);  // to the next boundary, at most one vector
-    to += head, from += head;
-    for (; end - from >= block; to += block, from += block)
-        for (int i = 0; i < block; i += vectorBytes) stream(to + i, loadAs<V>(from + i));
-    if (from < end) copyRow(to, from, end - from);
+    const auto to = static_cast<uint8_t*>(dst);
+    const auto from = static_cast<const uint8_t*>(src);
+    splitAtLines(
+        to, bytes, [&](Len at, Len n) { copyRow(to + at, from + at, n); },
+        [&](Len at, Len n) {
+            for (const Len end = at + n; at < end; at += lineBytes)
+                streamLine(to + at, [&](int i) { return loadAs<Vec<uint8_t>>(from + at + i * vectorBytes); });
+        });
 }
 
 // roi.width counts bytes here.
@@ -108,28 +128,41 @@ ZMV_INLINE Len eachVector(Len done, Len bytes, Step step) {
     return done;
 }
 
-// The pattern over `bytes` bytes.  With streaming, fence() when all rows are done.
-template <bool streaming = false>
-inline void fillRow(void* row, const Pattern& pattern, Len bytes) {
+// `bytes` bytes of the pattern from one of its bytes on.
+inline void fillRow(void* row, const Pattern& pattern, Len bytes, Len from = 0) {
     const auto dst = static_cast<uint8_t*>(row);
     if (bytes < vectorBytes) {
-        if (bytes > 0) storePart(dst, pattern.at(0), int(bytes));
+        if (bytes > 0) storePart(dst, pattern.at(from), int(bytes));
         return;
     }
     constexpr Len callPays = 4096;  // the C library may fill whole cache lines without reading them
-    if (!streaming && bytes >= callPays && pattern.isOneByte())
-        return (void)std::memset(dst, pattern.firstByte(), size_t(bytes));
-    store(dst, pattern.at(0));
+    if (bytes >= callPays && pattern.isOneByte()) return (void)std::memset(dst, pattern.firstByte(), size_t(bytes));
+    store(dst, pattern.at(from));
     const Len head = vectorBytes - Len(reinterpret_cast<uintptr_t>(dst) % vectorBytes);
-    const Vec<uint8_t> period[3] = {pattern.at(head), pattern.at(head + vectorBytes),
-                                    pattern.at(head + 2 * vectorBytes)};
-    eachVector(head, bytes, [&](Len at, auto k) {
-        if constexpr (streaming)
-            stream(dst + at, period[k]);
-        else
-            store(dst + at, period[k]);
-    });
-    store(dst + bytes - vectorBytes, pattern.at(bytes - vectorBytes));
+    const Vec<uint8_t> period[3] = {pattern.at(from + head), pattern.at(from + head + vectorBytes),
+                                    pattern.at(from + head + 2 * vectorBytes)};
+    eachVector(head, bytes, [&](Len at, auto k) { store(dst + at, period[k]); });
+    store(dst + bytes - vectorBytes, pattern.at(from + bytes - vectorBytes));
+}
+// The same past the caches, from its first byte on.
+inline void streamFill(void* row, const Pattern& pattern, Len bytes) {
+    const auto dst = static_cast<uint8_t*>(row);
+    splitAtLines(
+        dst, bytes, [&](Len at, Len n) { fillRow(dst + at, pattern, n, at); },
+        [&](Len at, Len n) {
+            const Vec<uint8_t> period[3] = {pattern.at(at), pattern.at(at + vectorBytes),
+                                            pattern.at(at + 2 * vectorBytes)};
+            const auto line = [&](auto first) {  // the first of the period
+                streamLine(dst + at, [&](auto i) { return period[(first + i) % 3]; });
+                at += lineBytes, n -= lineBytes;
+            };
+            constexpr std::integral_constant<int, 0> first;
+            constexpr std::integral_constant<int, lineVectors % 3> second;
+            constexpr std::integral_constant<int, 2 * lineVectors % 3> third;
+            while (n >= 3 * lineBytes) line(first), line(second), line(third);
+            if (n > 0) line(first);
+            if (n > 0) line(second);
+        });
 }
 
 // One value over `count` elements, for short runs: no pattern is worth building.

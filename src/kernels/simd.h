@@ -37,7 +37,7 @@ constexpr int lanes = bytes / int(sizeof(T));
 
 // step(0) .. step(n - 1), each number a constant: arrays of vectors stay in registers.
 template <class Step, int... k>
-ZMV_INLINE void unrolled(Step step, std::integer_sequence<int, k...>) {
+ZMV_INLINE void unrolled([[maybe_unused]] Step step, std::integer_sequence<int, k...>) {
     (..., step(std::integral_constant<int, k>{}));
 }
 template <int n, class Step>
@@ -76,8 +76,14 @@ ZMV_INLINE void stream(void* p, V v) {
 ZMV_INLINE void fence() { _mm_sfence(); }
 // Into the nearest cache, while other work goes on.
 ZMV_INLINE void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
-// Whether p suits streaming stores of 16-byte lanes.
-ZMV_INLINE bool canStream(const void* p) { return reinterpret_cast<uintptr_t>(p) % 16 == 0; }
+// Some vectors are complete before anything is done with the first: compilers would store it while they make the
+// others.
+template <class V, size_t n>
+ZMV_INLINE void complete(V (&v)[n]) {
+    static_assert(n == 1 || n == 2 || n == 4);
+    if constexpr (n == 2) __asm__("" : "+x"(v[0]), "+x"(v[1]));
+    if constexpr (n == 4) __asm__("" : "+x"(v[0]), "+x"(v[1]), "+x"(v[2]), "+x"(v[3]));
+}
 
 // The first n bytes at p, 0 < n < 16, in the low bytes; the others are zero.  Reads no byte beyond.
 ZMV_INLINE Vec<uint64_t, 16> loadFewBytes(const uint8_t* p, int n) {
@@ -182,16 +188,9 @@ ZMV_INLINE Vec<T, bytes> loadLanes(const T* p, Len laneStep) {
                                               3);
 #endif
 }
-template <bool streaming = false, class V>
+template <class V>
 ZMV_INLINE void storeLanes(void* p, V v, Len laneStep) {
-    if (!streaming && __builtin_constant_p(laneStep) && laneStep == 16) return store(p, v);
-    const auto lane = [&](int k, __m128i x) {
-        const auto at = static_cast<uint8_t*>(p) + k * laneStep;
-        if constexpr (streaming)
-            stream(at, (Vec<uint8_t, 16>)x);
-        else
-            store(at, x);
-    };
+    const auto lane = [&](int k, __m128i x) { store(static_cast<uint8_t*>(p) + k * laneStep, x); };
     if constexpr (sizeof(V) == 16) lane(0, (__m128i)v);
 #if defined(__AVX2__)
     const auto pair = [&](int k, __m256i x) {

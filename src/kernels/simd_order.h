@@ -301,13 +301,13 @@ ZMV_INLINE V inMemoryOrder(const Block<V, n>& block) {
     if constexpr (n == 4) vector = add(vector, std::integral_constant<int, 3>{});
     return (V)vector;
 }
-template <int n, bool streaming = false, class T>
+template <int n, class T>
 ZMV_INLINE void storePixels(T* p, const Block<Vec<T>, n>& block) {
     const auto put = [&]<int... v>(std::integer_sequence<int, v...>) {
         if constexpr (n == 1 || vectorBytes == 16)
-            (..., storeLanes<streaming>(p + v * lanes<T>, block[v], 16));
+            (..., store(p + v * lanes<T>, block[v]));
         else
-            (..., storeLanes<streaming>(p + v * lanes<T>, inMemoryOrder<n, v>(block), 16));
+            (..., store(p + v * lanes<T>, inMemoryOrder<n, v>(block)));
     };
     put(std::make_integer_sequence<int, n>{});
 }

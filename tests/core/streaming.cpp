@@ -10,16 +10,7 @@
 
 #include "harness/case.h"
 
-namespace {
-
-using namespace test;
-
-constexpr int64_t askFrom = 524289;
-
-int& fake(const char* name) {
-    if (!fakeCore()) throw std::runtime_error("runs with --core=");
-    return *static_cast<int*>(dlsym(fakeCore(), name));
-}
+namespace test {
 
 // The bytes that one pixel makes a call move, for the members that ask; 0 for those that do not.
 int64_t bytesPerPixel(const Member& m) {
@@ -40,6 +31,19 @@ int64_t bytesPerPixel(const Member& m) {
     if (m.name.rfind("zmviCopy_", 0) != 0 || !(m.from.planar || m.to.planar)) return 0;
     // Bytes only where reading and writing them costs more than the interleaving.
     return bytesOf(m.destination) > 1 || m.name == "zmviCopy_8u_P4C4R" ? 2 * pixel : 0;
+}
+
+}  // namespace test
+
+namespace {
+
+using namespace test;
+
+constexpr int64_t askFrom = 524289;
+
+int& fake(const char* name) {
+    if (!fakeCore()) throw std::runtime_error("runs with --core=");
+    return *static_cast<int*>(dlsym(fakeCore(), name));
 }
 
 std::string check(const Member& m, int64_t width, int64_t height, uint64_t seed, int asks, bool results) {

@@ -7,10 +7,12 @@ extern "C" {
 ZMV_API int fakeCacheSize = 1;
 ZMV_API StatusCode fakeCacheStatus = STATUS_OK;
 ZMV_API int fakeCacheAsked = 0;
+ZMV_API void (*fakeCacheHook)() = nullptr;  // called with each question
 }
 
 StatusCode zmvGetMaxCacheSizeB(int* sizeBytes) {
     ++fakeCacheAsked;
+    if (fakeCacheHook) fakeCacheHook();
     *sizeBytes = fakeCacheSize;
     return fakeCacheStatus;
 }
