@@ -1,4 +1,5 @@
-// A compile of known cost: it has nothing to do with the library, and says how fast the machine was when that was built.
+// A compile of known cost: it has nothing to do with the library, and says how fast the machine was when that was
+// built.
 #include <algorithm>
 #include <functional>
 #include <map>
