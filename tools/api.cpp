@@ -73,7 +73,7 @@ std::string structs(const std::string& header) {
     Parts all('[');
     eachMatch(header, R"(typedef struct (\w+) \{([^}]*)\})", [&](const std::smatch& s) {
         Parts fields('[');
-        eachMatch(s[2], R"(([^;]*[ *])((?:\w+(?:\[\d+\])?(?:, )?)+);)", [&](const std::smatch& declaration) {
+        eachMatch(s[2], R"(([^;]+?[ *])((?:\w+(?:\[\d+\])?(?:, )?)+);)", [&](const std::smatch& declaration) {
             const std::string type = std::regex_replace(declaration[1].str(), std::regex(R"(^\s+|\s+$)"), "");
             eachMatch(declaration[2], R"((\w+)(\[\d+\])?)", [&](const std::smatch& name) {
                 fields.item(Parts('{').text("name", name[1]).text("type", type + name[2].str()).done());

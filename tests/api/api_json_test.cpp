@@ -104,8 +104,11 @@ TEST(ApiJson, SaysWhatTheHeaderSays) {
     std::map<std::string, std::string> declared;
     for (const Prototype& f : readPrototypes()) {
         std::string& all = declared[f.name] = f.result + ":";
-        for (const Parameter& p : f.parameters)
-            all += " " + p.type + (p.planes ? "[" + std::to_string(p.planes) + "]" : "") + " " + p.name + ";";
+        for (const Parameter& p : f.parameters) {
+            all += " " + p.type;
+            if (p.planes) all.append("[").append(std::to_string(p.planes)).append("]");
+            all += " " + p.name + ";";
+        }
     }
     EXPECT_EQ(printed, declared);
     EXPECT_EQ(constants, readConstants());
