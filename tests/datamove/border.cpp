@@ -1,6 +1,4 @@
 // zmviCopyConstBorder, zmviCopyReplicateBorder, zmviCopyMirrorBorder, zmviCopyWrapBorder.
-#include <gtest/gtest.h>
-
 #include "harness/case.h"
 
 namespace {
@@ -79,23 +77,6 @@ void extend(Case& c) {
                 }
             }
     });
-}
-
-// What the words of the contract say, written out.
-TEST(Border, MirrorRow) {
-    const auto call = [](const char* row, int width, int left, int dstWidth) {
-        const auto f =
-            reinterpret_cast<StatusCode (*)(const uint8_t*, int, ImageSize, uint8_t*, int, ImageSize, int, int)>(
-                underTest().find("zmviCopyMirrorBorder_8u_C1R"));
-        char out[32] = {};
-        EXPECT_EQ(f(reinterpret_cast<const uint8_t*>(row), 32, {width, 1}, reinterpret_cast<uint8_t*>(out), 32,
-                    {dstWidth, 1}, 0, left),
-                  STATUS_OK);
-        return std::string(out);
-    };
-    EXPECT_EQ(call("abcd", 4, 2, 8), "cbabcdcb");
-    EXPECT_EQ(call("abc", 3, 5, 8), "babcbabc");
-    EXPECT_EQ(call("a", 1, 3, 6), "aaaaaa");
 }
 
 }  // namespace

@@ -1,7 +1,9 @@
 // What the tests of the box filter, of window sums and of adaptive thresholds share.
 #pragma once
 
+#include <climits>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 #include "harness/case.h"
@@ -9,7 +11,28 @@
 namespace test {
 
 // The size of the work buffer that the contract promises; above INT_MAX it is refused.
-__int128 boxBufferSize(int64_t w, int64_t h, int64_t mw, int64_t mh, Element element, int channels);
+// What a query has to say of its work buffer, word for word; -1 where an int is too small for it.
+struct SizeRow {
+    int width, height, maskWidth, maskHeight, type, channels;
+    int64_t bytes;
+};
+template <const auto& rows>
+void arrangeSize(Case& c) {
+    const SizeRow& row = rows[c.seed % std::size(rows)];
+    c.arg("roiSize") = {row.width, row.height};
+    c.arg("maskSize") = {row.maskWidth, row.maskHeight};
+    c.arg("dataType") = row.type;
+    c.arg("numChannels") = row.channels;
+    for (const char* name : {"pSpecSize", "pBufferSize"})
+        if (c.has(name)) c.place(name, 1, 1);
+}
+template <const auto& rows>
+void answerSize(Case& c) {
+    const SizeRow& row = rows[c.seed % std::size(rows)];
+    if (row.bytes < 0) return void(c.expected = STATUS_SIZE_EXCEEDS_INT);
+    c.set(c.image("pBufferSize"), 0, 0, 0, int(row.bytes));
+    if (c.has("pSpecSize")) c.set(c.image("pSpecSize"), 0, 0, 0, 4 * row.maskWidth + 40);
+}
 
 // The pixels round (x, y) that a mask covers.
 struct Reach {

@@ -75,7 +75,9 @@ std::vector<Break> breaksOf(Case& c, const Refusal& refusal, const Parameter& p)
                 if (!accepted(refusal, word)) add(Break::whole, word);
             break;
         case Bad::anchor:
-            isPair(p) ? numbers({-1, 1 << 20}) : numbers({-1, INT_MIN, 1 << 20, INT_MAX});
+            numbers({-1, INT_MIN, INT_MAX});
+            add(isPair(p) ? Break::width : Break::whole, c.arg("maskSize").a);  // the first that is outside
+            if (isPair(p)) add(Break::height, c.arg("maskSize").b);
             break;
         case Bad::element:
             for (int k = 0; k < c.image(p.name).channels; ++k)
