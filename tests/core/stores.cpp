@@ -66,13 +66,14 @@ struct Watch {
     bool closed() const { return active == this; }
 
   private:
-    // Every byte of the page becomes what it was not, so that all that the store writes shows, unless one in 256 bytes
-    // is just that; results are judged elsewhere.
+    // The page gets a pattern, so that all that the store writes shows, unless one in 256 bytes is just that; results
+    // are judged elsewhere.
+    static uint8_t mark(int64_t i) { return uint8_t((i * 0x9E3779B1u) >> 23); }
     bool open(uint8_t* address, ucontext_t& context) {
         uint8_t* const at = address - reinterpret_cast<uintptr_t>(address) % page;
         if (std::find(pages.begin(), pages.end(), at) == pages.end() || opened_ == 2) return false;
         mprotect(at, page, PROT_READ | PROT_WRITE);
-        for (int64_t i = 0; i < page; ++i) before_[opened_][i] = at[i], at[i] = uint8_t(~at[i]);
+        for (int64_t i = 0; i < page; ++i) before_[opened_][i] = at[i], at[i] = mark(i);
         open_[opened_++] = at;
         streaming_ = isStreaming(reinterpret_cast<const uint8_t*>(context.uc_mcontext.gregs[REG_RIP]));
         context.uc_mcontext.gregs[REG_EFL] |= trapFlag;
@@ -83,7 +84,7 @@ struct Watch {
         for (int k = 0; k < opened_; ++k) {
             int64_t first = page, last = -1;
             for (int64_t i = 0; i < page; ++i)
-                if (uint8_t& now = open_[k][i]; now == uint8_t(~before_[k][i]))
+                if (uint8_t& now = open_[k][i]; now == mark(i))
                     now = before_[k][i];
                 else
                     first = std::min(first, i), last = i;
@@ -178,8 +179,8 @@ T& fake(const char* name) {
 }
 
 // The stores of one member that asks for the cache size; they begin when it has asked.
-std::string watchMember(const Member& m, int64_t bytesPerPixel, int kind) {
-    Case c(m, underTest(), uint64_t(kind), Mode::bulk);
+std::string watchMember(const Member& m, int64_t bytesPerPixel, int kind, uint64_t seed = 1) {
+    Case c(m, underTest(), seed, Mode::bulk);
     c.width = 40 * 7 + 3;
     c.height = 540000 / bytesPerPixel / c.width + 1;
     m.family->arrange(c);
@@ -207,22 +208,22 @@ std::string watchMember(const Member& m, int64_t bytesPerPixel, int kind) {
     watch.end();
     fake<void (*)()>("fakeCacheHook") = nullptr;
     if (c.trapped()) return c.verdict();
+    if (c.returned < STATUS_OK && seed < 9) return watchMember(m, bytesPerPixel, kind, seed + 1);  // refused: another
     if (!closed) return m.name + " did not ask for the size of the cache";
     // Transposes stream where rows of the destination are whole lines.
-    const bool turned = !m.inPlace && (image.width != c.image("src").width || m.name.rfind("zmviTranspose", 0) == 0);
+    const bool turned =
+        c.hasImage("src") && (image.width != c.image("src").width || m.name.rfind("zmviTranspose", 0) == 0);
     const std::string bad = judge(watch, target, kind == 1 || (kind != 3 && !turned));
     return bad.empty() ? "" : m.name + " (" + std::to_string(kind) + "): " + bad;
 }
 
 TEST(Streaming, LinesGetOneKindOfStore) {
+    int kind = 0;  // one for each member: those of a family share their walker
     for (const Member& m : members()) {
         const int64_t bytes = bytesPerPixel(m);
         if (bytes == 0 || m.large || (!options.only.empty() && m.name != options.only)) continue;
-        for (int kind = 0; kind < 4; ++kind)
-            if (const std::string bad = watchMember(m, bytes, kind); !bad.empty()) {
-                ADD_FAILURE() << bad;
-                break;
-            }
+        const std::string bad = watchMember(m, bytes, kind++ % 4);
+        EXPECT_EQ(bad, "");
     }
 }
 

@@ -21,7 +21,7 @@ uint8_t* reserve(size_t bytes) {
 Arena::Arena(size_t bytes) {
     begin = reserve(bytes + 2 * page) + page;
     end = begin + bytes;
-    if (mprotect(begin, bytes, PROT_READ | PROT_WRITE)) throw std::runtime_error("mprotect");
+    if (bytes > 0 && mprotect(begin, bytes, PROT_READ | PROT_WRITE)) throw std::runtime_error("mprotect");
 }
 
 Arena Arena::ring(size_t bytes) {

@@ -115,7 +115,13 @@ void judgeReturns(const Tested& f) {
 class Runs : public testing::Test {
   public:
     explicit Runs(std::function<void()> body) : body_(std::move(body)) {}
-    void TestBody() override { body_(); }
+    void TestBody() override {
+        try {
+            body_();
+        } catch (const std::string& what) {
+            ADD_FAILURE() << what;
+        }
+    }
 
   private:
     std::function<void()> body_;
