@@ -20,22 +20,31 @@ bool binaryPastCache(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi
     return src1.data != dst.data && src2.data != dst.data && regionPastCache(roi, layout, 3 * sizeof(T));
 }
 
+// An operation that is no rule of exact results has drivers of its own: Op::images and Op::constant.
 template <class Op, class T>
 StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad =
-            firstOf({pointers(src1.data, src2.data, dst.data), size(roi), stepsOf<Op>(src1.step, src2.step, dst.step)}))
-        return bad;
-    scaled<Op>(dst, roi, layout, factor, binaryPastCache(src1, src2, dst, roi, layout), src1, src2);
-    return STATUS_OK;
+    if constexpr (requires { &Op::template images<T>; }) {
+        return Op::images(src1, src2, dst, roi, layout, factor);
+    } else {
+        if (auto bad = firstOf(
+                {pointers(src1.data, src2.data, dst.data), size(roi), stepsOf<Op>(src1.step, src2.step, dst.step)}))
+            return bad;
+        scaled<Op>(dst, roi, layout, factor, binaryPastCache(src1, src2, dst, roi, layout), src1, src2);
+        return STATUS_OK;
+    }
 }
 
 // The constant stands in the place of the first image.
-template <class Op, class T>
-StatusCode ownpi_WithConstant(Image<const T> src, const T* value, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), stepsOf<Op>(src.step, dst.step)}))
-        return bad;
-    scaled<Op>(dst, roi, layout, factor, false, Constant<T>(value, layout), src);
-    return STATUS_OK;
+template <class Op, class T, class V>
+StatusCode ownpi_WithConstant(Image<const T> src, const V* value, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if constexpr (requires { &Op::template constant<T>; }) {
+        return Op::constant(src, value, dst, roi, layout, factor);
+    } else {
+        if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), stepsOf<Op>(src.step, dst.step)}))
+            return bad;
+        scaled<Op>(dst, roi, layout, factor, false, Constant<T>(value, layout), src);
+        return STATUS_OK;
+    }
 }
 
 }  // namespace zmv

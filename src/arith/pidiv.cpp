@@ -73,7 +73,7 @@ struct FloatQuotient {
 };
 
 // The financial mode rounds the quotient plus one half down.
-RoundingControl::Mode controlOf(int roundMode) {
+RoundingControl::Mode roundingOf(int roundMode) {
     if (roundMode == ROUND_NEAR) return RoundingControl::toNearestEven;
     return roundMode == ROUND_ZERO ? RoundingControl::towardZero : RoundingControl::down;
 }
@@ -85,13 +85,11 @@ void divide(const Divisor& divisor, Image<const T> src, Image<T> dst, Roi roi, L
     if constexpr (std::is_floating_point_v<T>) {
         pointwise(FloatQuotient{}, dst, roi, layout, pastCache, divisor, src);
     } else {
-        const RoundingControl control(controlOf(roundMode));
+        const RoundingControl control(roundingOf(roundMode));
         const Quotient<F> quotient{scaleOf<F>(factor), roundMode == ROUND_FINANCIAL ? F(0.5) : F(0)};
         pointwiseIn<F>(quotient, dst, roi, layout, pastCache, divisor, src);
     }
 }
-
-struct Div {};
 
 template <class T>
 StatusCode divideImages(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int roundMode,
@@ -103,13 +101,6 @@ StatusCode divideImages(Image<const T> src1, Image<const T> src2, Image<T> dst, 
     });
     return divisors.zero ? STATUS_WARN_DIV_BY_ZERO : STATUS_OK;
 }
-template <std::same_as<Div> Op, class T>
-StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad =
-            firstOf({pointers(src1.data, src2.data, dst.data), size(roi), steps(src1.step, src2.step, dst.step)}))
-        return bad;
-    return divideImages(src1, src2, dst, roi, layout, ROUND_NEAR, factor);
-}
 template <class T>
 StatusCode ownpi_DivRound(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int roundMode,
                           int factor) {
@@ -119,18 +110,28 @@ StatusCode ownpi_DivRound(Image<const T> src1, Image<const T> src2, Image<T> dst
     return divideImages(src1, src2, dst, roi, layout, roundMode, factor);
 }
 
-template <std::same_as<Div> Op, class T>
-StatusCode ownpi_WithConstant(Image<const T> src, const T* value, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    for (int c = 0; c < layout.used(); ++c)
-        if (isZero(get(bits(value) + c), std::is_floating_point_v<T>)) return STATUS_DIV_BY_ZERO;
-    withPrecision<T>(factor, [&](auto zero) {
-        using F = decltype(zero);
-        using Value = std::conditional_t<std::is_floating_point_v<T>, Constant<T>, ConstantIn<F>>;
-        divide<F>(Value(value, layout), src, dst, roi, layout, ROUND_NEAR, factor, false);
-    });
-    return STATUS_OK;
-}
+struct Div {
+    template <class T>
+    static StatusCode images(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout,
+                             int factor) {
+        if (auto bad =
+                firstOf({pointers(src1.data, src2.data, dst.data), size(roi), steps(src1.step, src2.step, dst.step)}))
+            return bad;
+        return divideImages(src1, src2, dst, roi, layout, ROUND_NEAR, factor);
+    }
+    template <class T>
+    static StatusCode constant(Image<const T> src, const T* value, Image<T> dst, Roi roi, Layout layout, int factor) {
+        if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+        for (int c = 0; c < layout.used(); ++c)
+            if (isZero(get(bits(value) + c), std::is_floating_point_v<T>)) return STATUS_DIV_BY_ZERO;
+        withPrecision<T>(factor, [&](auto zero) {
+            using F = decltype(zero);
+            using Value = std::conditional_t<std::is_floating_point_v<T>, Constant<T>, ConstantIn<F>>;
+            divide<F>(Value(value, layout), src, dst, roi, layout, ROUND_NEAR, factor, false);
+        });
+        return STATUS_OK;
+    }
+};
 
 }  // namespace
 }  // namespace zmv

@@ -46,14 +46,14 @@ struct MulScale {
 
 struct MulC64f {
     ZMV_INLINE Vec<double> operator()(Vec<double> a, Vec<double> b) const { return mulInOrder(b, a); }
+    template <class T>
+    static StatusCode constant(Image<const T> src, const double* value, Image<T> dst, Roi roi, Layout layout, int) {
+        if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+        const RoundingControl control(RoundingControl::toNearestEven);
+        pointwiseIn<double>(MulC64f(), dst, roi, layout, false, ConstantIn<double>(value, layout), src);
+        return STATUS_OK;
+    }
 };
-template <std::same_as<MulC64f> Op, class T>
-StatusCode ownpi_WithConstant(Image<const T> src, const double* value, Image<T> dst, Roi roi, Layout layout, int) {
-    if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
-    pointwiseIn<double>(Op(), dst, roi, layout, false, ConstantIn<double>(value, layout), src);
-    return STATUS_OK;
-}
 
 }  // namespace
 }  // namespace zmv

@@ -19,18 +19,6 @@ struct Shift {
     ZMV_INLINE static Vec<Unit> moved(Vec<Unit> v, int n) { return left ? v << n : v >> n; }
 };
 
-// There is no shift of bytes: they go in pairs.
-struct LShift {
-    template <class T>
-    using Unit = std::conditional_t<sizeof(T) == 1, uint16_t, Bits<T>>;
-    static constexpr bool left = true;
-};
-struct RShift {
-    template <class T>
-    using Unit = std::conditional_t<sizeof(T) == 1, uint16_t, T>;
-    static constexpr bool left = false;
-};
-
 // The bits of T that hold something after a shift by n places, n below its width.
 template <class T, bool left>
 Bits<T> kept(uint32_t n) {
@@ -39,18 +27,18 @@ Bits<T> kept(uint32_t n) {
     return left ? Bits<T>(all << n) : Bits<T>(all >> n);
 }
 
-template <class Op, class T>
-requires(std::same_as<Op, LShift> || std::same_as<Op, RShift>) StatusCode
-    ownpi_WithConstant(Image<const T> src, const uint32_t* value, Image<T> dst, Roi roi, Layout layout, int) {
+template <bool left, class T>
+StatusCode shiftEach(Image<const T> src, const uint32_t* value, Image<T> dst, Roi roi, Layout layout) {
     if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
     constexpr uint32_t bits = 8 * sizeof(T);
-    Shift<typename Op::template Unit<T>, Op::left> shift{};
+    // There is no shift of bytes: they go in pairs.
+    Shift<std::conditional_t<sizeof(T) == 1, uint16_t, std::conditional_t<left, Bits<T>, T>>, left> shift{};
     Bits<T> masks[4][4] = {};
     for (int c = 0; c < layout.used(); ++c) {
         const uint32_t n = get(value + c);
         shift.places[c] = int(std::min(n, bits - 1));
         // Too far, nothing is left but signs.
-        if (n < bits || (std::is_signed_v<T> && !Op::left)) masks[c][c] = kept<T, Op::left>(shift.places[c]);
+        if (n < bits || (std::is_signed_v<T> && !left)) masks[c][c] = kept<T, left>(shift.places[c]);
     }
     const auto mask = [&](int c) { return Constant<T>(reinterpret_cast<const T*>(masks[c]), layout); };
     if (layout.used() == 1)
@@ -61,6 +49,19 @@ requires(std::same_as<Op, LShift> || std::same_as<Op, RShift>) StatusCode
         pointwise(shift, dst, roi, layout, false, src, mask(0), mask(1), mask(2), mask(3));
     return STATUS_OK;
 }
+
+struct LShift {
+    template <class T>
+    static StatusCode constant(Image<const T> src, const uint32_t* value, Image<T> dst, Roi roi, Layout layout, int) {
+        return shiftEach<true>(src, value, dst, roi, layout);
+    }
+};
+struct RShift {
+    template <class T>
+    static StatusCode constant(Image<const T> src, const uint32_t* value, Image<T> dst, Roi roi, Layout layout, int) {
+        return shiftEach<false>(src, value, dst, roi, layout);
+    }
+};
 
 }  // namespace
 }  // namespace zmv

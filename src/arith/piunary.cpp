@@ -52,23 +52,15 @@ struct Not {
     }
 };
 
-template <class Op, class T>
-StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    scaled<Op>(dst, roi, layout, factor, false, src);
-    return STATUS_OK;
-}
-
 // The root of a negative integer is NaN, which becomes zero.  That of a float is rounded as the caller wants.
 struct Sqrt {
     ZMV_INLINE Vec<float> operator()(Vec<float> a) const { return squareRoot(a); }
 };
-template <std::same_as<Sqrt> Op, class T>
-StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
-    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+template <class T>
+void squareRoots(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
     const bool pastCache = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
     if constexpr (std::is_floating_point_v<T>) {
-        pointwise(Op(), dst, roi, layout, pastCache, src);
+        pointwise(Sqrt(), dst, roi, layout, pastCache, src);
     } else {
         const RoundingControl control(RoundingControl::toNearestEven);
         withPrecision<T>(factor, [&](auto zero) {
@@ -77,6 +69,15 @@ StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout,
             pointwiseIn<F>(rule, dst, roi, layout, pastCache, src);
         });
     }
+}
+
+template <class Op, class T>
+StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    if constexpr (std::is_same_v<Op, Sqrt>)
+        squareRoots(src, dst, roi, layout, factor);
+    else
+        scaled<Op>(dst, roi, layout, factor, false, src);
     return STATUS_OK;
 }
 

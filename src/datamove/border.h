@@ -25,7 +25,6 @@ template <class T, Layout layout>
 class PixelRows {
   public:
     static T* pixel(T* row, Len x) { return row + x * layout.channels; }
-    static void copyPixel(T* dst, const T* src) { std::memcpy(dst, src, sizeof(T) * layout.used()); }
     void copy(T* dst, const T* src, Len width) const {
         if (layout.alpha)
             blendRow(dst, fromRow(src), colours_, bytes(width));
@@ -73,7 +72,8 @@ void extendByRule(const Frame<T, layout>& frame, const Image<const T>* src) {
     const auto& rows = frame.rows;
     const auto sides = [&](T* row) {
         const auto column = [&](Len x) {
-            rows.copyPixel(rows.pixel(row, x), rows.pixel(row, Rule::at(x, frame.src.width)));
+            copyPixel<int(sizeof(T)) * layout.used()>(rows.pixel(row, x),
+                                                      rows.pixel(row, Rule::at(x, frame.src.width)));
         };
         const auto repeat = [&](Len x, Len from, Len count) {
             if (layout.channels == 1) return fillShort(row + x, get(row + from), count);

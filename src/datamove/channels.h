@@ -38,8 +38,7 @@ template <class T, int n>
 void moveElements(const Channels<const T, n>& src, const Channels<T, n>& dst, Roi roi) {
     for (Len y = 0; y < roi.height; ++y)
         for (Len x = 0; x < roi.width; ++x)
-            for (int c = 0; c < n; ++c)
-                std::memcpy(dst.row(c, y) + x * dst.distance, src.row(c, y) + x * src.distance, sizeof(T));
+            for (int c = 0; c < n; ++c) put(dst.row(c, y) + x * dst.distance, get(src.row(c, y) + x * src.distance));
 }
 
 // Rows that go past the caches by way of a block that stays in the nearest cache: they are written to it like to any

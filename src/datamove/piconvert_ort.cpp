@@ -5,7 +5,7 @@ namespace zmv {
 namespace {
 
 // The financial mode adds one half and cuts toward zero.  Rounded toward zero, the sum never crosses an integer.
-RoundingControl::Mode controlOf(int roundMode) {
+RoundingControl::Mode cutRoundingOf(int roundMode) {
     return roundMode == ROUND_NEAR ? RoundingControl::toNearestEven : RoundingControl::towardZero;
 }
 bool isFinancial(int roundMode) { return roundMode != ROUND_NEAR && roundMode != ROUND_ZERO; }
@@ -13,7 +13,7 @@ bool isFinancial(int roundMode) { return roundMode != ROUND_NEAR && roundMode !=
 template <class D>
 StatusCode ownpi_ConvertRounded(Image<const float> src, Image<D> dst, Roi roi, Layout layout, int roundMode) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(controlOf(roundMode));
+    const RoundingControl control(cutRoundingOf(roundMode));
     const auto run = [&](const auto& rule) {
         pointwiseIn<float>(rule, dst, roi, layout, regionPastCache(roi, layout, sizeof(float) + sizeof(D)), src);
     };
@@ -40,7 +40,7 @@ struct Scaled {
 template <class S, class D>
 StatusCode ownpi_ConvertScaled(Image<const S> src, Image<D> dst, Roi roi, int roundMode, int factor) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(controlOf(roundMode));
+    const RoundingControl control(cutRoundingOf(roundMode));
     pointwiseIn<double>(Scaled(factor, isFinancial(roundMode) ? 0.5 : 0.0), dst, roi, C1, false, src);
     return STATUS_OK;
 }

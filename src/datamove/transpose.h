@@ -111,7 +111,7 @@ class Transposer {
             for (Len x0 = 0; x0 < roi.width; x0 += side)
                 for (Len x = x0; x < std::min(x0 + side, roi.width); ++x)
                     for (Len y = y0; y < std::min(y0 + side, roi.height); ++y)
-                        std::memcpy(dst.row(x) + y * pixel, src.row(y) + x * pixel, pixel);
+                        copyPixel<pixel>(dst.row(x) + y * pixel, src.row(y) + x * pixel);
     }
 };
 

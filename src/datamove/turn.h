@@ -131,7 +131,7 @@ class RowReverser {
     static void reverse(uint8_t* dst, const uint8_t* src, Len bytes) {
         if (bytes >= vectorBytes) return vectors<vectorBytes>(dst, src, bytes);
         if (pixel == 16 || bytes >= 16) return vectors<16>(dst, src, bytes);
-        for (Len at = 0; at < bytes; at += pixel) std::memcpy(dst + at, src + bytes - pixel - at, pixel);
+        for (Len at = 0; at < bytes; at += pixel) copyPixel<pixel>(dst + at, src + bytes - pixel - at);
     }
     template <int size>
     static void vectors(uint8_t* dst, const uint8_t* src, Len bytes) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <array>
 
 #include "kernels/simd_order.h"
 
@@ -29,15 +30,23 @@ Addresses addressesOf(Image<T> image, Len height, Len rowBytes) {
 // Bytes that are written past the caches from here on do not sweep the caller's data out of them.
 constexpr Len largeCopy = 1048577;
 
+// The operands may overlap, as rows do where a step is shorter than a row: then dst holds anything, and nothing else
+// changes.
 inline void copyRow(void* dst, const void* src, Len bytes) {
     using V = Vec<uint8_t>;
     constexpr Len callPays = 1024;  // below this the C library's choice among its methods costs more than the copy
-    if (bytes < vectorBytes || bytes >= callPays) return (void)std::memcpy(dst, src, size_t(bytes));
+    if (bytes < vectorBytes || bytes >= callPays) return (void)std::memmove(dst, src, size_t(bytes));
     const auto to = static_cast<uint8_t*>(dst);
     const auto from = static_cast<const uint8_t*>(src);
     const V last = loadAs<V>(from + bytes - vectorBytes);
     for (Len i = 0; i < bytes - vectorBytes; i += vectorBytes) store(to + i, loadAs<V>(from + i));
     store(to + bytes - vectorBytes, last);
+}
+
+// One pixel of so many bytes.  The operands may overlap here, too.
+template <int bytes>
+ZMV_INLINE void copyPixel(void* dst, const void* src) {
+    store(dst, loadAs<std::array<uint8_t, bytes>>(src));
 }
 
 // ---- Past the caches ----

@@ -62,6 +62,7 @@ Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
         width = rng.between(300, 3000);
         height = rng.between(1100000, 1600000) / (width * pixel) + 1;
     }
+    if (mode == Mode::shared) height = rng.between(2, 7);
     if (mode == Mode::far) {
         extreme_ = packed_ = false;
         height = m.large ? rng.between(2, 3) : rng.between(4, 5);
@@ -91,16 +92,23 @@ Layout Case::layoutOf(const std::string& name) const {
     return name == "dst" ? member.to : Layout{};
 }
 
-int64_t Case::chooseStep(int64_t rowBytes) {
+int64_t Case::chooseStep(int64_t rowBytes, bool written) {
+    const bool negative = acceptsNegativeSteps(member);
+    if (mode == Mode::shared && written) {
+        const int64_t shorter[] = {1, rng.between(1, int(rowBytes)), std::max<int64_t>(1, rowBytes - 1)};
+        const int64_t step = shorter[rng.below(3)];
+        return negative && rng.oneIn(2) ? -step : acceptsAnyStep(member) && rng.oneIn(4) ? 0 : step;
+    }
     if (packed_) return rowBytes;
     const int64_t padded = rowBytes + (rng.oneIn(3) ? 0 : rng.between(1, 67));
-    if (acceptsNegativeSteps(member) && mode != Mode::far) switch (rng.below(12)) {
+    const bool apart = rowsApart || written;
+    if (negative && mode != Mode::far) switch (rng.below(12)) {
             case 0:
-                return rowsApart ? padded : 0;
+                return apart ? padded : 0;
             case 1:
-                return rowsApart ? padded : rng.below(int(rowBytes));
+                return apart ? padded : rng.below(int(rowBytes));
             case 2:
-                return rowsApart ? -padded : -rng.below(int(rowBytes));
+                return apart ? -padded : -rng.below(int(rowBytes));
             case 3:
             case 4:
             case 5:
@@ -171,7 +179,7 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
 
     const std::string stepName = name + "Step";
     const int64_t rowBytes = (readable.left + w + readable.right) * pixel;
-    i.step = has(stepName) ? chooseStep(rowBytes) : rowBytes;
+    i.step = has(stepName) ? chooseStep(rowBytes, p->written) : rowBytes;
     const int64_t top = -readable.top * i.step, bottom = (h - 1 + readable.bottom) * i.step;
     const int64_t low = std::min(top, bottom) - readable.left * pixel - channel;
     const int64_t high = std::max(top, bottom) + (w + readable.right) * pixel - channel;

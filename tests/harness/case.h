@@ -19,6 +19,7 @@ enum class Mode {
     far,       // row * step beyond 2^31
     bulk,      // megabytes
     controls,  // any floating-point control words
+    shared,    // rows that are written overlap each other
 };
 
 // Whether its results depend on the rounding mode.
@@ -96,6 +97,7 @@ class Case {
     bool trapped() const { return !failure_.empty(); }
     std::string difference() const;  // between memory and shadow
     void acceptMemory();             // whatever it is
+    void acceptRows();               // whatever it is in the rows of what the member writes
     std::string describe() const;
 
     std::map<std::string, std::array<uint8_t*, 4>> planePointers;
@@ -106,7 +108,7 @@ class Case {
   private:
     std::vector<Block>& blocks() const { return const_cast<Case*>(this)->blocks_; }
     Layout layoutOf(const std::string& name) const;
-    int64_t chooseStep(int64_t rowBytes);
+    int64_t chooseStep(int64_t rowBytes, bool written);
     size_t newBlock(size_t bytes);
     void locate(Image& i, int plane, int64_t low, int64_t high);
     std::string whereIs(const Block& block, size_t offset) const;
@@ -125,6 +127,9 @@ class Case {
 
 // Does what calls the library.  A fault in it ends it, not the tests; returns what the fault was, or nothing.
 std::string faultOf(const std::function<void()>& calls, std::function<std::string(const void*)> where = nullptr);
+
+// Whether the C library's memcpy was called for operands that overlap.
+extern volatile bool copiedOverlapping;
 
 // Runs one case in all builds, from arrangement to verdict.
 std::string runCase(const Member& m, uint64_t seed, Mode mode);

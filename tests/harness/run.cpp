@@ -24,6 +24,9 @@ bool hasStep(const Member& m) {
 bool fits(const Member& m, Mode mode) {
     if (mode == Mode::overlap) return m.among(m.facts().ordered);
     if (mode == Mode::far) return hasStep(m);
+    if (mode == Mode::shared)
+        return std::any_of(m.params.begin(), m.params.end(),
+                           [&](const Parameter& p) { return p.written && m.find(p.name + "Step"); });
     return true;
 }
 
@@ -140,6 +143,7 @@ void registerAll() {
         add("Controls", name, [&f] { sweep(f, Mode::controls, 8); });
         add("Far", name, [&f] { sweep(f, Mode::far, 3); });
         if (tested.row->members[0].find("buffer")) add("Buffer", name, [&f] { misalign(f); });
+        add("SharedRows", name, [&f] { sweep(f, Mode::shared, 24); });
         if (*facts.ordered) add("Overlap", name, [&f] { sweep(f, Mode::overlap, 80); });
         if (facts.bulk) add("Bulk", name, [&f] { sweep(f, Mode::bulk, 1); });
         if (facts.refusals.count) add("Refusals", name, [&f] { eachCase(f, 1, refuse); });
@@ -148,7 +152,7 @@ void registerAll() {
     std::istringstream codes(options.builds);
     for (std::string build; std::getline(codes, build, ',');)
         if (!processorRuns(build))
-            for (const char* suite : {"Sweep", "Controls", "Far", "Overlap", "Bulk", "Refusals"})
+            for (const char* suite : {"Sweep", "Controls", "Far", "SharedRows", "Overlap", "Bulk", "Refusals"})
                 add(suite, build, [build] { GTEST_SKIP() << "this processor does not run the " << build << " build"; });
 }
 
