@@ -167,7 +167,7 @@ std::string factsOf(const Family& family) {
         .text("reach", word(f.reach, {"none", "anchor", "radius", "fixed", "query", "whole"}))
         .yes("tiles", f.tiles)
         .text("combine", word(f.combine, {"no", "add", "least", "greatest"}))
-        .text("rounds", word(f.rounds, {"never", "floats", "always"}))
+        .text("rounds", word(f.rounds, {"never", "floats"}))
         .yes("cache", f.cache)
         .raw("usual", usual.done())
         .done();

@@ -97,7 +97,7 @@ void boxRow(const uint8_t* src, uint8_t* dst, const A* line, Len pixels, Len mas
         RowSums<LineReader<A>, 1> rowSums({line}, mask);
         for (Len x = 0; x < pixels; x += chunkPixels) {
             const int count = int(std::min<Len>(chunkPixels, pixels - x));
-            ChunkSums sums;
+            Chunk<uint32_t> sums;
             rowSums.next(sums, count);
             pointwiseRowIn<int32_t>(rule, dst + x, count, ReadySums{sums}, ImageRowIn<int32_t, uint8_t>{src + x});
         }
@@ -169,14 +169,24 @@ struct WeighedLine {
     Vec<double> part(Len x, Len n) const { return n > 0 ? at(x) : Vec<double>{}; }
 };
 
+struct GaussMemory {
+    double *line, *rowWeights;
+    const uint8_t** rows;
+    uint32_t* columnWeights;
+    BandsMemory<uint8_t> bands;
+    constexpr GaussMemory(Scratch& s, Roi roi, Window window, BandsUse use)
+        : line(s.take<double, alignof(double)>(WideLen(roi.width) + window.width - 1)),
+          rowWeights(s.take<double>(window.left + 1)),
+          rows(s.take<const uint8_t*>(window.height)),
+          columnWeights(s.take<uint32_t>(window.left + 1)),
+          bands(s, roi, window, 1, use) {}
+};
+
 inline void gaussMeans(Pixels& bands, Image<const uint8_t> src, Image<uint8_t> dst, Roi roi, Window window,
                        TableWeights given, Answers answers, Scratch scratch) {
     const Len radius = window.left;
-    double* const line = scratch.take<double, alignof(double)>(roi.width + window.width - 1);
-    double* const rowWeights = scratch.take<double>(radius + 1);
-    const auto rows = scratch.take<const uint8_t*>(window.height);
-    uint32_t* const columnWeights = scratch.take<uint32_t>(radius + 1);
-    bands.takeMemory(scratch);
+    const auto [line, rowWeights, rows, columnWeights, saved] = GaussMemory(scratch, roi, window, bands.use());
+    bands.workIn(saved);
     for (Len i = 0; i <= radius; ++i) rowWeights[i] = given[i], columnWeights[i] = uint32_t(int32_t(given[i]));
     const double constant = bands.value()[0] * wholeWeight;
     const Above<double> rule(Len(1) << 2 * weightBits, answers);

@@ -49,8 +49,7 @@ void compositing(int alphaType, F f) {
     } else if constexpr (std::is_integral_v<T>) {
         f(Compositing<T>(alphaType));
     } else {
-        const RoundingControl control(RoundingControl::toNearestEven);
-        f(Compositing<T>(alphaType));
+        toNearest([&] { f(Compositing<T>(alphaType)); });
     }
 }
 

@@ -65,6 +65,7 @@ bool operandGapless(const Divisors<T>&, Len, int) {
 // A zero divisor gives infinity, which saturates, or NaN, which becomes zero.
 template <class F>
 struct Quotient {
+    RoundingControl::Mode rounding;
     F scale, half;
     ZMV_INLINE Vec<F> operator()(Vec<F> a, Vec<F> b) const { return b / a * scale + half; }
 };
@@ -73,7 +74,7 @@ struct FloatQuotient {
 };
 
 // The financial mode rounds the quotient plus one half down.
-RoundingControl::Mode roundingOf(int roundMode) {
+RoundingControl::Mode modeOf(int roundMode) {
     if (roundMode == ROUND_NEAR) return RoundingControl::toNearestEven;
     return roundMode == ROUND_ZERO ? RoundingControl::towardZero : RoundingControl::down;
 }
@@ -85,8 +86,7 @@ void divide(const Divisor& divisor, Image<const T> src, Image<T> dst, Roi roi, L
     if constexpr (std::is_floating_point_v<T>) {
         pointwise(FloatQuotient{}, dst, roi, layout, pastCache, divisor, src);
     } else {
-        const RoundingControl control(roundingOf(roundMode));
-        const Quotient<F> quotient{scaleOf<F>(factor), roundMode == ROUND_FINANCIAL ? F(0.5) : F(0)};
+        const Quotient<F> quotient{modeOf(roundMode), scaleOf<F>(factor), roundMode == ROUND_FINANCIAL ? F(0.5) : F(0)};
         pointwiseIn<F>(quotient, dst, roi, layout, pastCache, divisor, src);
     }
 }

@@ -52,7 +52,6 @@ struct LnOfFloat : Ln {
 template <class Op, class T>
 StatusCode ownpi_Unary(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     using Rule = std::conditional_t<std::same_as<Op, Exp>, Exp,
                                     std::conditional_t<std::is_integral_v<T>, LnOfInteger, LnOfFloat>>;
     pointwiseIn<double>(Rule(factor), dst, roi, layout, false, src);

@@ -49,7 +49,6 @@ struct MulC64f {
     template <class T>
     static StatusCode constant(Image<const T> src, const double* value, Image<T> dst, Roi roi, Layout layout, int) {
         if (auto bad = firstOf({pointers(src.data, value, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-        const RoundingControl control(RoundingControl::toNearestEven);
         pointwiseIn<double>(MulC64f(), dst, roi, layout, false, ConstantIn<double>(value, layout), src);
         return STATUS_OK;
     }

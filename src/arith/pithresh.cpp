@@ -13,6 +13,12 @@ ZMV_INLINE V replaced(V s, V level, V value) {
         return s < level ? value : s;
 }
 
+// A processor told to take small numbers for zero would find them equal, and write zeros.
+template <class T, class F>
+auto kept(const F& f) {
+    return toNearestIf<std::is_floating_point_v<T>>(f);
+}
+
 template <class T, class... Level>
 StatusCode checked(Image<const T> src, Image<T> dst, Roi roi, const Level*... levels) {
     return firstOf({pointers(src.data, dst.data, levels...), size(roi), steps(src.step, dst.step)});
@@ -23,14 +29,8 @@ template <class T, class Rule, class... Level>
 StatusCode run(const Rule& rule, Image<const T> src, Image<T> dst, Roi roi, Layout layout, const Level*... levels) {
     // A line that has just been read is in the caches: to stream it back in place would only drive it out first.
     const bool pastCache = regionPastCache(roi, layout, 2 * sizeof(T)) && src.data != dst.data;
-    const auto walk = [&] {
-        pointwise(rule, dst, roi, layout, pastCache, src, Constant<T>(levels, layout)...);
-        return STATUS_OK;
-    };
-    if constexpr (std::is_integral_v<T>) return walk();
-    // A processor told to take small numbers for zero would write zeros.
-    const RoundingControl control(RoundingControl::toNearestEven);
-    return walk();
+    kept<T>([&] { pointwise(rule, dst, roi, layout, pastCache, src, Constant<T>(levels, layout)...); });
+    return STATUS_OK;
 }
 
 template <int op, class T>
@@ -62,8 +62,12 @@ template <class T>
 StatusCode ownpi_ReplaceBothEnds(Image<const T> src, Image<T> dst, Roi roi, Layout layout, const T* low,
                                  const T* lowValue, const T* high, const T* highValue) {
     if (auto bad = checked(src, dst, roi, low, lowValue, high, highValue)) return bad;
-    for (int c = 0; c < layout.used(); ++c)
-        if (get(high + c) < get(low + c)) return STATUS_BAD_THRESHOLD;
+    const bool crossed = kept<T>([&] {
+        for (int c = 0; c < layout.used(); ++c)
+            if (get(high + c) < get(low + c)) return true;
+        return false;
+    });
+    if (crossed) return STATUS_BAD_THRESHOLD;
     const auto rule = [](Vec<T> s, Vec<T> l, Vec<T> lv, Vec<T> h, Vec<T> hv) {
         return s < l ? lv : replaced<CMP_GREATER>(s, h, hv);
     };

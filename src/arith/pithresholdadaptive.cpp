@@ -88,13 +88,21 @@ StatusCode checkedQuery(Roi roi, ImageSize mask, int dataType, int channels) {
 // Of a filter that keeps, for each row of the mask, an extended row of pixels and a row of sums, and one row of sums
 // more; and bands round the region, or all of it if the mask is larger.  The functions above have other parts but never
 // need more.
-WideLen bufferSize(ImageSize roi, ImageSize mask) {
+constexpr WideLen bufferSize(ImageSize roi, ImageSize mask) {
     const WideLen w = roi.width, h = roi.height, m = mask.width, extendedWidth = w + m - 1;
     const WideLen rows = roundUp((roundUp(extendedWidth, 32) + 8) * m + roundUp(4 * w, 32) * (m + 1), 32);
     if (m > w || m > h) return rows + roundUp(extendedWidth * (h + m - 1), 32);
     const WideLen bands = roundUp((m - 1 + m / 2) * (std::max(w, h) + m - 1), 32);
     return rows + roundUp(h * (m - 1), 64) + roundUp(w * (m - 1), 64) + bands;
 }
+static_assert(fitsEverywhere([](ImageSize roi, ImageSize mask) {
+    if (mask.width != mask.height || mask.width % 2 == 0) return true;
+    const Window window(mask);
+    constexpr BandsUse most{true, true};
+    return scratchBytes<LineMemory<uint16_t, uint8_t>>(roi, window, 1, most) <= bufferSize(roi, mask) &&
+           scratchBytes<LineMemory<int32_t, uint8_t>>(roi, window, 1, most) <= bufferSize(roi, mask) &&
+           scratchBytes<GaussMemory>(roi, window, most) <= bufferSize(roi, mask);
+}));
 
 StatusCode ownpi_AdaptiveGetBufferSize(ImageSize roi, ImageSize mask, int dataType, int channels, int* size) {
     if (auto bad = firstOf({pointers(size), checkedQuery(roi, mask, dataType, channels)})) return bad;
@@ -111,25 +119,11 @@ StatusCode ownpi_AdaptiveGaussGetBufferSize(ImageSize roi, ImageSize mask, int d
     return STATUS_OK;
 }
 
-StatusCode ownpi_AdaptiveGaussInit(ImageSize roi, ImageSize mask, int dataType, int channels, float sigma,
-                                   uint8_t* block) {
-    const GaussParts parts(mask.width);
-    if (auto bad =
-            firstOf({pointers(block), checkedQuery(roi, mask, dataType, channels), fits<int>(parts.blockBytes())}))
-        return bad;
-    const Len distance = gaussAlignment - Len(reinterpret_cast<uintptr_t>(block) % gaussAlignment);
-    uint8_t* const object = block + distance;
-    float* const weights = parts.weights.in(object);
-    block[0] = uint8_t(distance);
-    store(object, GaussSpec{GaussSpec::itsTag, 1, mask.width, sigma, 0, weights});
-
-    const RoundingControl control(RoundingControl::toNearestEven);
-    // From memory, which keeps what follows behind the change of the control word.
-    auto header = headerOf<GaussSpec>(object);
-    const Len radius = header.maskSize / 2;
-    if (!(header.sigma > 0)) header.sigma = float(0.15 * double(header.maskSize - 1) + 0.5);
-    store(object, header);
-    const double spread = 2 * double(header.sigma) * double(header.sigma);
+// The weights of a bell of that width, or of the usual one; returns which.
+float putWeights(float* weights, int maskSize, float sigma) {
+    const Len radius = maskSize / 2;
+    if (!(sigma > 0)) sigma = float(0.15 * double(maskSize - 1) + 0.5);
+    const double spread = 2 * double(sigma) * double(sigma);
     const auto bell = [&](Len i) { return Exp(0)(fill(-double(i * i) / spread))[0]; };
     double total = 0;
     for (Len i = radius; i > 0; --i) total += 2 * bell(i);
@@ -148,6 +142,21 @@ StatusCode ownpi_AdaptiveGaussInit(ImageSize roi, ImageSize mask, int dataType, 
         putWeight(i, weight);
     }
     putWeight(0, left);
+    return sigma;
+}
+
+StatusCode ownpi_AdaptiveGaussInit(ImageSize roi, ImageSize mask, int dataType, int channels, float sigma,
+                                   uint8_t* block) {
+    const GaussParts parts(mask.width);
+    if (auto bad =
+            firstOf({pointers(block), checkedQuery(roi, mask, dataType, channels), fits<int>(parts.blockBytes())}))
+        return bad;
+    const Len distance = gaussAlignment - Len(reinterpret_cast<uintptr_t>(block) % gaussAlignment);
+    uint8_t* const object = block + distance;
+    float* const weights = parts.weights.in(object);
+    block[0] = uint8_t(distance);
+    const float usedSigma = toNearest([&] { return putWeights(weights, mask.width, sigma); });
+    store(object, GaussSpec{GaussSpec::itsTag, 1, mask.width, usedSigma, 0, weights});
     return STATUS_OK;
 }
 

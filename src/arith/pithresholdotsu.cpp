@@ -7,8 +7,7 @@
 namespace zmv {
 namespace {
 
-// A call of its own, so that the rounding in force round it holds for all of it.
-__attribute__((noinline)) int bestLevel(const uint64_t* counts, Len pixels) {
+int bestLevel(const uint64_t* counts, Len pixels) {
     // Classes of next to no weight are not looked at: their means would be quotients of rounding errors.
     constexpr double least = std::numeric_limits<float>::epsilon(), most = 1 - least;
     const double inverse = 1 / double(pixels);
@@ -36,8 +35,7 @@ StatusCode ownpi_ComputeThreshold_Otsu(Image<const uint8_t> src, Roi roi, uint8_
     if (auto bad = firstOf({pointers(src.data, threshold), size(roi), rowStep(src.step, roi.width)})) return bad;
     ByteCounts<1>::Memory memory;
     ByteCounts<1>(memory).add(src, roi);
-    const RoundingControl control(RoundingControl::toNearestEven);
-    *threshold = uint8_t(bestLevel(memory.totals[0], roi.width * roi.height));
+    put(threshold, uint8_t(toNearest([&] { return bestLevel(memory.totals[0], roi.width * roi.height); })));
     return STATUS_OK;
 }
 

@@ -62,7 +62,6 @@ void squareRoots(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int f
     if constexpr (std::is_floating_point_v<T>) {
         pointwise(Sqrt(), dst, roi, layout, pastCache, src);
     } else {
-        const RoundingControl control(RoundingControl::toNearestEven);
         withPrecision<T>(factor, [&](auto zero) {
             using F = decltype(zero);
             const auto rule = [scale = scaleOf<F>(factor)](Vec<F> a) { return squareRoot(a) * scale; };

@@ -67,7 +67,7 @@ enum class Place {
 };
 enum class Reach { none, anchor, radius, fixed, query, whole };  // of the source, round the pixel
 enum class Combine { no, add, least, greatest };                 // how results of parts make that of the whole, exactly
-enum class Rounds { never, floats, always };                     // as the caller's control word says
+enum class Rounds { never, floats };                             // as the caller's control word says: of real sources
 
 struct Facts {
     Steps steps = Steps::positive;
@@ -94,7 +94,7 @@ using enum Place;
 using enum Reach;
 using enum Combine;
 constexpr Steps anyStep = Steps::any, nonzeroStep = Steps::nonzero;
-constexpr Rounds roundsFloats = Rounds::floats, roundsAlways = Rounds::always;
+constexpr Rounds roundsFloats = Rounds::floats;
 
 constexpr Refusal nulls(const char* arguments = "", const char* words = "") {
     return {STATUS_NULL_POINTER, Bad::null, arguments, words};

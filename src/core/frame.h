@@ -39,9 +39,9 @@ constexpr Layout C1{1}, C3{3}, C4{4}, AC4{4, true};
 
 struct Roi {
     Len width, height;
-    Roi(Len w, Len h) : width(w), height(h) {}
-    Roi(ImageSize s) : width(s.width), height(s.height) {}
-    Roi(ImageSizeL s) : width(s.width), height(s.height) {}
+    constexpr Roi(Len w, Len h) : width(w), height(h) {}
+    constexpr Roi(ImageSize s) : width(s.width), height(s.height) {}
+    constexpr Roi(ImageSizeL s) : width(s.width), height(s.height) {}
 };
 
 // A region of interest: its first pixel, and the distance of its rows in bytes.

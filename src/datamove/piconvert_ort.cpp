@@ -10,25 +10,31 @@ RoundingControl::Mode cutRoundingOf(int roundMode) {
 }
 bool isFinancial(int roundMode) { return roundMode != ROUND_NEAR && roundMode != ROUND_ZERO; }
 
+template <bool financial>
+struct Rounded {
+    RoundingControl::Mode rounding;
+    ZMV_INLINE Vec<float> operator()(Vec<float> v) const { return financial ? v + 0.5f : v; }
+};
+
 template <class D>
 StatusCode ownpi_ConvertRounded(Image<const float> src, Image<D> dst, Roi roi, Layout layout, int roundMode) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(cutRoundingOf(roundMode));
     const auto run = [&](const auto& rule) {
         pointwiseIn<float>(rule, dst, roi, layout, regionPastCache(roi, layout, sizeof(float) + sizeof(D)), src);
     };
     if (isFinancial(roundMode))
-        run([](Vec<float> v) { return v + 0.5f; });
+        run(Rounded<true>{cutRoundingOf(roundMode)});
     else
-        run([](Vec<float> v) { return v; });
+        run(Rounded<false>{cutRoundingOf(roundMode)});
     return STATUS_OK;
 }
 
 // v * 2^-factor + half.  In two steps, since one power of two may lie beyond the range: what the first loses is far
 // below one half.
 struct Scaled {
+    RoundingControl::Mode rounding;
     double first, second, half;
-    Scaled(int factor, double plus) : half(plus) {
+    Scaled(int factor, int roundMode) : rounding(cutRoundingOf(roundMode)), half(isFinancial(roundMode) ? 0.5 : 0.0) {
         constexpr int most = 2 * 1022;  // there every result saturates, or vanishes
         const int n = std::clamp(factor, -most, most);
         first = powerOfTwo(-(n / 2));
@@ -40,8 +46,7 @@ struct Scaled {
 template <class S, class D>
 StatusCode ownpi_ConvertScaled(Image<const S> src, Image<D> dst, Roi roi, int roundMode, int factor) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(cutRoundingOf(roundMode));
-    pointwiseIn<double>(Scaled(factor, isFinancial(roundMode) ? 0.5 : 0.0), dst, roi, C1, false, src);
+    pointwiseIn<double>(Scaled(factor, roundMode), dst, roi, C1, false, src);
     return STATUS_OK;
 }
 

@@ -8,16 +8,21 @@ namespace {
 template <class S, class D>
 using WiderOfTwo = std::conditional_t<std::is_floating_point_v<D> || sizeof(D) >= sizeof(S), D, S>;
 
+struct Same {
+    RoundingControl::Mode rounding;
+    template <class V>
+    ZMV_INLINE V operator()(V v) const {
+        return v;
+    }
+};
+
 template <class S, class D>
 StatusCode ownpi_Convert(Image<const S> src, Image<D> dst, Roi roi, Layout layout) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const auto same = [](auto v) { return v; };
-    const auto convert = [&] {
-        pointwiseIn<WiderOfTwo<S, D>>(same, dst, roi, layout, regionPastCache(roi, layout, sizeof(S) + sizeof(D)), src);
-    };
-    if constexpr (sizeof(S) < 4 || std::is_integral_v<D>) return convert(), STATUS_OK;
-    const RoundingControl control(RoundingControl::toNearestEven);
-    return convert(), STATUS_OK;
+    const bool exact = sizeof(S) < 4 || std::is_integral_v<D>;
+    const Same same{exact ? RoundingControl::callers : RoundingControl::toNearestEven};
+    pointwiseIn<WiderOfTwo<S, D>>(same, dst, roi, layout, regionPastCache(roi, layout, sizeof(S) + sizeof(D)), src);
+    return STATUS_OK;
 }
 
 // Overlapping rows convert element by element from the first on, whatever that makes of elements that are read later.

@@ -4,31 +4,31 @@
 #include "filter/mean3x3.h"
 #include "filter/tree.h"
 #include "filter/windows.h"
+#include "kernels/rounding.h"
 
 namespace zmv {
 
-// Bytes of the work buffer.  The parts are those of a filter that builds the bands outside the region, keeps a row of
-// sums, and saves rows in place; the driver below has other parts but never needs more.
+// Bytes of the work buffer, by a formula that callers know.  The parts are those of a filter that builds the bands
+// outside the region, keeps a row of sums, and saves rows in place; the drivers below have other parts, which fit.
+constexpr WideLen boxBufferSize(ImageSize roi, ImageSize mask, int elementBytes, int channels) {
+    const Window w(mask);
+    const WideLen width = roi.width, height = roi.height, n = channels;
+    const WideLen extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
+    const WideLen bands = (w.height == 2 ? extendedWidth : 0) + (w.width == 2 ? extendedHeight : 0) +
+                          2 * ((w.width + w.right - 1) * extendedHeight + (w.height + w.bottom - 1) * extendedWidth);
+    const WideLen sums = (width + w.width + 3) * (n == 1 ? 4 : 16);
+    WideLen image = n * width * elementBytes * (w.top + 1) + 64;
+    const bool hasInterior = width - w.left - w.right > w.width && height - w.top - w.bottom > w.height;
+    if (!hasInterior) image = std::max(image, extendedWidth * extendedHeight * n * elementBytes);
+    return 4 * n * bands + sums + image + (w.top + 1) * 8;
+}
 inline StatusCode ownpi_BoxGetBufferSize(ImageSize roi, ImageSize mask, int type, int channels, int* bufferSize) {
     if (auto bad = firstOf({pointers(bufferSize), size(roi), maskSize(mask), dataType(type), channelCount(channels)}))
         return bad;
-    const bool twoBytes = type == DATATYPE_16U || type == DATATYPE_16S;
-    using Size = __int128;  // the largest arguments pass 64 bits
-    const Window w(mask);
-    const Size width = roi.width, height = roi.height, n = channels,
-               element = twoBytes               ? 2
-                         : type == DATATYPE_32F ? 4
-                                                : 1;
-    const Size extendedWidth = width + w.width - 1, extendedHeight = height + w.height - 1;
-    const Size bands = (w.height == 2 ? extendedWidth : 0) + (w.width == 2 ? extendedHeight : 0) +
-                       2 * ((w.width + w.right - 1) * extendedHeight + (w.height + w.bottom - 1) * extendedWidth);
-    const Size sums = (width + w.width + 3) * (n == 1 ? 4 : 16);
-    Size image = n * width * element * (w.top + 1) + 64;
-    const bool hasInterior = width - w.left - w.right > w.width && height - w.top - w.bottom > w.height;
-    if (!hasInterior) image = std::max(image, extendedWidth * extendedHeight * n * element);
-    const Size total = 4 * n * bands + sums + image + (w.top + 1) * 8;
-    if (total > INT32_MAX) return STATUS_SIZE_EXCEEDS_INT;
-    *bufferSize = int(total);
+    const int elementBytes = type == DATATYPE_8U ? 1 : type == DATATYPE_32F ? 4 : 2;
+    const WideLen bytes = boxBufferSize(roi, mask, elementBytes, channels);
+    if (auto bad = fits<int>(bytes)) return bad;
+    put(bufferSize, int(bytes));
     return STATUS_OK;
 }
 
@@ -37,37 +37,44 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
                     Scratch scratch) {
     const Pattern colours = Pattern::mask<D>(layout.used(), n);
     const Pattern* const kept = layout.alpha ? &colours : nullptr;
-    const bool wide = !sumsFit<T>(window.area(), INT32_MAX);
     if constexpr (requires { requires Output::isByteMean; })
         if (window.width == 3 && window.height == 3 && !kept && !bands.inPlace()) {
-            bands.takeMemory(scratch);
-            return Mean3x3<n>(bands, dst, roi).run(scratch);
+            const Mean3x3Memory memory(scratch, roi, window, n, bands.use().constant);
+            bands.workIn(memory.bands);
+            return Mean3x3<n>(bands, dst, roi).run(memory.line);
         }
-    const auto run = [&](auto zero) {
+    const bool wide = !sumsFit<T>(window.area(), INT32_MAX) || !output.takesVectors();
+    withColumnSums<T>(window, [&](auto zero) {
         using A = decltype(zero);
         eachLine<A>(bands, roi, window, scratch, [&](Len y, const A* line) {
             if constexpr (requires { output.template putShortRow<n>(dst.data, line, roi.width); })
                 if (output.fitsShort() && !kept) return output.template putShortRow<n>(dst.row(y), line, roi.width);
+            const auto put = [&](auto sums) { putRow(output, dst.row(y), sums, roi.width, n, kept); };
             const LineReader<A> reader{line};
-            if (wide) return putRow<n, true>(output, dst.row(y), reader, roi.width, window.width, kept);
-            if constexpr (sizeof(A) < 8) putRow<n, false>(output, dst.row(y), reader, roi.width, window.width, kept);
+            if (wide) return put(WideRowSums(reader, window.width, n));
+            if constexpr (sizeof(A) < 8) put(RowSums<LineReader<A>, n>(reader, window.width));
         });
-    };
-    if constexpr (sizeof(T) == 1)
-        if (sumsFit<T>(window.height, UINT16_MAX)) return run(uint16_t(0));
-    if (sumsFit<T>(window.height, INT32_MAX)) return run(int32_t(0));
-    run(int64_t(0));
+    });
 }
+
+struct TreeMemory {
+    float *line, *tree;
+    BandsMemory<float> bands;
+    constexpr TreeMemory(Scratch& s, Roi roi, Window window, int n, BandsUse use)
+        : line(s.take<float>((WideLen(roi.width) + window.width - 1) * n)),
+          tree(s.take<float>(WideLen(RowTree<float>::rowsNeeded(window.height)) * roi.width * n)),
+          bands(s, roi, window, n, use) {}
+};
 
 template <class Output, int n>
 void floatWindows(Bands<float, n>& bands, Image<float> dst, Roi roi, Layout layout, Window window, const Output& output,
                   Scratch scratch) {
     const Pattern colours = Pattern::mask<float>(layout.used(), n);
     const Len length = roi.width * n;
-    float* const line = scratch.take<float>((roi.width + window.width - 1) * n);
-    RowTree<float> tree(scratch.take<float>(RowTree<float>::rowsNeeded(window.height) * length), window.height, length);
-    bands.takeMemory(scratch);
-    float* const home = line + window.left * n;
+    const TreeMemory memory(scratch, roi, window, n, bands.use());
+    bands.workIn(memory.bands);
+    RowTree<float> tree(memory.tree, window.height, length);
+    float* const home = memory.line + window.left * n;
     for (Len y = -window.top; y < roi.height + window.bottom; ++y) {
         const Len finished = std::max<Len>(0, y - window.bottom);
         const auto row = bands.row(y, finished);
@@ -76,7 +83,7 @@ void floatWindows(Bands<float, n>& bands, Image<float> dst, Roi roi, Layout layo
                     count * n * Len(sizeof(float)));
         });
         bands.fillColumns(home, bands.value());
-        sumAlong(tree.nextRow(), line, length, window.width, Len(n));
+        sumAlong(tree.nextRow(), memory.line, length, window.width, Len(n));
         tree.push();
         if (!tree.full()) continue;
         const Len result = y - window.bottom;
@@ -102,11 +109,13 @@ StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize 
     const bool inPlace =
         static_cast<const void*>(src.data) == dst.data && (window.height > 1 || !std::is_floating_point_v<T>);
     Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
-    const Output output(window);
-    if constexpr (std::is_same_v<T, float>)
-        floatWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
-    else
-        integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+    toNearestIf<std::is_integral_v<T>>([&] {
+        const Output output(window);
+        if constexpr (std::is_same_v<T, float>)
+            floatWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+        else
+            integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
+    });
     return STATUS_OK;
 }
 

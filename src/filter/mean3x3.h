@@ -28,6 +28,19 @@ ZMV_INLINE Triples triplesAt(Neighbours p) {
     }
 }
 
+// Rows of more than a few vectors keep their line in the work buffer, which is many times as large; columns are worked
+// in strips of so many vectors.
+constexpr Len mean3x3Strip = 4096 / vectorBytes, mean3x3Few = 8;
+struct Mean3x3Memory {
+    Triples (*line)[2];
+    BandsMemory<uint8_t> bands;
+    constexpr Mean3x3Memory(Scratch& s, Roi roi, Window window, int n, bool constant)
+        : line(nullptr), bands(s, roi, window, n, {constant, false}) {
+        const Len vectors = (roi.width * n - 1) / vectorBytes + 1;
+        if (vectors > mean3x3Few) line = s.take<Triples[2], vectorBytes>(std::min(vectors, mean3x3Strip));
+    }
+};
+
 template <int n>
 class Mean3x3 {
   public:
@@ -41,20 +54,16 @@ class Mean3x3 {
           left_(bands.column(-1)),
           right_(bands.column(roi.width)) {}
 
-    void run(Scratch scratch) {
-        // Rows of more than a few vectors come with a buffer of many times what the line takes.
-        constexpr int few = 8;
-        Triples ours[few][2];
-        const auto line = vectors_ <= few ? ours
-                                          : reinterpret_cast<Triples(*)[2]>(
-                                                scratch.take<Vec<uint8_t>, vectorBytes>(4 * std::min(vectors_, strip)));
+    void run(Triples (*line)[2]) const {
+        Triples ours[mean3x3Few][2];
+        if (!line) line = ours;
         for (Len from = 0; from < vectors_; from += strip) runStrip(line, from, std::min(vectors_, from + strip));
     }
 
   private:
-    // Columns are worked in strips of so many vectors, rows in batches: their ends, with what the border makes of the
-    // pixels beyond, are laid out well before they are read, since a load that spans recent stores waits for them.
-    static constexpr Len strip = 4096 / vectorBytes;
+    // Rows are worked in batches: their ends, with what the border makes of the pixels beyond, are laid out well before
+    // they are read, since a load that spans recent stores waits for them.
+    static constexpr Len strip = mean3x3Strip;
     static constexpr int batch = 16;
     struct Ends {
         const uint8_t* row;

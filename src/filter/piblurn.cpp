@@ -1,33 +1,79 @@
 // zmviFilterBoxBorder: the mean of a window, with borders.  zmviFilterBox: the same from memory, in double precision.
+#include <bit>
+
 #include "filter/boxborder.h"
 
 namespace zmv {
 namespace {
 
-// The mean of integers: the exact sum, times the reciprocal of the area, plus one half, each step rounded to single
-// precision, then cut down to an integer (signed types: rounded down).
-template <class D>
-class RoundedMean {
+template <class T>
+constexpr WideLen lineBytes(Roi roi, Window window, int n) {
+    return withColumnSums<T>(window, [&](auto zero) {
+        return scratchBytes<LineMemory<decltype(zero), T>>(roi, window, n, BandsUse{true, true});
+    });
+}
+constexpr bool memoryFits(ImageSize roi, ImageSize mask) {
+    const Window w(mask);
+    for (int n : {1, 3, 4}) {
+        const auto fits = [&](int elementBytes, WideLen bytes) {
+            return bytes <= boxBufferSize(roi, mask, elementBytes, n);
+        };
+        if (!fits(1, lineBytes<uint8_t>(roi, w, n)) || !fits(2, lineBytes<uint16_t>(roi, w, n)) ||
+            !fits(4, scratchBytes<TreeMemory>(roi, w, n, BandsUse{true, w.height > 1})) ||
+            (w.width == 3 && w.height == 3 && !fits(1, scratchBytes<Mean3x3Memory>(roi, w, n, true))))
+            return false;
+    }
+    return true;
+}
+static_assert(fitsEverywhere(memoryFits));
+
+// Quotients of whole numbers up to `largest`, exactly, rounded down: products with the reciprocal in fixed point,
+// rounded up, whose error stays below one unit.  Where U has no such reciprocal, and for the divisor 1, the factor is
+// zero.
+template <class U>
+struct Reciprocal {
+    U factor = 0;
+    int shift = 0;
+    Reciprocal() = default;
+    Reciprocal(uint64_t divisor, uint64_t largest) {
+        using Wide = std::conditional_t<sizeof(U) == 8, unsigned __int128, uint64_t>;
+        constexpr uint64_t most = std::numeric_limits<U>::max();
+        if (largest > most) return;
+        for (int n : {0, int(std::bit_width(divisor)) - 1}) {  // the quickest, and the finest
+            const Wide one = Wide(1) << (8 * sizeof(U) + size_t(n)), up = (one + divisor - 1) / divisor;
+            if (up > most || (up * divisor - one) * largest >= one) continue;
+            factor = U(up), shift = n;
+            return;
+        }
+    }
+};
+
+// The mean of 16-bit integers: the exact sum over the area, rounded once, halves upward.
+template <class T, class D>
+class BoxMean {
   public:
-    explicit RoundedMean(Window window) : reciprocal_(1.0f / float(window.area())) {}
+    explicit BoxMean(Window window)
+        : area_(window.area()), plus_(offset * area_ + area_ / 2), vectors_(uint64_t(area_), largest()) {
+        if (!sumsFit<T>(area_, INT32_MAX) || !takesVectors()) any_ = {uint64_t(area_), largest()};
+    }
+    bool takesVectors() const { return area_ == 1 || vectors_.factor; }
 
     void put(D* dst, Vec<int32_t> sums) const {
-        const auto mean = toFloat(sums) * reciprocal_ + 0.5f;
-        storeNarrow(dst, std::is_signed_v<D> ? floorToInt(mean) : truncate(mean));
+        if (area_ == 1) return storeNarrow(dst, sums);
+        const auto positive = asUnsigned(sums) + uint32_t(plus_);
+        storeNarrow(dst, asSigned(mulHigh(positive, fill(vectors_.factor)) >> vectors_.shift) - int32_t(offset));
     }
     D one(int64_t sum) const {
-        const float mean = float(sum) * reciprocal_ + 0.5f;
-        const int cut = int(mean);
-        return D(cut - (std::is_signed_v<D> && float(cut) > mean));
+        const auto product = (unsigned __int128)(any_.factor) * uint64_t(sum + plus_);
+        return D(int64_t(product >> 64 >> any_.shift) - offset);
     }
 
   private:
-    float reciprocal_;
-};
-
-template <class T, class D>
-class BoxMean : public RoundedMean<D> {
-    using RoundedMean<D>::RoundedMean;
+    uint64_t largest() const { return uint64_t(UINT16_MAX * area_ + area_ / 2); }
+    static constexpr Len offset = -Len(std::numeric_limits<T>::min());
+    Len area_, plus_;  // what makes sums positive, and half the area
+    Reciprocal<uint32_t> vectors_;
+    Reciprocal<uint64_t> any_;
 };
 
 template <>
@@ -40,35 +86,36 @@ class BoxMean<float, float> {
     float reciprocal_;
 };
 
-// 8-bit means of small odd areas need no floating point.  No such mean lies halfway between two integers, and the
-// single-precision steps err by far less than 1 / (2 * area), the distance to the nearest that could: they round the
-// exact mean to nearest.  So does (sum + area / 2) / area, and 16 bits hold it.
+// The mean of bytes: the exact sum, times the reciprocal of the area, plus one half, each step rounded to single
+// precision, then cut down to an integer.
+//
+// Small odd areas need no floating point.  No such mean lies halfway between two integers, and the single-precision
+// steps err by far less than 1 / (2 * area), the distance to the nearest that could: they round the exact mean to
+// nearest.  So does (sum + area / 2) / area, and 16 bits hold it.
 template <>
-class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
+class BoxMean<uint8_t, uint8_t> {
   public:
     static constexpr bool isByteMean = true;
-    explicit BoxMean(Window window) : RoundedMean(window), windowWidth_(window.width) {
+    explicit BoxMean(Window window)
+        : reciprocal_(1.0f / float(window.area())), windowWidth_(window.width), half_(uint16_t(window.area() / 2)) {
         const Len area = window.area();
-        if (area % 2 == 0 || area == 1 || area > 255 || windowWidth_ > shortWidth) return;
-        // sum / area as a product with the reciprocal rounded up: exact while the error stays below one unit.
-        const Len largest = 255 * area + area / 2;
-        for (int shift = 0; area >> shift; ++shift) {
-            const Len one = Len(1) << (16 + shift), factor = (one + area - 1) / area;
-            if (factor > UINT16_MAX || (factor * area - one) * largest >= one) continue;
-            factor_ = uint16_t(factor), half_ = uint16_t(area / 2), shift_ = shift;
-            return;
-        }
+        if (area % 2 == 1 && area <= 255 && windowWidth_ <= shortWidth)
+            short_ = {uint64_t(area), uint64_t(255 * area + area / 2)};
     }
-    bool fitsShort() const { return factor_ != 0; }
+    static bool takesVectors() { return true; }
+
+    void put(uint8_t* dst, Vec<int32_t> sums) const { storeNarrow(dst, truncate(toFloat(sums) * reciprocal_ + 0.5f)); }
+    uint8_t one(int64_t sum) const { return uint8_t(float(sum) * reciprocal_ + 0.5f); }
+    bool fitsShort() const { return short_.factor != 0; }
 
     // line: column sums from the leftmost one of the first window on.
     template <int n>
     void putShortRow(uint8_t* dst, const uint16_t* line, Len pixels) const {
         const auto put = [&](auto width) {
-            if (shift_ == 0)
+            if (short_.shift == 0)
                 putShort<n>(dst, line, pixels * n, width, [](auto v) { return v; });
             else
-                putShort<n>(dst, line, pixels * n, width, [shift = shift_](auto v) { return v >> shift; });
+                putShort<n>(dst, line, pixels * n, width, [shift = short_.shift](auto v) { return v >> shift; });
         };
         if (windowWidth_ <= directWidth)
             withWidth(windowWidth_, put);
@@ -81,7 +128,7 @@ class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
     void putShort(uint8_t* dst, const uint16_t* line, Len count, Width width, Shift shifted) const {
         const auto mean = [&](Len i) {
             const auto sum = sumOf([&](Len k) { return load(line + i + k * n); }, width);
-            return shifted(mulHigh(sum + half_, fill(factor_)));
+            return shifted(mulHigh(sum + half_, fill(short_.factor)));
         };
         constexpr int half = lanes<uint16_t>;
         for (Len i = 0; i < count; i += 2 * half) {
@@ -90,9 +137,10 @@ class BoxMean<uint8_t, uint8_t> : public RoundedMean<uint8_t> {
         }
     }
 
+    float reciprocal_;
     Len windowWidth_;
-    int shift_ = 0;
-    uint16_t factor_ = 0, half_ = 0;
+    uint16_t half_;
+    Reciprocal<uint16_t> short_;
 };
 
 // The mean in double precision straight from memory, in tiles whose rings fit on the stack.  A larger mask is cut into

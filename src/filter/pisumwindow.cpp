@@ -8,6 +8,7 @@ template <class T, class D>
 class WindowSum {
   public:
     explicit WindowSum(Window) {}
+    static bool takesVectors() { return true; }
     void put(D* dst, Vec<int32_t> sums) const {
         if constexpr (std::is_same_v<D, float>)
             store(dst, toFloat(sums));
@@ -42,27 +43,28 @@ StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int
     if (nothingToDo(roi)) return STATUS_OK;
     constexpr int n = layout.channels;
     const bool wide = !sumsFit<T>(maskSize, INT32_MAX);
-    const WindowSum<T, float> output{Window({maskSize, 1})};
-    for (Len y = 0; y < roi.height; ++y) {
-        const RowReader<T> reader{src.row(y) - Len(anchor) * n, (roi.width + maskSize - 1) * n};
-        if (wide)
-            putRow<n, true>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
-        else
-            putRow<n, false>(output, dst.row(y), reader, roi.width, maskSize, nullptr);
-    }
+    toNearest([&] {
+        const WindowSum<T, float> output{Window({maskSize, 1})};
+        for (Len y = 0; y < roi.height; ++y) {
+            const auto put = [&](auto sums) { putRow(output, dst.row(y), sums, roi.width, n, nullptr); };
+            const RowReader<T> reader{src.row(y) - Len(anchor) * n, (roi.width + maskSize - 1) * n};
+            wide ? put(WideRowSums(reader, maskSize, n)) : put(RowSums<RowReader<T>, n>(reader, maskSize));
+        }
+    });
     return STATUS_OK;
 }
 
 // Strips of columns whose sums, of type A, stay on the stack.
-template <class A, class T, class Put>
-void columnStrips(Image<const T> src, Roi roi, int n, int maskSize, int anchor, Put put) {
+template <class A, class T>
+void columnStrips(Image<const T> src, Image<float> dst, Roi roi, int n, int maskSize, int anchor) {
+    const WindowSum<T, float> output{Window({1, maskSize})};
     constexpr Len strip = 256;
     for (Len x = 0; x < roi.width * n; x += strip) {
         const Len count = std::min(strip, roi.width * n - x);
-        A sums[strip + lanes<A>] = {};
+        A sums[strip + lanes<uint32_t>] = {};
         for (Len k = 0; k < maskSize; ++k) addColumns(sums, src.row(k - anchor) + x, count);
         for (Len y = 0;; ++y) {
-            put(x, y, sums, int(count));
+            putChunk(output, dst.row(y) + x, sums, int(count));
             if (y + 1 == roi.height) break;
             moveColumns(sums, sums, src.row(y + maskSize - anchor) + x, src.row(y - anchor) + x, count);
         }
@@ -73,17 +75,10 @@ template <Layout layout, class T>
 StatusCode ownpi_SumWindowColumn(Image<const T> src, Image<float> dst, Roi roi, int maskSize, int anchor) {
     if (auto bad = lineContract(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
-    const WindowSum<T, float> output{Window({1, maskSize})};
-    if (sumsFit<T>(maskSize, INT32_MAX)) {
-        columnStrips<uint32_t>(
-            src, roi, layout.channels, maskSize, anchor,
-            [&](Len x, Len y, const uint32_t* sums, int count) { putChunk(output, dst.row(y) + x, sums, count); });
-    } else {
-        columnStrips<int64_t>(src, roi, layout.channels, maskSize, anchor,
-                              [&](Len x, Len y, const int64_t* sums, int count) {
-                                  for (int i = 0; i < count; ++i) put(dst.row(y) + x + i, output.one(sums[i]));
-                              });
-    }
+    toNearest([&] {
+        (sumsFit<T>(maskSize, INT32_MAX) ? columnStrips<int32_t, T>
+                                         : columnStrips<int64_t, T>)(src, dst, roi, layout.channels, maskSize, anchor);
+    });
     return STATUS_OK;
 }
 

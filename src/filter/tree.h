@@ -49,7 +49,7 @@ void sumAlong(T* out, T* row, Len count, Len terms, Len distance) {
 template <class T>
 class RowTree {
   public:
-    static Len rowsNeeded(Len terms) {
+    static constexpr Len rowsNeeded(Len terms) {
         Len rows = 0;
         for (int level = 0; Len(1) << level <= terms; ++level) rows += ringSize(level, terms);
         return rows;
@@ -92,7 +92,7 @@ class RowTree {
   private:
     static constexpr int maxLevels = 32;
     // A ring keeps what the next level adds, or what a window still takes after its larger blocks are complete.
-    static Len ringSize(int level, Len terms) {
+    static constexpr Len ringSize(int level, Len terms) {
         const Len block = Len(1) << level;
         return 2 * block <= terms ? block + 1 : terms - block + 1;
     }

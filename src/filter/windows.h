@@ -25,46 +25,35 @@ struct RowReader {
 };
 
 // Results of a chunk of sums.  An output's put() takes a vector of sums that fit int32_t, its one() any sum.
-template <class Output, class D>
-void putChunk(const Output& output, D* dst, const uint32_t* sums, int count) {
-    constexpr int step = lanes<int32_t>;
-    const auto sumsAt = [&](int i) { return loadAs<Vec<int32_t>>(sums + i); };
-    int i = 0;
-    for (; i + step <= count; i += step) output.put(dst + i, sumsAt(i));
-    if (i == count) return;
-    D few[step];
-    output.put(few, sumsAt(i));
-    std::memcpy(dst + i, few, size_t(count - i) * sizeof(D));
+template <class Output, class D, class S>
+void putChunk(const Output& given, D* dst, const S* sums, int count) {
+    const Output output = given;  // in registers: to the compiler, results could lie in it
+    if constexpr (sizeof(S) == 4) {
+        constexpr int step = lanes<int32_t>;
+        const auto sumsAt = [&](int i) { return loadAs<Vec<int32_t>>(sums + i); };
+        int i = 0;
+        for (; i + step <= count; i += step) output.put(dst + i, sumsAt(i));
+        if (i == count) return;
+        D few[step];
+        output.put(few, sumsAt(i));
+        std::memcpy(dst + i, few, size_t(count - i) * sizeof(D));
+    } else {
+        for (int i = 0; i < count; ++i) put(dst + i, output.one(sums[i]));
+    }
 }
 
-// One row of results, from sums in int32_t or, where the area is too large for those, in int64_t.
-template <int n, bool wide, class Output, class Reader, class D>
-void putRow(const Output& output, D* dst, const Reader& reader, Len pixels, Len windowWidth, const Pattern* colours) {
-    RowSums<Reader, n> rowSums(reader, windowWidth);
-    int64_t running[4] = {};
-    if constexpr (wide)
-        for (Len k = 0; k < (windowWidth - 1) * n; ++k) running[k % n] += reader.one(k);
-    const auto putPixels = [&](D* to, Len x, int count) {
-        if constexpr (!wide) {
-            ChunkSums sums;
-            rowSums.next(sums, count);
-            putChunk(output, to, sums, count * n);
-        } else {
-            for (Len i = x * n; i < (x + count) * n; ++i) {
-                int64_t& sum = running[i % n];
-                sum += reader.one(i + (windowWidth - 1) * n);
-                put(to + i - x * n, output.one(sum));
-                sum -= reader.one(i);
-            }
-        }
-    };
+// One row of results.
+template <class Output, class Sums, class D>
+void putRow(const Output& output, D* dst, Sums rowSums, Len pixels, int n, const Pattern* colours) {
     for (Len x = 0; x < pixels; x += chunkPixels) {
         const int count = int(std::min<Len>(chunkPixels, pixels - x));
+        Chunk<typename Sums::Sum> sums;
+        rowSums.next(sums, count);
         if (!colours) {
-            putPixels(dst + x * n, x, count);
+            putChunk(output, dst + x * n, sums, count * n);
         } else {
             D results[chunkPixels * 4];
-            putPixels(results, x, count);
+            putChunk(output, results, sums, count * n);
             blendRow(dst + x * n, fromRow(results), *colours, rowBytes<D>(count, 3, 4));
         }
     }

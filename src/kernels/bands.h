@@ -18,17 +18,45 @@ namespace zmv {
 // The pixels round (x, y) that a mask covers: left columns, the pixel's own, right columns; rows likewise.
 struct Window {
     Len width, height, left, top, right, bottom;
-    explicit Window(ImageSize mask)
+    constexpr explicit Window(ImageSize mask)
         : width(mask.width),
           height(mask.height),
           left((width - 1) >> 1),
           top((height - 1) >> 1),
           right(width - 1 - left),
           bottom(height - 1 - top) {}
-    Len area() const { return width * height; }
+    constexpr Len area() const { return width * height; }
 };
 
+// Whether fits(roi, mask) holds for regions and masks round the sizes that layouts of memory turn at: a proof that
+// what a driver takes is inside what callers are told.
+template <class Fits>
+constexpr bool fitsEverywhere(Fits fits) {
+    for (int width : {1, 2, 5, 40, 600, 70000})
+        for (int height : {1, 2, 40, 70000})
+            for (int maskWidth : {1, 2, 3, 8, 41, 70001})
+                for (int maskHeight : {1, 2, 3, 8, 41, 70001})
+                    if (!fits(ImageSize{width, height}, ImageSize{maskWidth, maskHeight})) return false;
+    return true;
+}
+
 inline StatusCode maskSize(ImageSize mask) { return refuse(mask.width < 1 || mask.height < 1, STATUS_BAD_MASK_SIZE); }
+
+// Memory that bands work in: for a row of the constant, and in place for the rows that are read again when their
+// results have overwritten them.
+struct BandsUse {
+    bool constant, inPlace;
+};
+template <class T>
+struct BandsMemory {
+    T *constantRow = nullptr, *history = nullptr;
+    constexpr BandsMemory() = default;
+    constexpr BandsMemory(Scratch& s, Roi roi, Window window, int n, BandsUse use)
+        : constantRow(use.constant && window.height > 1 ? s.take<T>((WideLen(roi.width) + window.width - 1) * n)
+                                                        : nullptr),
+          history(use.inPlace ? s.take<T>(WideLen(historyRows(window)) * roi.width * n) : nullptr) {}
+    static constexpr Len historyRows(Window window) { return window.top + 1; }
+};
 
 template <class T, int n>
 class Bands {
@@ -39,15 +67,12 @@ class Bands {
         for (int c = 0; c < layout.used() && constant(); ++c) value_[c] = get(value + c);
     }
 
-    // Elements that takeMemory wants: a row of the constant, and the history.
-    void takeMemory(Scratch& scratch) {
-        const Len extended = (roi_.width + window_.width - 1) * n;
-        if (constant() && window_.height > 1) {
-            T* const row = scratch.take<T>(extended);
-            for (Len i = 0; i < extended; i += n) std::memcpy(row + i, value_, sizeof(T) * n);
-            constantRow_ = row + window_.left * n;
-        }
-        if (inPlace_) history_ = scratch.take<T>(historyRows() * roi_.width * n);
+    BandsUse use() const { return {constant(), inPlace_}; }
+    void workIn(BandsMemory<T> memory) {
+        memory_ = memory;
+        if (!memory.constantRow) return;
+        for (Len x = 0; x < roi_.width + window_.width - 1; ++x)
+            std::memcpy(memory.constantRow + x * n, value_, sizeof(T) * n);
     }
 
     // A row of the extended region.  `inside` has the region's columns; `outside` the readable ones left and right.
@@ -58,7 +83,10 @@ class Bands {
     // Row y, -top <= y < height + bottom, when the results of rows 0 .. finished - 1 are written.
     Row row(Len y, Len finished) const {
         if (y < 0 ? !(word_ & BORDER_IN_MEM_TOP) : y >= roi_.height && !(word_ & BORDER_IN_MEM_BOTTOM)) {
-            if (constant()) return {constantRow_, constantRow_};
+            if (constant()) {
+                const T* const row = memory_.constantRow + window_.left * n;
+                return {row, row};
+            }
             y = borderAt(word_, y, roi_.height);
         }
         const T* const inMemory = src_.row(y);
@@ -106,8 +134,7 @@ class Bands {
 
   private:
     bool constant() const { return borderRule(word_) == BORDER_CONST; }
-    Len historyRows() const { return window_.top + 1; }
-    T* saved(Len y) const { return history_ + y % historyRows() * roi_.width * n; }
+    T* saved(Len y) const { return memory_.history + y % memory_.historyRows(window_) * roi_.width * n; }
 
     Image<const T> src_;
     Roi roi_;
@@ -115,8 +142,7 @@ class Bands {
     int word_;
     bool inPlace_;
     T value_[4] = {};
-    const T* constantRow_ = nullptr;
-    T* history_ = nullptr;
+    BandsMemory<T> memory_;
 };
 
 }  // namespace zmv

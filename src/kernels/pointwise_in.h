@@ -1,5 +1,6 @@
 // The walker of operations whose operands or results are of other types than what is computed with: pixel by pixel too,
-// in lanes of a type W.  Operands are widened to it; results are saturated, and real numbers rounded.
+// in lanes of a type W.  Operands are widened to it; results are saturated, and real numbers rounded: to nearest with
+// ties to even, or as the rule's `rounding` says.
 #pragma once
 
 #include "kernels/pointwise.h"
@@ -83,13 +84,27 @@ ZMV_INLINE void pointwiseLinesIn(const Rule& rule, T* dst, Len count, const Row&
                    [&](int i) { return resultsIn<W, T>(rule, x + i * lanes<T>, rows...); });
 }
 
+template <class Rule>
+RoundingControl::Mode roundingOf([[maybe_unused]] const Rule& rule) {
+    if constexpr (requires { rule.rounding; })
+        return rule.rounding;
+    else
+        return RoundingControl::toNearestEven;
+}
+
 // dst = rule(operands...) over a region, the rule in lanes of W.
 template <class W, class T, class Rule, class... Operand>
 void pointwiseIn(const Rule& rule, Image<T> dst, Roi roi, Layout layout, bool pastCache, const Operand&... operands) {
-    eachRow(
-        dst, joinOperands(roi, layout, dst, operands...), layout, pastCache && canStream(dst, sizeof(T)),
-        [&](T* to, Len y, Len x, Len n) { pointwiseRowIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); },
-        [&](T* to, Len y, Len x, Len n) { pointwiseLinesIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); });
+    const auto walk = [&] {
+        eachRow(
+            dst, joinOperands(roi, layout, dst, operands...), layout, pastCache && canStream(dst, sizeof(T)),
+            [&](T* to, Len y, Len x, Len n) { pointwiseRowIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); },
+            [&](T* to, Len y, Len x, Len n) { pointwiseLinesIn<W>(rule, to, n, rowIn<W>(operands, y, x, n)...); });
+    };
+    if constexpr (std::is_integral_v<W>)
+        walk();
+    else
+        rounding(roundingOf(rule), walk);
 }
 
 }  // namespace zmv

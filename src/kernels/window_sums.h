@@ -31,12 +31,13 @@ ZMV_INLINE auto sumOf(Terms terms, Width width) {
 
 // Sums of this many pixels are formed, then turned into results.
 constexpr int chunkPixels = 64;
-using ChunkSums = uint32_t[chunkPixels * 4 + lanes<uint32_t>];
+template <class S>
+using Chunk = S[chunkPixels * 4 + lanes<uint32_t>];
 
 // to = from + enter - leave for count elements; without leave, to = from + enter.  Lines may be read, but not written,
 // a vector beyond their end: the buffer goes on for at least that.
 template <class A, class T>
-inline void moveColumns(A* to, const A* from, const T* enter, const T* leave, Len count) {
+__attribute__((noinline)) void moveColumns(A* to, const A* from, const T* enter, const T* leave, Len count) {
     if constexpr (sizeof(A) == 8) {  // for masks of more than 2^31 / 65535 rows: no vector of this many widths
         for (Len i = 0; i < count; ++i) put(to + i, get(from + i) + get(enter + i) - (leave ? get(leave + i) : 0));
     } else {
@@ -71,24 +72,26 @@ struct LineReader {
 template <class Reader, int n>
 class RowSums {
   public:
+    using Sum = uint32_t;
     RowSums(Reader reader, Len windowWidth) : reader_(reader), width_(windowWidth) {}
 
     // The next chunk: the sums of `pixels` pixels.
-    void next(uint32_t* sums, int pixels) {
+    __attribute__((noinline)) void next(uint32_t* sums, int pixels) {
+        // To the compiler, `sums` could lie in *this: what loops use is in variables.
         if (width_ <= directWidth)
-            direct(sums, pixels * n);
+            direct(sums, pixels * n, reader_, done_);
         else if constexpr (n == 1)
-            running(sums, pixels);
+            running(sums, pixels, reader_, done_, width_);
         else
-            runningPixels(sums, pixels);
+            runningPixels(sums, pixels, reader_, done_, width_);
         done_ += pixels * n;
     }
 
   private:
-    void direct(uint32_t* sums, int count) const {
-        withWidth(width_, [&](auto width) {
+    ZMV_INLINE void direct(uint32_t* sums, int count, const Reader reader, const Len done) const {
+        withWidth(width_, [=](auto width) {
             for (int i = 0; i < count; i += lanes<uint32_t>)
-                store(sums + i, sumOf([&](Len k) { return reader_.at(done_ + i + k * n); }, width));
+                store(sums + i, sumOf([=](Len k) { return reader.at(done + i + k * n); }, width));
         });
     }
     uint32_t firstSum(int channel) const {
@@ -97,29 +100,29 @@ class RowSums {
         return sum;
     }
     // Each sum is the one before it, plus the column that enters, minus the one that leaves.
-    void running(uint32_t* sums, int count) {
+    ZMV_INLINE void running(uint32_t* sums, int count, const Reader reader, const Len done, const Len width) {
         int i = 0;
-        if (done_ == 0) sums[i++] = last_ = firstSum(0);
+        if (done == 0) sums[i++] = last_ = firstSum(0);
         auto last = fill(last_);
         for (; i < count; i += lanes<uint32_t>) {
-            const auto change = prefixSum(reader_.at(done_ + i + width_ - 1) - reader_.at(done_ + i - 1));
+            const auto change = prefixSum(reader.at(done + i + width - 1) - reader.at(done + i - 1));
             store(sums + i, last + change);
             last += spreadLast(change);
         }
         last_ = sums[count - 1];
     }
     // The same with a pixel in each vector, the last lane of three channels being nobody's.
-    void runningPixels(uint32_t* sums, int pixels) {
+    ZMV_INLINE void runningPixels(uint32_t* sums, int pixels, const Reader reader, const Len done, const Len width) {
         int i = 0;
-        if (done_ == 0) {
+        if (done == 0) {
             for (int c = 0; c < n; ++c) lastPixel_[c] = firstSum(c);
             store(sums, lastPixel_);
             i = 1;
         }
         auto last = lastPixel_;
         for (; i < pixels; ++i) {
-            const Len at = done_ + i * n;
-            last += reader_.fewAt(at + (width_ - 1) * n) - reader_.fewAt(at - n);
+            const Len at = done + i * n;
+            last += reader.fewAt(at + (width - 1) * n) - reader.fewAt(at - n);
             store(sums + i * n, last);
         }
         lastPixel_ = last;
@@ -131,27 +134,72 @@ class RowSums {
     uint32_t last_ = 0;
     Vec<uint32_t, 16> lastPixel_{};
 };
+// The same of windows too large for these.
+template <class Reader>
+class WideRowSums {
+  public:
+    using Sum = int64_t;
+    WideRowSums(Reader reader, Len windowWidth, int channels) : reader_(reader), width_(windowWidth), n_(channels) {
+        for (Len k = 0; k < (width_ - 1) * n_; ++k) running_[k % n_] += reader.one(k);
+    }
+    __attribute__((noinline)) void next(int64_t* sums, int pixels) {
+        for (int i = 0; i < pixels; ++i)
+            for (int c = 0; c < n_; ++c, ++done_) {
+                *sums++ = running_[c] += reader_.one(done_ + (width_ - 1) * n_);
+                running_[c] -= reader_.one(done_);
+            }
+    }
+
+  private:
+    Reader reader_;
+    Len width_;
+    int n_;
+    Len done_ = 0;
+    int64_t running_[4] = {};
+};
 
 // The largest magnitude that `terms` elements of T can sum to.
 template <class T>
-bool sumsFit(Len terms, int64_t limit) {
+constexpr bool sumsFit(Len terms, int64_t limit) {
     return terms <= limit / (int64_t(std::numeric_limits<T>::max()) + std::is_signed_v<T>);
 }
+// Calls run(A()) with the type of a window's column sums.
+template <class T, class Run>
+constexpr auto withColumnSums(Window window, Run run) {
+    if constexpr (sizeof(T) == 1)
+        if (sumsFit<T>(window.height, UINT16_MAX)) return run(uint16_t(0));
+    if (sumsFit<T>(window.height, INT32_MAX)) return run(int32_t(0));
+    return run(int64_t(0));
+}
+
+// The results follow the sums by two rows where there are three lines: a load that spans the stores of a moment ago
+// would wait for them.
+template <class A>
+constexpr int linesOf(Window window) {
+    return window.height > 1 && sizeof(A) < 8 ? 3 : 1;
+}
+template <class A, class T>
+struct LineMemory {
+    A* lines;
+    BandsMemory<T> bands;
+    constexpr LineMemory(Scratch& s, Roi roi, Window window, int n, BandsUse use)
+        : lines(s.take<A>((WideLen(roi.width) + window.width - 1) * n * linesOf<A>(window))),
+          bands(s, roi, window, n, use) {
+        s.take<uint8_t>(vectorBytes);  // lines are read beyond their end
+    }
+};
 
 // Moves the line of column sums, of type A, down the region; emit(y, line) makes row y of the results, where line is
 // the leftmost column of the row's first window.
-//
-// The results follow the sums by two rows where the buffer has room for three lines: a load that spans the stores of a
-// moment ago would wait for them.
 template <class A, class T, int n, class Emit>
 void eachLine(Bands<T, n>& bands, Roi roi, Window window, Scratch scratch, Emit emit) {
-    const int lines = window.height > 1 && sizeof(A) < 8 ? 3 : 1, delay = lines - 1;
+    const LineMemory<A, T> memory(scratch, roi, window, n, bands.use());
+    bands.workIn(memory.bands);
+    const int lines = linesOf<A>(window), delay = lines - 1;
     const Len length = (roi.width + window.width - 1) * n;
-    A* const memory = scratch.take<A>(length * lines);
-    bands.takeMemory(scratch);
     // The lines of the row at hand and of the ones before it: home[k] has row y - k, from the region's first column.
     A* home[3];
-    for (int k = 0; k < 3; ++k) home[k] = memory + k % lines * length + window.left * n;
+    for (int k = 0; k < 3; ++k) home[k] = memory.lines + k % lines * length + window.left * n;
     A constants[4];
     for (int c = 0; c < n; ++c) constants[c] = A(bands.value()[c] * A(window.height));
 

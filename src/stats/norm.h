@@ -63,7 +63,6 @@ double finished(double measure) {
 template <class Norm, class T>
 StatusCode ownpi_Norm(Image<const T> src, Roi roi, int channels, double* value, int hint = 0) {
     if (auto bad = firstOf({pointers(src.data, value), size(roi), steps(src.step)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const auto norm = measured<Norm, Magnitude>(roi, channels, hint, src);
     for (int c = 0; c < channels; ++c) put(value + c, finished<Norm>(norm[c]));
     return STATUS_OK;
@@ -77,7 +76,6 @@ template <class Norm, class T>
 StatusCode ownpi_NormDiff(Image<const T> src1, Image<const T> src2, Roi roi, int channels, double* value,
                           int hint = 0) {
     if (auto bad = checkedPair(src1, src2, roi, value)) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const auto norm = measured<Norm, Distance>(roi, channels, hint, src1, src2);
     for (int c = 0; c < channels; ++c) put(value + c, finished<Norm>(norm[c]));
     return STATUS_OK;
@@ -87,7 +85,6 @@ StatusCode ownpi_NormDiff(Image<const T> src1, Image<const T> src2, Roi roi, int
 template <class Norm, class T>
 StatusCode ownpi_NormRel(Image<const T> src1, Image<const T> src2, Roi roi, int channels, double* value, int hint = 0) {
     if (auto bad = checkedPair(src1, src2, roi, value)) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const auto distance = measured<Norm, Distance>(roi, channels, hint, src1, src2);
     const auto norm = measured<Norm, Magnitude>(roi, channels, hint, src2);
     constexpr double smallest = std::numeric_limits<double>::min();

@@ -36,7 +36,6 @@ StatusCode ownpi_CountInRange(Image<const T> src, Roi roi, Layout layout, int* c
     if (auto bad = firstOf({pointers(src.data, counts, low, high), steps(src.step), size(roi)})) return bad;
     for (int c = 0; c < layout.used(); ++c)
         if (!(get(low + c) <= get(high + c))) return STATUS_BAD_RANGE;  // NaN, too
-    const RoundingControl control(RoundingControl::toNearestEven);      // small numbers count as what they are
     const Pattern lows(bits(low), layout), highs(bits(high), layout);
     withChannels(layout.channels, [&](auto n) {
         OutOfRangeFold<n, T> fold(lows, highs);
@@ -53,6 +52,7 @@ StatusCode ownpi_CountInRange(Image<const T> src, Roi roi, Layout layout, int* c
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+// Small numbers count as what they are.
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "stats/minmax.def"
 COUNT_FAMILY

@@ -49,7 +49,6 @@ void write(uint8_t* spec, HistogramSpec header, LevelAt levelAt) {
 StatusCode ownpi_HistogramInit(int type, const float* const* levels, const int* counts, int channels, uint8_t* spec) {
     if (auto bad = firstOf({dataType(type), pointers(levels, counts, spec), channelCount(channels)})) return bad;
     if (auto bad = firstOf({planePointers(levels, channels), levelCounts(counts, channels)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
     const auto level = [&](int c, Len k) { return get(get(levels + c) + k); };
     const HistogramSpec header = headerFor(type, counts, channels);
     for (int c = 0; c < channels; ++c)
@@ -64,7 +63,6 @@ StatusCode ownpi_HistogramUniformInit(int type, const float* lower, const float*
     if (auto bad = firstOf({dataType(type), pointers(lower, upper, counts, spec), channelCount(channels)})) return bad;
     if (auto bad = levelCounts(counts, channels)) return bad;
     constexpr float most = std::numeric_limits<float>::max();
-    const RoundingControl control(RoundingControl::toNearestEven);
     HistogramSpec header = headerFor(type, counts, channels);
     header.uniform = 1;
     double from[4], to[4], steps[4];
@@ -87,7 +85,6 @@ StatusCode ownpi_HistogramGetLevels(const uint8_t* spec, float* const* levels) {
     const auto header = headerOf<HistogramSpec>(spec);
     if (auto bad = firstOf({pointers(spec, levels), tagged(header, STATUS_BAD_SPEC_TAG)})) return bad;
     if (auto bad = planePointers(levels, header.channels)) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     withLevelType(header.dataType, [&](auto zero) {
         for (int c = 0; c < header.channels; ++c) {
             const Levels<decltype(zero)> from(spec, c);
@@ -123,7 +120,6 @@ StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* binsOf, cons
         std::memset(bins[c], 0, sizeof(int) * size_t(header.levelCounts[c] - 1));
     }
 
-    const RoundingControl control(RoundingControl::toNearestEven);  // small numbers are not zero
     const Len pixels = roi.width * roi.height;
     // So many rows at a time that 32 bits count their pixels.
     const Len rows = std::max<Len>(1, INT32_MAX / roi.width);
@@ -147,7 +143,8 @@ StatusCode ownpi_Histogram(Image<const T> src, Roi roi, int* const* binsOf, cons
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+// Small levels differ, and small numbers are not zero.
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "stats/histogram.def"
 HISTOGRAM_SIZE_FAMILY
 HISTOGRAM_INIT_FAMILY

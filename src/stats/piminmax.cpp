@@ -21,7 +21,6 @@ PerChannel<T> extremes(Image<const T> src, Roi roi, int channels) {
 template <class Pick, class T>
 StatusCode ownpi_Extreme(Image<const T> src, Roi roi, Layout layout, T* extreme) {
     if (auto bad = firstOf({pointers(src.data, extreme), size(roi)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const auto all = extremes<Pick>(src, roi, layout.channels);
     for (int c = 0; c < layout.used(); ++c) put(extreme + c, all[c]);
     return STATUS_OK;
@@ -30,7 +29,6 @@ StatusCode ownpi_Extreme(Image<const T> src, Roi roi, Layout layout, T* extreme)
 template <class T>
 StatusCode ownpi_MinMax(Image<const T> src, Roi roi, Layout layout, T* least, T* most) {
     if (auto bad = firstOf({pointers(src.data, least, most), size(roi)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     withChannels(layout.channels, [&](auto n) {
         BothRanksFold<n, T> fold;
         foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
@@ -92,7 +90,6 @@ class FirstPlaces {
 template <class Pick, class T>
 StatusCode ownpi_Indx(Image<const T> src, Roi roi, Layout layout, T* extreme, int* indexX, int* indexY) {
     if (auto bad = firstOf({pointers(src.data, extreme, indexX, indexY), size(roi)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     auto all = extremes<Pick>(src, roi, layout.channels);
     FirstPlaces<T> places(layout, all);
     places.find(src, roi);
@@ -108,7 +105,6 @@ StatusCode ownpi_Every(Image<const T> src1, Image<const T> src2, Image<T> dst, R
             firstOf({pointers(src1.data, src2.data, dst.data), size(roi), steps(src1.step, src2.step, dst.step)}))
         return bad;
     const bool pastCache = dst.data != src2.data && regionPastCache(roi, layout, 3 * sizeof(T));
-    const RoundingControl control(RoundingControl::toNearestEven);
     pointwise([](Vec<T> a, Vec<T> b) { return Pick::of(b, a); }, dst, roi, layout, pastCache, src1, src2);
     return STATUS_OK;
 }
@@ -166,7 +162,6 @@ StatusCode ownpi_BlockMinMax(Image<const T> src, Image<T> least, Image<T> most, 
     if (auto bad = firstOf({pointers(src.data, least.data, most.data), size(roi), size(block),
                             steps(src.step, least.step, most.step)}))
         return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     BlockRow<T> row(block.width);
     for (Len y = 0; y < roi.height; y += block.height)
         row.run(src.at(0, y), roi.width, std::min(block.height, roi.height - y), least.row(y / block.height),
@@ -178,7 +173,7 @@ StatusCode ownpi_BlockMinMax(Image<const T> src, Image<T> least, Image<T> most, 
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "stats/minmax.def"
 EXTREME_FAMILY(Min, Smaller, pMin)
 EXTREME_FAMILY(Max, Larger, pMax)

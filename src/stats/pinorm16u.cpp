@@ -2,7 +2,7 @@
 #include "stats/norm.h"
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "stats/norm.def"
 NORM_TYPE(NORM_INTEGERS, 16u)
 NORM_TYPE(NORM_INTEGERS, 16s)

@@ -51,7 +51,6 @@ PerChannel<double> sums(Image<const float> src, Roi roi, int channels, int hint)
 template <class T>
 StatusCode ownpi_Sum(Image<const T> src, Roi roi, int channels, double* sum, int hint = 0) {
     if (auto bad = firstOf({pointers(src.data, sum), size(roi)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const auto all = sums(src, roi, channels, hint);
     for (int c = 0; c < channels; ++c) put(sum + c, all[c]);
     return STATUS_OK;
@@ -62,7 +61,6 @@ StatusCode ownpi_Mean(Image<const T> src, Roi roi, int channels, double* mean, i
     if (auto bad = pointers(mean)) return bad;
     double sum[4];
     if (auto bad = ownpi_Sum(src, roi, channels, sum, hint)) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     for (int c = 0; c < channels; ++c) put(mean + c, sum[c] / double(roi.width * roi.height));
     return STATUS_OK;
 }
@@ -71,7 +69,7 @@ StatusCode ownpi_Mean(Image<const T> src, Roi roi, int channels, double* mean, i
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "stats/norm.def"
 SUM_FAMILY(Sum, sum)
 SUM_FAMILY(Mean, mean)

@@ -25,6 +25,8 @@ rule "src/ allocates nothing, throws nothing, prints nothing" \
     "$(grep -rnE '\b(malloc|calloc|realloc|aligned_alloc|throw|printf|std::(vector|string|function|cout|cerr))\b' src)"
 rule "Areas do not include one another, nor kernels and core an area: what two share goes to src/kernels" "$(
     grep -rnE '#include "[a-z]+/' src/*/ | grep -vE '^src/([a-z]+)/[^:]*:[0-9]+:#include "(\1|core|kernels)/')"
+rule "Only src/kernels/rounding.h sets the control word" \
+    "$(grep -rnE 'RoundingControl [a-z]+[({]|mxcsr' src | grep -v '^src/kernels/rounding.h:')"
 rule "No mutable static data in src/" \
     "$(grep -rnE '\b(static|thread_local) ' src | grep -vE 'static (constexpr|const|inline|ZMV_INLINE|void|_*assert|auto|[A-Za-z_0-9:<>, ]+[&*]? [a-zA-Z_]+\()|static_assert')"
 # Whoever reads this has this folder and a Debian system, no more.

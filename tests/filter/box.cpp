@@ -101,13 +101,13 @@ void arrangeWindow(Case& c) {
     c.placeBuffer("buffer", c.bufferSize());
 }
 
-// The mean of an integer window: each step in single precision, as the contract has it.
+// The mean of an integer window, halves upward; of bytes each step in single precision, as the contract has it.
 template <class T>
 T mean(int64_t sum, int64_t area) {
+    if constexpr (sizeof(T) == 2) return T(std::floor((long double)(2 * sum + area) / (2 * area)));
     const float reciprocal = float(1.0L / area);
     const float product = float(sum) * reciprocal;
-    const float raised = product + 0.5f;
-    return T(std::is_signed_v<T> ? std::floor(raised) : std::trunc(raised));
+    return T(product + 0.5f);
 }
 template <class D>
 D sumOf(int64_t sum) {

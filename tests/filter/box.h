@@ -1,6 +1,8 @@
 // What the tests of the box filter, of window sums and of adaptive thresholds share.
 #pragma once
 
+#include <xmmintrin.h>
+
 #include <climits>
 #include <cmath>
 #include <iterator>
@@ -93,13 +95,19 @@ class SumJudge {
         magnitude_ += other.magnitude_;
         count_ += other.count_;
     }
+    // Under the control word in force.  Sums that are rounded down are nowhere above the exact ones.
     bool accepts(T result, long double scale) const {
         if (std::isnan(sum_)) return std::isnan(result);
         if (std::isinf(sum_)) return result == T(sum_);
-        constexpr long double unit = std::numeric_limits<T>::epsilon() / 2;
-        const long double slack =
-            ((long double)(count_ + 3) * unit * magnitude_) * scale + std::numeric_limits<T>::min();
-        return std::fabs(result - sum_ * scale) <= slack;
+        constexpr unsigned flushed = 0x8040;  // small numbers are taken, or written, as zero
+        const unsigned mode = _MM_GET_ROUNDING_MODE();
+        const long double unit = std::numeric_limits<T>::epsilon() / (mode == _MM_ROUND_NEAREST ? 2 : 1);
+        const long double tiny = std::numeric_limits<T>::min() * (_mm_getcsr() & flushed ? 2.0L * count_ : 1.0L);
+        const long double slack = ((long double)(count_ + 3) * unit * magnitude_) * scale + tiny;
+        const long double error = result - sum_ * scale, ours = tiny + magnitude_ * 0x1p-60L;
+        const bool wrongSide =
+            scale == 1 && ((mode == _MM_ROUND_DOWN && error > ours) || (mode == _MM_ROUND_UP && error < -ours));
+        return !wrongSide && std::fabs(error) <= slack;
     }
 
   private:

@@ -38,10 +38,7 @@ bool acceptsAnyStep(const Member& m) { return m.facts().steps == zmv::Steps::any
 
 bool acceptsNegativeSteps(const Member& m) { return acceptsAnyStep(m) || m.facts().steps == zmv::Steps::nonzero; }
 
-bool rounds(const Member& m) {
-    return m.facts().rounds == zmv::Rounds::always ||
-           (m.facts().rounds == zmv::Rounds::floats && isReal(m.destination));
-}
+bool rounds(const Member& m) { return m.facts().rounds == zmv::Rounds::floats && isReal(m.source); }
 
 Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
     : member(m),
