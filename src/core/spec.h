@@ -36,7 +36,7 @@ namespace zmv {
 
 // A length as it is formed: products of the largest arguments pass 64 bits.
 using WideLen = __int128;
-constexpr WideLen roundUp(WideLen n, Len unit) { return (n + unit - 1) / unit * unit; }
+constexpr WideLen roundUp(WideLen n, Len powerOfTwo) { return (n + powerOfTwo - 1) & -WideLen(powerOfTwo); }
 
 // Whether a query can report so many bytes: an int may not hold them, the 64 bits of _L forms hardly ever do not.
 template <class Int>

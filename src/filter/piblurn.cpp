@@ -40,11 +40,26 @@ struct Reciprocal {
         constexpr uint64_t most = std::numeric_limits<U>::max();
         if (largest > most) return;
         for (int n : {0, int(std::bit_width(divisor)) - 1}) {  // the quickest, and the finest
-            const Wide one = Wide(1) << (8 * sizeof(U) + size_t(n)), up = (one + divisor - 1) / divisor;
+            if (uint64_t(1) << n >= divisor) continue;
+            const Wide one = Wide(1) << (8 * sizeof(U) + size_t(n)), up = roundedUp(one, divisor);
             if (up > most || (up * divisor - one) * largest >= one) continue;
             factor = U(up), shift = n;
             return;
         }
+    }
+
+  private:
+    static uint64_t roundedUp(uint64_t dividend, uint64_t divisor) { return (dividend + divisor - 1) / divisor; }
+    // Of 2^64 * n, n below the divisor: bit by bit, as the processor would need the compiler's library for more.
+    static unsigned __int128 roundedUp(unsigned __int128 dividend, uint64_t divisor) {
+        auto rest = uint64_t(dividend >> 64);
+        uint64_t quotient = 0;
+        for (int bit = 0; bit < 64; ++bit) {
+            const bool carry = rest >> 63;
+            rest <<= 1, quotient <<= 1;
+            if (carry || rest >= divisor) rest -= divisor, ++quotient;
+        }
+        return (unsigned __int128)(quotient) + (rest != 0);
     }
 };
 
