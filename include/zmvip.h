@@ -600,10 +600,10 @@ ZMV_API StatusCode zmviFilterBoxBorderGetBufferSize(ImageSize roiSize, ImageSize
    outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
    channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
    AC4 leaves the fourth channel as it was.
-   Integers: the exact sum times 1 / area plus 0.5, each step rounded to single precision, then cut down to an integer
-   (16s: rounded down).  32f: the sum of the window, formed in one order for every window of that mask size, times 1 /
-   area, under the caller's rounding mode; tiles agree with the whole to the bit, and a NaN reaches only windows that
-   contain it.
+   16u, 16s: the exact mean, rounded to nearest, halves upward.  8u: the exact sum times 1 / area plus 0.5, each step
+   rounded to single precision, then cut down to an integer.  32f: the sum of the window, formed in one order for every
+   window of that mask size, times 1 / area, under the caller's rounding mode; tiles agree with the whole to the bit,
+   and a NaN reaches only windows that contain it.
    In place: src == dst with equal steps; other overlap is undefined.
    buffer has the size that zmviFilterBoxBorderGetBufferSize reports, at any alignment.
    Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_STEP: a step is not positive.
