@@ -5,7 +5,7 @@
 
 #include "kernels/count.h"
 #include "kernels/scratch.h"
-#include "kernels/simd_convert.h"
+#include "stats/intervals.h"
 #include "stats/levels.h"
 
 namespace zmv {
@@ -26,49 +26,6 @@ inline Len histogramBufferSize(int type, int channels, Len pixels, Len levels) {
     return std::max(Scratch::bytesOf<uint32_t>(levels + channels),
                     Scratch::bytesOf<ValueCounts>(byValue ? channels : 0));
 }
-
-// Finds the bin of a value.
-template <class L>
-class BinFinder {
-  public:
-    // pixels: how many values are to come.
-    BinFinder(Levels<L> levels, Len pixels) : levels_(levels), last_(levels.count - 1) {
-        if (pixels < levels.count) return;
-        // On the line from the first level to the last, evenly spaced levels lie close to whole numbers.  When each is
-        // nearest to its own, a value between two of them is nearest to one of the two: the line never falls.
-        from_ = double(levels[0]), perLevel_ = last_ / (double(levels[levels.count - 1]) - from_);
-        evenly_ = true;
-        for (int k = 0; k < levels.count && evenly_; ++k) evenly_ = nearest(levels[k]) == k;
-    }
-    // How many levels do not exceed the value: k + 1 in bin k, 0 below all bins and of NaN, all levels above the bins.
-    int levelsUpTo(L value) const {
-        if (evenly_) {
-            const int k = nearest(value);
-            return k + (value >= levels_[k]);
-        }
-        int from = 0;
-        for (int left = levels_.count; left > 1;) {
-            const int half = left / 2;
-            if (value >= levels_[from + half - 1]) from += half;
-            left -= half;
-        }
-        return from + (value >= levels_[from]);
-    }
-
-  private:
-    // The level that the line has nearest to the value; NaN, also that of a line that is none, counts as the first.
-    // A vector's choice is no branch: on which side of the levels a pixel lies nobody can foretell.
-    int nearest(L value) const {
-        using V = Vec<double, 16>;
-        const auto place = fill<double, 16>((double(value) - from_) * perLevel_);
-        const V inside = smaller(larger(place, V{}), fill<double, 16>(last_));
-        return int(inside[0] + 0.5);
-    }
-
-    Levels<L> levels_;
-    double from_ = 0, perLevel_ = 0, last_;
-    bool evenly_ = false;
-};
 
 inline void raise(int* bin, uint64_t count) {
     put(bin, int(std::min<uint64_t>(uint64_t(get(bin)) + count, INT32_MAX)));
@@ -122,7 +79,7 @@ template <int n, class T>
 void countBins(int* const* bins, Image<const T> src, Roi roi, const uint8_t* spec, Scratch scratch) {
     using L = LevelOf<T>;
     struct Channel {
-        BinFinder<L> finder;
+        IntervalFinder<Levels<L>> finder;
         Len slots;
         uint32_t* counts;
     };
@@ -131,7 +88,9 @@ void countBins(int* const* bins, Image<const T> src, Roi roi, const uint8_t* spe
         const Len slots = Len(levels.count) + 1;
         auto* const counts = scratch.take<uint32_t, alignof(uint32_t)>(slots);
         std::fill(counts, counts + slots, 0);
-        return Channel{BinFinder<L>(levels, roi.width * roi.height), slots, counts};
+        // Of fewer pixels than levels it does not pay to look whether these are even.
+        const bool looks = roi.width * roi.height >= levels.count;
+        return Channel{{levels, looks ? lineThrough(levels) : LevelLine()}, slots, counts};
     };
     const auto each = [&]<int... c>(std::integer_sequence<int, c...>) { return std::array<Channel, n>{channel(c)...}; };
     const auto channels = each(std::make_integer_sequence<int, n>{});
