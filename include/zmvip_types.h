@@ -92,6 +92,9 @@ typedef struct Complex32f {
 /* Element types as arguments of size queries. */
 enum { DATATYPE_8U = 1, DATATYPE_16U = 5, DATATYPE_16S = 7, DATATYPE_32F = 13, DATATYPE_64F = 19 };
 
+/* How a resized image takes its pixels from the source's. */
+enum { INTERP_NEAREST = 1, INTERP_LINEAR = 2, INTERP_CUBIC = 6, INTERP_SUPER = 8, INTERP_LANCZOS = 16 };
+
 /* How a real number becomes an integer.  The financial mode adds one half, then cuts down: zmviDiv_Round to the integer
    below, zmviConvert toward zero. */
 enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };

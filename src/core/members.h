@@ -6,6 +6,7 @@
 #define ELEM_8s int8_t
 #define ELEM_16u uint16_t
 #define ELEM_16s int16_t
+#define ELEM_24u uint8_t  // three of them
 #define ELEM_32u uint32_t
 #define ELEM_32s int32_t
 #define ELEM_32f float

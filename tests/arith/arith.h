@@ -1,6 +1,8 @@
 // What the tests of all arithmetic share: operands, scale factors, and rounding by exact integers.
 #pragma once
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "harness/case.h"
@@ -26,6 +28,14 @@ T ratio(Wide num, Wide den, int64_t factor, int mode = ROUND_NEAR) {
     const Wide above = floorOver(2 * num + den, 2 * den);
     const bool tie = 2 * (above * den - num) == den;
     return saturated<T>(above - (mode == ROUND_NEAR && tie && above % 2 != 0));
+}
+
+// The nearest integer to x * 2^-factor, saturated.
+template <class T>
+T nearest(long double x, int64_t factor = 0) {
+    using Limits = std::numeric_limits<T>;
+    x = std::nearbyint(std::ldexp(x, int(std::clamp<int64_t>(-factor, -40000, 40000))));
+    return x != x ? T(0) : x <= Limits::min() ? Limits::min() : x >= Limits::max() ? Limits::max() : T(x);
 }
 
 // Calls f(x, y, k) for every element that takes part.

@@ -51,13 +51,6 @@ void divide(Case& c) {
     });
 }
 
-// The nearest integer to x * 2^-factor, saturated.
-template <class T>
-T nearest(long double x, int64_t factor) {
-    using Limits = std::numeric_limits<T>;
-    x = std::nearbyint(std::ldexp(x, int(std::clamp<int64_t>(-factor, -40000, 40000))));
-    return x != x ? T(0) : x <= Limits::min() ? Limits::min() : x >= Limits::max() ? Limits::max() : T(x);
-}
 // e^x * 2^-factor, the powers of two taken together: either may lie beyond the range.
 template <class T>
 T nearestExp(long double x, int64_t factor) {

@@ -1,0 +1,120 @@
+// The walkers of tables: each element of the result is the entry that an element of the source chooses in the table of
+// its channel.
+#pragma once
+
+#include "kernels/pointwise.h"
+#include "kernels/simd_lookup.h"
+
+namespace zmv {
+
+// A load an element.
+template <int n, class Entry, class Index>
+void lookUpByLoads(const Entry* const* tables, const Index* src, Entry* dst, Len count) {
+    constexpr int block = n == 3 ? 6 : 8;
+    Len x = 0;
+    for (; count - x >= block; x += block)
+        unrolled<block>([&](auto k) { put(dst + x + k, get(tables[k % n] + get(src + x + k))); });
+    for (; x < count; ++x) put(dst + x, get(tables[x % n] + get(src + x)));
+}
+
+// In n vectors of pixels every place of a vector holds another channel in each: of three channels as they lie, since no
+// vector is a multiple of three bytes long, of four when vector k has each pixel turned round by k bytes.
+template <class V, int turn>
+struct PixelTurned {
+    static constexpr int at(int i) { return i / 4 * 4 + (i + turn) % 4; }
+};
+template <int turn, class V>
+ZMV_INLINE V pixelsTurned(V v) {
+    return permute<PixelTurned<V, turn>>(v, v);
+}
+// Where vector v holds the channel.
+template <int n, int v, int channel>
+struct HoldsChannel {
+    static constexpr bool at(int i) { return (n == 3 ? (v * vectorBytes + i) % 3 : (v + i) % 4) == channel; }
+};
+// Vector c takes each byte from the vector that has it in channel c, where the other way round is the same.
+template <int n, bool back, class V>
+ZMV_INLINE Block<V, n> channelsChanged(const Block<V, n>& block) {
+    Block<V, n> result;
+    unrolled<n>([&](auto to) {
+        result[to] = block[0];
+        unrolled<n>([&](auto from) {
+            using Holds = HoldsChannel<n, back ? to : from, back ? from : to>;
+            if constexpr (from > 0) result[to] = select(maskWhere<Holds, V>(), block[from], result[to]);
+        });
+    });
+    return result;
+}
+
+// `used` of n channels, each through its table; the others are left as they are in the source.
+template <int n, class Table>
+class BytesThrough {
+  public:
+    BytesThrough(const uint8_t* const* tables, int used)
+        : BytesThrough(tables, used, std::make_integer_sequence<int, n>{}) {}
+    ZMV_INLINE void block(const uint8_t* src, uint8_t* dst) const {
+        Block<V, n> pixels;
+        unrolled<n>([&](auto k) {
+            pixels[k] = load(src + k * vectorBytes);
+            if constexpr (n == 4) pixels[k] = pixelsTurned<k>(pixels[k]);
+        });
+        auto channels = channelsChanged<n, false>(pixels);
+        unrolled<n>([&](auto c) { channels[c] = tables_[c].at(channels[c]); });
+        pixels = channelsChanged<n, true>(channels);
+        unrolled<n>([&](auto k) {
+            if constexpr (n == 4) pixels[k] = pixelsTurned<(4 - k) % 4>(pixels[k]);
+            store(dst + k * vectorBytes, pixels[k]);
+        });
+    }
+    void row(const uint8_t* src, uint8_t* dst, Len count) const {
+        constexpr Len whole = n * vectorBytes;
+        for (; count >= whole; count -= whole, src += whole, dst += whole) block(src, dst);
+        if (count == 0) return;
+        uint8_t rest[whole] = {};
+        std::memcpy(rest, src, size_t(count));
+        block(rest, rest);
+        std::memcpy(dst, rest, size_t(count));
+    }
+
+  private:
+    using V = Vec<uint8_t>;
+    template <int... c>
+    BytesThrough(const uint8_t* const* tables, int used, std::integer_sequence<int, c...>)
+        : tables_{Table(tables[c < used ? c : 0])...} {}
+    Table tables_[n];
+};
+
+// dst = tables[channel][src]: tables of 256 bytes each, in which the first 16 repeat when they are short.
+template <int n>
+void lookUpBytes(Image<const uint8_t> src, Image<uint8_t> dst, Roi roi, Layout layout, bool pastCache,
+                 const uint8_t* const* tables, bool areShort) {
+    roi = joinOperands(roi, layout, dst, src);
+    const auto eachWith = [&](const auto& row) {
+        eachRow(dst, roi, layout, pastCache,
+                [&](uint8_t* to, Len y, Len x, Len count) { row(src.row(y) + x, to, count); });
+    };
+    constexpr Len vectorsPay = 256;  // bytes; below, making a table ready costs more than it saves
+    if constexpr (hasByteShuffle) {
+        const auto inVectors = [&]<class Table>(std::type_identity<Table>) {
+            const BytesThrough<n, Table> through(tables, layout.used());
+            eachWith([&](const uint8_t* from, uint8_t* to, Len count) { through.row(from, to, count); });
+        };
+        if (areShort) return inVectors(std::type_identity<ShortTable>{});
+        if (roi.width * roi.height * n >= vectorsPay) return inVectors(std::type_identity<ByteTable>{});
+    }
+    const uint8_t* const each[4] = {tables[0], tables[n > 1 ? 1 : 0], tables[n > 1 ? 2 : 0],
+                                    tables[layout.used() == 4 ? 3 : 0]};
+    eachWith([&](const uint8_t* from, uint8_t* to, Len count) { lookUpByLoads<n>(each, from, to, count); });
+}
+
+// The same for elements of any width, from tables that have an entry for every index.
+template <int n, class Entry, class Index>
+void lookUpEntries(Image<const Index> src, Image<Entry> dst, Roi roi, Layout layout, bool pastCache,
+                   const Entry* const* tables) {
+    const Entry* const each[4] = {tables[0], tables[n > 1 ? 1 : 0], tables[n > 1 ? 2 : 0],
+                                  tables[layout.used() == 4 ? 3 : 0]};
+    eachRow(dst, joinOperands(roi, layout, dst, src), layout, pastCache,
+            [&](Entry* to, Len y, Len x, Len count) { lookUpByLoads<n>(each, src.row(y) + x, to, count); });
+}
+
+}  // namespace zmv

@@ -1,0 +1,173 @@
+// zmviLUT: pixels through a curve that is given by levels and the values at them.
+#include "kernels/lookup.h"
+#include "stats/curve.h"
+
+namespace zmv {
+namespace {
+
+StatusCode interpolations(int code) {
+    return refuse(code != INTERP_NEAREST && code != INTERP_LINEAR && code != INTERP_CUBIC, STATUS_BAD_INTERPOLATION);
+}
+StatusCode levelCounts(const int* counts, int channels) {
+    for (int c = 0; c < channels; ++c)
+        if (get(counts + c) < 2) return STATUS_BAD_LEVEL_COUNT;
+    return STATUS_OK;
+}
+
+struct LutSpec {
+    static constexpr uint32_t itsTag = 0x2054554c;
+    uint32_t tag;
+    int32_t dataType, channels, interpolation;
+    bool isFor(int type, int channelCount) const {
+        return tag == itsTag && dataType == type && channels == channelCount;
+    }
+};
+// What is behind the header: of integers a table of all values a channel, of floats the curve.
+template <class T>
+struct TableParts : SpecParts {
+    Table<Bits<T>> tables;
+    static constexpr Len entries = Len(1) << (8 * sizeof(T));
+    explicit TableParts(int channels) : SpecParts(sizeof(LutSpec)), tables(table<Bits<T>>(channels * entries, 64)) {}
+};
+struct CurveParts : SpecParts {
+    struct Channel {
+        LevelLine line;
+        int64_t count;
+    };
+    Table<Channel> channels;
+    Table<Piece> pieces;  // one for each level
+    Table<float> levels;
+    CurveParts(int channelCount, WideLen levelCount)
+        : SpecParts(sizeof(LutSpec)),
+          channels(table<Channel>(channelCount, 8)),
+          pieces(table<Piece>(levelCount, 64)),
+          levels(table<float>(levelCount)) {}
+};
+WideLen levelsOf(const int* counts, int channels) {
+    WideLen sum = 0;
+    for (int c = 0; c < channels; ++c) sum += get(counts + c);
+    return sum;
+}
+
+StatusCode ownpi_LUTGetSize(int interpolation, int type, int channels, const int* counts, int* specSize) {
+    if (auto bad = firstOf(
+            {pointers(counts, specSize), interpolations(interpolation), dataType(type), channelCount(channels)}))
+        return bad;
+    if (auto bad = levelCounts(counts, channels)) return bad;
+    const WideLen bytes = type == DATATYPE_32F  ? CurveParts(channels, levelsOf(counts, channels)).blockBytes()
+                          : type == DATATYPE_8U ? TableParts<uint8_t>(channels).blockBytes()
+                                                : TableParts<uint16_t>(channels).blockBytes();
+    if (auto bad = fits<int>(bytes)) return bad;
+    put(specSize, int(bytes));
+    return STATUS_OK;
+}
+
+template <class T>
+constexpr int codeOf = std::is_same_v<T, uint8_t>    ? DATATYPE_8U
+                       : std::is_same_v<T, uint16_t> ? DATATYPE_16U
+                       : std::is_same_v<T, int16_t>  ? DATATYPE_16S
+                                                     : DATATYPE_32F;
+
+void keepCurve(uint8_t* object, int interpolation, const Curve<float>* curves, const int* counts, int channels) {
+    const CurveParts parts(channels, levelsOf(counts, channels));
+    Piece* pieces = parts.pieces.in(object);
+    float* levels = parts.levels.in(object);
+    for (int c = 0; c < channels; ++c) {
+        const Curve<float>& curve = curves[c];
+        parts.channels.in(object)[c] = {lineThrough(curve.levels), curve.levels.count};
+        for (int k = 0; k < curve.levels.count; ++k)
+            *pieces++ = curve.piece(k, interpolation), *levels++ = curve.levels[k];
+    }
+}
+
+template <class T, class L>
+StatusCode ownpi_LUTInit(int interpolation, const L* const* levels, const L* const* values, const int* counts,
+                         int channels, uint8_t* spec) {
+    if (auto bad =
+            firstOf({pointers(levels, values, counts, spec), interpolations(interpolation), channelCount(channels)}))
+        return bad;
+    if (auto bad =
+            firstOf({planePointers(levels, channels), planePointers(values, channels), levelCounts(counts, channels)}))
+        return bad;
+    const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
+    Curve<L> curves[4];
+    for (int c = 0; c < channels; ++c) {
+        curves[c] = {{levels[c], get(counts + c)}, {values[c], get(counts + c)}};
+        if (!curves[c].rises()) return STATUS_BAD_RANGE;
+    }
+    uint8_t* const object = objectIn(spec);
+    store(object, LutSpec{LutSpec::itsTag, codeOf<T>, channels, interpolation});
+    if constexpr (std::is_same_v<L, float>) {
+        keepCurve(object, interpolation, curves, counts, channels);
+    } else {
+        using Parts = TableParts<T>;
+        Bits<T>* const tables = Parts(channels).tables.in(object);
+        for (int c = 0; c < channels; ++c) tabulate<T>(curves[c], interpolation, tables + c * Parts::entries);
+    }
+    return STATUS_OK;
+}
+
+// The interpolation is a constant in here, so that it costs nothing a pixel.
+template <int interpolation>
+void alongCurve(Image<const float> src, Image<float> dst, Roi roi, int pixel, const LevelArray<float>& levels,
+                const LevelLine& line, const Piece* pieces) {
+    const IntervalFinder finder(levels, line);
+    const float first = levels[0], last = levels[levels.count - 1], below = float(pieces[0].value);
+    for (Len y = 0; y < roi.height; ++y) {
+        const float* const from = src.row(y);
+        float* const to = dst.row(y);
+        for (Len x = 0; x < roi.width * pixel; x += pixel) {
+            const float v = get(from + x), low = v > first ? v : first, inside = low < last ? low : last;
+            const int k = finder.levelsUpTo(inside) - 1;
+            const auto result = float(pieces[k].template at<interpolation>(inside, levels[k]));
+            put(to + x, v < first ? below : v == v ? result : v);
+        }
+    }
+}
+
+template <Layout layout, class T>
+StatusCode ownpi_LUT(Image<const T> src, Image<T> dst, Roi roi, const uint8_t* spec) {
+    constexpr int n = layout.channels, used = layout.used();
+    if (auto bad = firstOf({pointers(src.data, dst.data, spec), size(roi), steps(src.step, dst.step)})) return bad;
+    const uint8_t* const object = objectIn(spec);
+    const auto header = headerOf<LutSpec>(object);
+    if (!header.isFor(codeOf<T>, used)) return STATUS_CONTEXT_MISMATCH;
+    if constexpr (std::is_same_v<T, float>) {
+        const RoundingControl control(RoundingControl::toNearestEven);
+        roi = joinOperands(roi, layout, dst, src);
+        const auto* const channels = CurveParts(used, 0).channels.in(object);
+        WideLen all = 0, before = 0;
+        for (int c = 0; c < used; ++c) all += channels[c].count;
+        const CurveParts parts(used, all);
+        for (int c = 0; c < used; before += channels[c++].count) {
+            const auto [line, count] = channels[c];
+            const LevelArray<float> levels{parts.levels.in(object) + Len(before), int(count)};
+            const auto run = header.interpolation == INTERP_NEAREST  ? alongCurve<INTERP_NEAREST>
+                             : header.interpolation == INTERP_LINEAR ? alongCurve<INTERP_LINEAR>
+                                                                     : alongCurve<INTERP_CUBIC>;
+            run(src.at(c, 0), dst.at(c, 0), roi, n, levels, line, parts.pieces.in(object) + Len(before));
+        }
+    } else {
+        using Parts = TableParts<T>;
+        const auto* const tables = Parts(used).tables.in(object);
+        const Bits<T>* each[4];
+        for (int c = 0; c < used; ++c) each[c] = tables + c * Parts::entries;
+        const Image<const Bits<T>> from = bits(src.data, src.step);
+        const bool past = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
+        if constexpr (sizeof(T) == 1)
+            lookUpBytes<n>(from, dst, roi, layout, past, each, false);
+        else
+            lookUpEntries<n>(from, bits(dst.data, dst.step), roi, layout, past, each);
+    }
+    return STATUS_OK;
+}
+
+}  // namespace
+}  // namespace zmv
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE
+#include "stats/lut.def"
+LUT_SIZE_FAMILY
+LUT_INIT_FAMILY
+LUT_FAMILY

@@ -1,0 +1,334 @@
+// zmviLUT and what makes its spec object: the rules spelled out in 128-bit integers and in double precision.
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <climits>
+
+#include "arith/arith.h"
+
+namespace {
+
+using namespace test;
+
+struct Curves {
+    int code = 0, interpolation = 0, channels = 0;
+    bool real = false;
+    std::vector<double> levels[4], values[4];  // a double holds both kinds of them
+};
+Curves arranged;  // for the oracle of the same case
+
+double number(Rng& rng, const Curves& of, int range, double scale) {
+    if (!of.real && rng.oneIn(8)) return rng.oneIn(2) ? INT_MIN : INT_MAX;
+    const double x = rng.between(-range / 3, range + range / 3);
+    return of.real ? float((x + rng.below(64) / 64.0) * scale) : x;
+}
+// Levels in and round the type, evenly spaced or not, two of them or many; floats of every magnitude.
+Curves anyCurves(Rng& rng, Element element, int channels) {
+    static const std::map<Element, int> codes = {{Element::u8, DATATYPE_8U},
+                                                 {Element::u16, DATATYPE_16U},
+                                                 {Element::s16, DATATYPE_16S},
+                                                 {Element::f32, DATATYPE_32F}};
+    static const int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
+    Curves curves{codes.at(element), interpolations[rng.below(3)], channels, element == Element::f32, {}, {}};
+    for (int c = 0; c < channels; ++c) {
+        const int n = rng.oneIn(4) ? 2 : rng.between(3, rng.oneIn(3) ? 300 : 9),
+                  range = bytesOf(element) == 1 ? 255 : 65535;
+        const double scale = std::ldexp(1, curves.real && rng.oneIn(3) ? rng.between(-149, 105) : 0);
+        std::vector<double>& levels = curves.levels[c];
+        const double apart = range / n * scale, from = number(rng, curves, range, scale);
+        const bool even = from != INT_MAX && rng.oneIn(3);
+        for (int k = 0; k < n; ++k)
+            levels.push_back(even ? std::min(from + k * apart, double(FLT_MAX)) : number(rng, curves, range, scale));
+        if (curves.real)
+            for (double& level : levels) level = float(level);
+        std::sort(levels.begin(), levels.end());
+        levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
+        if (levels.size() < 2) levels = {-3, 60};
+        while (curves.values[c].size() < levels.size())
+            curves.values[c].push_back(number(rng, curves, range, rng.oneIn(8) ? 0x1p100 : 1));
+    }
+    return curves;
+}
+
+// What the functions take: arrays of numbers.
+template <class L>
+struct Arrays {
+    std::vector<L> numbers[8];
+    const L* pointers[8];
+    int counts[4] = {};
+    explicit Arrays(const Curves& curves) {
+        for (int i = 0; i < 8; ++i) {
+            const auto& from = i < 4 ? curves.levels[i] : curves.values[i - 4];
+            for (const double x : from) numbers[i].push_back(L(x));
+            pointers[i] = numbers[i].data();
+            counts[i % 4] = int(from.size());
+        }
+    }
+};
+int sizeOf(const Curves& curves) {
+    using F = StatusCode(int, int, int, const int*, int*);
+    int size = 0;
+    EXPECT_EQ(reinterpret_cast<F*>(underTest().find("zmviLUT_GetSize"))(
+                  curves.interpolation, curves.code, curves.channels, Arrays<double>(curves).counts, &size),
+              STATUS_OK);
+    return size;
+}
+std::string typeName(const Curves& curves) {
+    return curves.code == DATATYPE_8U    ? "8u"
+           : curves.code == DATATYPE_16U ? "16u"
+           : curves.code == DATATYPE_16S ? "16s"
+                                         : "32f";
+}
+template <class L>
+void initAs(const Curves& curves, uint8_t* spec) {
+    using F = StatusCode(int, const L* const*, const L* const*, const int*, int, uint8_t*);
+    const Arrays<L> arrays(curves);
+    const auto init = reinterpret_cast<F*>(underTest().find("zmviLUT_Init_" + typeName(curves)));
+    ASSERT_EQ(init(curves.interpolation, arrays.pointers, arrays.pointers + 4, arrays.counts, curves.channels, spec),
+              STATUS_OK);
+}
+void init(const Curves& curves, uint8_t* spec) {
+    curves.real ? initAs<float>(curves, spec) : initAs<int32_t>(curves, spec);
+}
+
+double slope(const std::vector<double>& l, const std::vector<double>& y, size_t k) {
+    const size_t last = l.size() - 1;
+    const auto h = [&](size_t i) { return l[i + 1] - l[i]; };
+    const auto s = [&](size_t i) { return (y[i + 1] - y[i]) / h(i); };
+    if (last == 1) return s(0);
+    const auto inner = [&](size_t i) { return (h(i) * s(i - 1) + h(i - 1) * s(i)) / (h(i - 1) + h(i)); };
+    return k == 0 ? 2 * s(0) - inner(1) : k == last ? 2 * s(last - 1) - inner(last - 1) : inner(k);
+}
+template <class T>
+T lookedUp(T v, const std::vector<double>& l, const std::vector<double>& y) {
+    const auto finished = [](double x) {
+        if constexpr (std::is_floating_point_v<T>)
+            return T(x);
+        else
+            return nearest<T>(x);
+    };
+    if (v != v) return v;
+    if (v < l[0]) return finished(y[0]);
+    if (v >= l.back()) return finished(y.back());
+    const size_t k = size_t(std::upper_bound(l.begin(), l.end(), double(v)) - l.begin()) - 1;
+    const double h = l[k + 1] - l[k], rise = y[k + 1] - y[k], d = v - l[k], s = rise / h;
+    if (arranged.interpolation == INTERP_NEAREST) return finished(v > (l[k] + l[k + 1]) / 2 ? y[k + 1] : y[k]);
+    if (arranged.interpolation == INTERP_LINEAR) {
+        if constexpr (std::is_integral_v<T>) return ratio<T>(Wide(y[k]) * Wide(h) + Wide(d) * Wide(rise), Wide(h), 0);
+        return finished(y[k] + d * s);
+    }
+    const double m0 = slope(l, y, k), m1 = slope(l, y, k + 1);
+    const double a = (3 * s - 2 * m0 - m1) / h, b = (m0 + m1 - 2 * s) / h / h;
+    return finished(y[k] + d * (m0 + d * (a + d * b)));
+}
+
+// Pixels on levels, beside them, and in the middle of two.
+template <class T>
+void choosePixels(Case& c, const Image& src) {
+    for (int64_t y = 0; y < c.height; ++y)
+        for (int64_t x = 0; x < c.width; ++x)
+            for (int k = 0; k < c.member.to.used(); ++k) {
+                const std::vector<double>& levels = arranged.levels[k];
+                const size_t i = size_t(c.rng.below(int(levels.size()) - 1));
+                const double at = c.rng.oneIn(2) ? levels[i + size_t(c.rng.below(2))] : (levels[i] + levels[i + 1]) / 2;
+                const int beside = c.rng.between(-1, 1);
+                if constexpr (std::is_integral_v<T>) {
+                    if (c.rng.oneIn(2)) c.set(src, x, y, k, saturated<T>(Wide(std::floor(at)) + beside));
+                } else if (c.rng.oneIn(30)) {
+                    c.set(src, x, y, k, T(beside ? beside * INFINITY : NAN));
+                } else if (c.rng.oneIn(2)) {
+                    c.set(src, x, y, k, beside ? std::nextafter(T(at), T(beside * INFINITY)) : T(at));
+                } else {
+                    c.set(src, x, y, k, T(levels[0] + (levels.back() - levels[0]) * c.rng.below(1 << 20) * 0x1p-20));
+                }
+            }
+}
+
+// Some cases have their curves in common: tables of 16 bits take their time.
+void arrangeLut(Case& c) {
+    const std::string only = c.has("src") ? "src" : "srcDst";
+    const bool otherType = c.mode == Mode::usual && c.rng.oneIn(20),
+               otherCount = c.mode == Mode::usual && c.rng.oneIn(20);
+    const uint64_t which = c.seed / 8 * 4 + uint64_t(otherType) * 2 + uint64_t(otherCount);
+    Rng rng(which);
+    const Element type = !otherType ? c.member.source : c.member.source == Element::u16 ? Element::s16 : Element::u16;
+    const int used = c.member.to.used();
+    arranged = anyCurves(rng, type, !otherCount ? used : used == 3 ? 4 : 3);
+    if (otherType || otherCount) c.expected = STATUS_CONTEXT_MISMATCH;
+    const Image& src = c.place(only, c.width, c.height);
+    withElement(src.element, [&](auto zero) {
+        if (c.expected == STATUS_OK) choosePixels<decltype(zero)>(c, src);
+    });
+    if (c.has("dst")) c.place("dst", c.width, c.height);
+    if (c.has("dst") && c.rng.oneIn(4)) c.alias("dst", "src");
+    c.arg("roiSize") = {c.width, c.height};
+
+    static std::vector<uint8_t> made;
+    static std::pair<uint64_t, const Member*> madeFor;
+    const int size = sizeOf(arranged);
+    if (const std::pair<uint64_t, const Member*> now{which, &c.member}; now != madeFor) {
+        made.assign(size_t(size) + 64, 0);
+        init(arranged, made.data() + -reinterpret_cast<uintptr_t>(made.data()) % 64);
+        made.erase(made.begin(), made.begin() + int64_t(-reinterpret_cast<uintptr_t>(made.data()) % 64));
+        madeFor = now;
+    }
+    const Image& spec = c.place("pSpec", size, 1, {c.rng.below(64), c.rng.oneIn(2) ? 0 : c.rng.below(20), 0, 0});
+    const int64_t start = int64_t(-reinterpret_cast<uintptr_t>(spec.pointer[0]) % 64);
+    for (int64_t i = start; i < size; ++i) c.set(spec, i, 0, 0, made[size_t(i - start)]);
+}
+void lookUp(Case& c) {
+    if (c.expected < 0) return;
+    withElement(c.member.source, [&](auto zero) {
+        using T = decltype(zero);
+        eachElement(c, [&](int64_t x, int64_t y, int k) {
+            const T v = c.get<T>(c.image(onlySource(c)), x, y, k);
+            if (v == v)
+                c.set(c.image(overwritten(c)), x, y, k, lookedUp(v, arranged.levels[k], arranged.values[k]));
+            else
+                c.set(c.image(overwritten(c)), x, y, k, v);
+        });
+    });
+}
+
+const Check badInterpolation = values("interpolation", STATUS_BAD_INTERPOLATION, {0, 3, 4, 8, 16, -1, INT_MIN});
+const Check badChannels = values("numChannels", STATUS_BAD_CHANNELS, {0, 2, 5, -1, INT_MIN});
+const Check fewLevels{STATUS_BAD_LEVEL_COUNT, {{"nLevels", Break::channel, 0}}};
+Check missing(std::vector<std::string> names, Break::Part part) {
+    Check check{STATUS_NULL_POINTER, {}};
+    for (const std::string& name : names)
+        for (const int64_t k : {0, 1, 2, 3})
+            if (part == Break::plane || k == 0) check.breaks.push_back({name, part, k});
+    return check;
+}
+
+void arrangeInit(Case& c) {
+    const int counts[] = {1, 3, 4}, channels = c.mode == Mode::controls ? 4 : counts[c.rng.below(3)];
+    arranged = anyCurves(c.rng, c.member.source, channels);
+    c.arg("interpolation") = arranged.interpolation;
+    c.arg("numChannels") = channels;
+    const Image& nLevels = c.placeValue("nLevels", channels);
+    c.placeBuffer("pSpec", sizeOf(arranged));
+    const bool bad = c.mode == Mode::usual && c.rng.oneIn(5);
+    const int which = c.rng.below(channels);
+    size_t most = 0;
+    for (const auto& levels : arranged.levels) most = std::max(most, levels.size());
+    const Image &levels = c.place("pLevels", int64_t(most), 1), &values = c.place("pValues", int64_t(most), 1);
+    withElement(levels.element, [&](auto zero) {
+        using L = decltype(zero);
+        for (int k = 0; k < channels; ++k) {
+            const int n = int(arranged.levels[k].size());
+            c.set(nLevels, 0, 0, k, n);
+            for (int i = 0; i < n; ++i) {
+                c.set(levels, i, 0, k, L(arranged.levels[k][size_t(i)]));
+                c.set(values, i, 0, k, L(arranged.values[k][size_t(i)]));
+            }
+        }
+        if (!bad) return;
+        c.expected = STATUS_BAD_RANGE;
+        const int n = int(arranged.levels[which].size()), at = c.rng.between(1, n - 1);
+        c.set(levels, at, 0, which, c.get<L>(levels, at - 1, 0, which));
+        if constexpr (std::is_floating_point_v<L>) {
+            const L wrong[] = {NAN, INFINITY, -INFINITY};
+            if (c.rng.oneIn(2))
+                c.set(c.rng.oneIn(2) ? levels : values, c.rng.below(n), 0, which, wrong[c.rng.below(3)]);
+        }
+    });
+}
+// The object is good for what it is made for.
+void useObject(Case& c) {
+    if (c.expected < 0) return;
+    const auto* spec = reinterpret_cast<const uint8_t*>(c.arg("pSpec").a);
+    const int channels = arranged.channels;
+    const std::string name = "zmviLUT_" + typeName(arranged) + "_C" + char('0' + channels) + "R";
+    withElement(c.member.source, [&](auto zero) {
+        using T = decltype(zero);
+        constexpr int width = 50;
+        std::vector<T> pixels, results(size_t(width * channels));
+        for (int i = 0; i < width * channels; ++i) {
+            const std::vector<double>& l = arranged.levels[i % channels];
+            const double at = l[size_t(c.rng.below(int(l.size())))] * (c.rng.oneIn(2) ? 1 : 0.75);
+            if constexpr (std::is_integral_v<T>)
+                pixels.push_back(nearest<T>(at));
+            else
+                pixels.push_back(T(at));
+        }
+        using F = StatusCode(const T*, int, T*, int, ImageSize, const uint8_t*);
+        const auto look = reinterpret_cast<F*>(c.library.find(name));
+        const int step = int(sizeof(T)) * width * channels;
+        if (look(pixels.data(), step, results.data(), step, {width, 1}, spec) != STATUS_OK) return c.fail("not usable");
+        for (size_t i = 0; i < pixels.size(); ++i) {
+            const size_t k = i % size_t(channels);
+            if (lookedUp(pixels[i], arranged.levels[k], arranged.values[k]) != results[i])
+                c.fail("a wrong result for " + std::to_string(pixels[i]));
+        }
+    });
+}
+
+void arrangeSize(Case& c) {
+    const int counts[] = {1, 3, 4}, channels = c.mode == Mode::controls ? 4 : counts[c.rng.below(3)];
+    const int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
+    const int types[] = {DATATYPE_8U, DATATYPE_16U, DATATYPE_16S, DATATYPE_32F};
+    c.arg("interpolation") = interpolations[c.rng.below(3)];
+    c.arg("dataType") = types[c.rng.below(4)];
+    c.arg("numChannels") = channels;
+    const Image& nLevels = c.placeValue("nLevels", channels);
+    const bool huge = c.mode == Mode::usual && c.rng.oneIn(3);
+    for (int k = 0; k < channels; ++k)
+        c.set(nLevels, 0, 0, k, huge ? INT_MAX - c.rng.below(9) : c.rng.between(2, 70000));
+    c.placeValue("pSpecSize", 1);
+    if (huge && c.arg("dataType").a == DATATYPE_32F) c.expected = STATUS_SIZE_EXCEEDS_INT;
+}
+void answerSize(Case& c) {
+    if (c.expected < 0) return;
+    const int size = c.result<int>(c.image("pSpecSize"), 0, 0, 0);  // that it is enough is seen where it is used
+    if (size < 256 || size > 20000000) c.fail("an odd size");
+    c.set(c.image("pSpecSize"), 0, 0, 0, size);
+}
+
+TEST(LUT, CubicReproducesParabolas) {
+    arranged = {DATATYPE_16U, INTERP_CUBIC, 1, false, {{0, 3, 10, 100, 255}}, {{0, 9, 100, 10000, 65025}}};
+    std::vector<uint8_t> spec(size_t(sizeOf(arranged)));
+    init(arranged, spec.data());
+    using F = StatusCode(uint16_t*, int, ImageSize, const uint8_t*);
+    uint16_t row[256];
+    for (int i = 0; i < 256; ++i) row[i] = uint16_t(i);
+    ASSERT_EQ(reinterpret_cast<F*>(underTest().find("zmviLUT_16u_C1IR"))(row, 512, {256, 1}, spec.data()), STATUS_OK);
+    for (int i = 0; i < 256; ++i) EXPECT_EQ(row[i], i * i);
+}
+
+// The object of a histogram, which is no larger than this and ends at an unreadable page.
+TEST(LUT, RefusesAHistogram) {
+    Arena arena(4096);
+    const float levels[] = {0, 1}, *all[] = {levels};
+    const int count = 2;
+    using Init = StatusCode(int, const float* const*, const int*, int, uint8_t*);
+    const auto make = reinterpret_cast<Init*>(underTest().find("zmviHistogramInit"));
+    using F = StatusCode(float*, int, ImageSize, const uint8_t*);
+    const auto look = reinterpret_cast<F*>(underTest().find("zmviLUT_32f_C1IR"));
+    float pixel = 5;
+    for (int before = 0; before < 64; ++before) {
+        uint8_t* const spec = arena.end - 88 - before;
+        ASSERT_EQ(make(DATATYPE_32F, all, &count, 1, spec), STATUS_OK);
+        EXPECT_EQ(look(&pixel, 4, {1, 1}, spec), STATUS_CONTEXT_MISMATCH);
+    }
+}
+
+alignas(64) const uint8_t untagged[128] = {};
+
+}  // namespace
+
+extern const Family test_zmviLUT_GetSize = {
+    .arrange = arrangeSize,
+    .oracle = answerSize,
+    .ladder = {missing({"nLevels", "pSpecSize"}, Break::whole), badInterpolation,
+               values("dataType", STATUS_BAD_DATATYPE, {0, 2, 19, -1}), badChannels, fewLevels}};
+extern const Family test_zmviLUT_Init = {
+    .arrange = arrangeInit,
+    .oracle = useObject,
+    .ladder = {missing({"pLevels", "pValues", "nLevels", "pSpec"}, Break::whole), badInterpolation, badChannels,
+               missing({"pLevels", "pValues"}, Break::plane), fewLevels}};
+extern const Family test_zmviLUT = {
+    .arrange = arrangeLut,
+    .oracle = lookUp,
+    .ladder = positiveStep({values("pSpec", STATUS_CONTEXT_MISMATCH, {reinterpret_cast<int64_t>(untagged)})}),
+    .bulk = true};
