@@ -77,7 +77,12 @@ double Call::number(const std::string& name) const {
     if (name == "anchor") return setting.mask / 2;
     if (name == "borderType") return BORDER_REPL;
     if (name == "dataType") return codes.at(type);
-    if (name == "numChannels") return fromChannels;
+    if (name == "numChannels") return std::max(1, fromChannels);
+    if (name == "interpolation") return INTERP_LINEAR;
+    if (name == "nBitSize") return 8;
+    if (name == "mVal") return 1.25;
+    if (name == "aVal" || name == "vMin") return 0;
+    if (name == "vMax") return 512;
     if (name == "value" || name == "valueLT" || name == "valueGT") return 5;
     if (name == "thresholdLT") return 85;
     if (name == "threshold" || name == "thresholdGT") return 170;
@@ -118,6 +123,7 @@ void* Call::pointer(const std::string& name, int64_t element) {
         return allocate(32).data();
     if (name == "pSpec") return specObject();
     if (name == "pHist") return allocate(bins * element).data();
+    if (name == "pTable") return allocate(bins * toChannels * element).data();
     if (name == "nLevels") return levels<int>(bins + 1, 0);
     if (name == "lowerLevel") return levels<float>(0, 0);
     if (name == "upperLevel") return levels<float>(bins, 0);
@@ -127,10 +133,15 @@ void* Call::pointer(const std::string& name, int64_t element) {
 
 void* Call::planes(const std::string& name, int64_t element) {
     auto& planes = planePointers.emplace_back();
-    if (name == "pHist" || name == "pLevels") {
-        for (int i = 0; i < 4; ++i) planes.push_back(levels<float>(0, 1));
-        return planes.data();
-    }
+    const bool real = member.parts->list.find("const float* const* pLevels") != std::string::npos;
+    for (int i = 0; i < 4; ++i)
+        if (name == "pTables")
+            planes.push_back(allocate(bins).data());
+        else if (real && setting.factor == 1 && name == "pLevels")
+            planes.push_back(unevenLevels());
+        else if (name == "pHist" || name == "pLevels" || name == "pValues")
+            planes.push_back(real ? static_cast<void*>(levels<float>(0, 2)) : levels<int32_t>(0, 1));
+    if (!planes.empty()) return planes.data();
     for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planes.push_back(image(name, element));
     return planes.data();
 }
@@ -184,9 +195,11 @@ void* Call::workBuffer() {
 // Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
 void* Call::specObject() {
     const std::string name = member.name, family = name.substr(0, name.find('_'));
-    if (family.ends_with("Init")) return spec = allocate(1 << 16).data();
+    if (name.find("Init") != name.npos) return spec = allocate(1 << 20).data();
     const bool histogram = family.rfind("zmviHistogram", 0) == 0;
-    const Member& init = findMember(histogram ? "zmviHistogramUniformInit" : family + "Init");
+    const Member& init = findMember(histogram             ? "zmviHistogramUniformInit"
+                                    : family == "zmviLUT" ? "zmviLUT_Init_" + type
+                                                          : family + "Init");
     Setting asked = setting;
     asked.about = name;
     maker = init.bind(asked, build);

@@ -22,7 +22,8 @@ struct Build {
 };
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
-// and the scale factor, the compositing operation, or 1 for a histogram of equal pixels.
+// and the scale factor, the compositing operation, or 1 for a histogram of equal pixels and for a table of uneven
+// levels.
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -78,6 +79,11 @@ class Call {
     T* levels(T first, T apart) {
         T* const numbers = reinterpret_cast<T*>(allocate((bins + 1) * int64_t(sizeof(T))).data());
         for (int k = 0; k <= bins; ++k) numbers[k] = first + T(k) * apart;
+        return numbers;
+    }
+    float* unevenLevels() {
+        float* const numbers = levels<float>(0, 0);
+        for (int k = 0; k <= bins; ++k) numbers[k] = float(k * k) / 128;
         return numbers;
     }
     Memory& allocate(int64_t size);
