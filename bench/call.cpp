@@ -77,7 +77,10 @@ double Call::number(const std::string& name) const {
     if (name == "anchor") return setting.mask / 2;
     if (name == "borderType") return BORDER_REPL;
     if (name == "dataType") return codes.at(type);
-    if (name == "numChannels") return std::max(1, fromChannels);
+    if (name == "numChannels") {
+        const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
+        return three ? 3 : std::max(1, fromChannels);
+    }
     if (name == "interpolation") return INTERP_LINEAR;
     if (name == "nBitSize") return 8;
     if (name == "mVal") return 1.25;

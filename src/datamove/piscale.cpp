@@ -13,14 +13,17 @@ V repeated(V v) {
     if constexpr (sizeof(Element<V>) == 4) v |= v << 16;
     return v;
 }
-// Back again: u over 257 or 16843009, to nearest.  With n bits that is 255 * u / (2^n - 1); over 2^n instead, it stays
-// on the same side of each half when 128 of the last places are taken for one: what is lost is 255 units in these at
-// most.
+// Back again: u over 257 or 16843009, to nearest.  Of 16 bits: 2^24 / 257 is 65281 less so little that the 256 times
+// finer quotient is rounded down exactly.  With n = 32 bits it is 255 * u / (2^n - 1); over 2^n instead, it stays on
+// the same side of each half when 128 of the last places are taken for one: what is lost is 255 units in these at most.
 template <class V>
 V overRepeated(V u) {
-    constexpr int n = 8 * int(sizeof(Element<V>));
-    const V over256 = ((u >> 7) + 1) >> 1;
-    return ((u - over256) + (Element<V>(1) << (n - 9))) >> (n - 8);
+    if constexpr (sizeof(Element<V>) == 2) {
+        return (mulHigh(u, fill<uint16_t, sizeof(V)>(65281)) + 128) >> 8;
+    } else {
+        const V over256 = ((u >> 7) + 1) >> 1;
+        return ((u - over256) + (1u << 23)) >> 24;
+    }
 }
 
 // What a number of T lies above the smallest of them; the other way is the same.
@@ -87,17 +90,23 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
     const RoundingControl control(RoundingControl::toNearestEven);
     const ScaleC rule{mVal, aVal};
+    // Bytes have few results: they are computed once, where bytes are looked up faster, or lanes are few.
     constexpr Len tablePays = 400;  // pixels
-    if constexpr (sizeof(S) == 1 && sizeof(D) == 1)
+    if constexpr (sizeof(S) == 1 && (sizeof(D) == 1 || lanes<double> == 2))
         if (roi.width * roi.height >= tablePays) {
             S all[256];
             for (int i = 0; i < 256; ++i) all[i] = S(i);
-            uint8_t table[256];
-            const uint8_t* const tables[] = {table};
+            Bits<D> table[256];
+            const Bits<D>* const tables[] = {table};
             pointwiseIn<double>(rule, image(reinterpret_cast<D*>(table), 0), Roi(256, 1), C1, false,
                                 image<const S>(all, 0));
-            lookUpBytes<1>(bits(src.data, src.step), bits(dst.data, dst.step), roi, C1, past(src, dst, roi, C1), tables,
-                           false);
+            const auto lookUp = [&](auto look) {
+                look(bits(src.data, src.step), bits(dst.data, dst.step), roi, C1, past(src, dst, roi, C1), tables);
+            };
+            if constexpr (sizeof(D) == 1)
+                lookUp([](auto... operands) { lookUpBytes<1>(operands..., false); });
+            else
+                lookUp([](auto... operands) { lookUpEntries<1>(operands...); });
             return STATUS_OK;
         }
     pointwiseIn<double>(rule, dst, roi, C1, past(src, dst, roi, C1), src);

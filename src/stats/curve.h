@@ -19,14 +19,19 @@ struct LevelArray {
 // The curve from a level on: nearest: two values, and the middle in between; else a polynomial in what the pixel lies
 // above the level.
 struct Piece {
-    double value, first, second, third;
+    double level, value, first, second, third;
     template <int interpolation>
-    double at(double v, double level) const {
+    double at(double v) const {
         if constexpr (interpolation == INTERP_NEAREST) return v > first ? second : value;
         const double d = v - level;
         if constexpr (interpolation == INTERP_LINEAR) return value + d * first;
         return value + d * (first + d * (second + d * third));
     }
+};
+struct PieceLevels {
+    const Piece* first;
+    int count;
+    double operator[](Len k) const { return first[k].level; }
 };
 
 template <class L>
@@ -52,13 +57,13 @@ struct Curve {
     }
     // From level k on; behind the last level its value, to which minus zero adds nothing.
     Piece piece(int k, int interpolation) const {
-        const auto value = double(values[k]);
-        if (k == levels.count - 1) return {value, -0.0, interpolation == INTERP_NEAREST ? value : -0.0, -0.0};
+        const auto level = double(levels[k]), value = double(values[k]);
+        if (k == levels.count - 1) return {level, value, -0.0, interpolation == INTERP_NEAREST ? value : -0.0, -0.0};
         if (interpolation == INTERP_NEAREST)
-            return {value, (double(levels[k]) + double(levels[k + 1])) / 2, double(values[k + 1]), 0};
-        if (interpolation == INTERP_LINEAR) return {value, chord(k), 0, 0};
+            return {level, value, (level + double(levels[k + 1])) / 2, double(values[k + 1]), 0};
+        if (interpolation == INTERP_LINEAR) return {level, value, chord(k), 0, 0};
         const double from = slope(k), to = slope(k + 1), straight = chord(k), h = width(k);
-        return {value, from, (3 * straight - 2 * from - to) / h, (from + to - 2 * straight) / h / h};
+        return {level, value, from, (3 * straight - 2 * from - to) / h, (from + to - 2 * straight) / h / h};
     }
 };
 
@@ -99,7 +104,7 @@ void tabulate(const Curve<int32_t>& curve, int interpolation, Bits<T>* table) {
             upTo(nextLevel, [&](int64_t x) { return onChord(x, l, nextLevel, y, nextValue); });
         else
             upTo(nextLevel, [&, piece = curve.piece(k, interpolation)](int64_t x) {
-                const double exact = piece.at<INTERP_CUBIC>(double(x), double(l));
+                const double exact = piece.at<INTERP_CUBIC>(double(x));
                 return roundedToEven(std::clamp(exact, double(least), double(end - 1)));
             });
     }

@@ -10,14 +10,15 @@ struct LevelLine {
     double from = 0, perLevel = 0, last = 0;
     int64_t even = false;  // whether each level is nearest to its own number
 
-    // The level that the line has nearest to the value; NaN, also that of a line that is none, counts as the first.
-    // A vector's choice is no branch: on which side of the levels a pixel lies nobody can foretell.
-    int nearest(double value) const {
-        using V = Vec<double, 16>;
-        const auto place = fill<double, 16>((value - from) * perLevel);
-        const V inside = smaller(larger(place, V{}), fill<double, 16>(last));
-        return int(inside[0] + 0.5);
+    // Where the line has a value, in vectors too; NaN, also that of a line that is none, counts as the first level.
+    template <class V>
+    ZMV_INLINE V place(V value) const {
+        return smaller(larger((value - from) * perLevel, V{}), fill<double, sizeof(V)>(last));
     }
+    // The level next to it.  A vector's choice is no branch: on which side of the levels a pixel lies nobody can
+    // foretell.
+    int nearest(double value) const { return numberAt(place(fill<double, 16>(value))[0]); }
+    static int numberAt(double place) { return int(place + 0.5); }
 };
 // Levels: levels[k], and how many there are as levels.count.
 template <class Levels>

@@ -36,12 +36,8 @@ struct CurveParts : SpecParts {
     };
     Table<Channel> channels;
     Table<Piece> pieces;  // one for each level
-    Table<float> levels;
     CurveParts(int channelCount, WideLen levelCount)
-        : SpecParts(sizeof(LutSpec)),
-          channels(table<Channel>(channelCount, 8)),
-          pieces(table<Piece>(levelCount, 64)),
-          levels(table<float>(levelCount)) {}
+        : SpecParts(sizeof(LutSpec)), channels(table<Channel>(channelCount, 8)), pieces(table<Piece>(levelCount, 64)) {}
 };
 WideLen levelsOf(const int* counts, int channels) {
     WideLen sum = 0;
@@ -71,12 +67,10 @@ constexpr int codeOf = std::is_same_v<T, uint8_t>    ? DATATYPE_8U
 void keepCurve(uint8_t* object, int interpolation, const Curve<float>* curves, const int* counts, int channels) {
     const CurveParts parts(channels, levelsOf(counts, channels));
     Piece* pieces = parts.pieces.in(object);
-    float* levels = parts.levels.in(object);
     for (int c = 0; c < channels; ++c) {
         const Curve<float>& curve = curves[c];
         parts.channels.in(object)[c] = {lineThrough(curve.levels), curve.levels.count};
-        for (int k = 0; k < curve.levels.count; ++k)
-            *pieces++ = curve.piece(k, interpolation), *levels++ = curve.levels[k];
+        for (int k = 0; k < curve.levels.count; ++k) *pieces++ = curve.piece(k, interpolation);
     }
 }
 
@@ -107,22 +101,44 @@ StatusCode ownpi_LUTInit(int interpolation, const L* const* levels, const L* con
     return STATUS_OK;
 }
 
+// Some pixels of a channel: what can be done in vectors is done before and after the pieces of the curve are looked up.
 // The interpolation is a constant in here, so that it costs nothing a pixel.
 template <int interpolation>
-void alongCurve(Image<const float> src, Image<float> dst, Roi roi, int pixel, const LevelArray<float>& levels,
-                const LevelLine& line, const Piece* pieces) {
+void alongCurve(Image<const float> src, Image<float> dst, Roi roi, int pixel, const LevelLine& line,
+                const PieceLevels& levels) {
+    constexpr int block = 64;
+    const Piece* const pieces = levels.first;
     const IntervalFinder finder(levels, line);
-    const float first = levels[0], last = levels[levels.count - 1], below = float(pieces[0].value);
-    for (Len y = 0; y < roi.height; ++y) {
-        const float* const from = src.row(y);
-        float* const to = dst.row(y);
-        for (Len x = 0; x < roi.width * pixel; x += pixel) {
-            const float v = get(from + x), low = v > first ? v : first, inside = low < last ? low : last;
-            const int k = finder.levelsUpTo(inside) - 1;
-            const auto result = float(pieces[k].template at<interpolation>(inside, levels[k]));
-            put(to + x, v < first ? below : v == v ? result : v);
+    const double first = levels[0], last = levels[levels.count - 1];
+    const float low = float(first), below = float(pieces[0].value);
+    float pixels[block] = {}, results[block];
+    double inside[block], places[block];
+    for (Len y = 0; y < roi.height; ++y)
+        for (Len x = 0; x < roi.width; x += block) {
+            const float* const from = src.row(y) + x * pixel;
+            float* const to = dst.row(y) + x * pixel;
+            const int n = int(std::min<Len>(block, roi.width - x));
+            for (int i = 0; i < n; ++i) pixels[i] = get(from + i * pixel);
+            for (int i = 0; i < n; i += lanes<double>) {
+                const auto v = smaller(larger(loadWiden<double>(pixels + i), fill(first)), fill(last));
+                store(inside + i, v), store(places + i, line.place(v));
+            }
+            const auto lookUp = [&](auto pieceOf) {
+                for (int i = 0; i < n; ++i)
+                    results[i] = float(pieces[pieceOf(i)].template at<interpolation>(inside[i]));
+            };
+            if (line.even)
+                lookUp([&](int i) {
+                    const int k = line.numberAt(places[i]);
+                    return k - (inside[i] < levels[k]);
+                });
+            else
+                lookUp([&](int i) { return finder.levelsUpTo(inside[i]) - 1; });
+            for (int i = 0; i < n; ++i) {
+                const float v = pixels[i];
+                put(to + i * pixel, v < low ? below : v == v ? results[i] : v);
+            }
         }
-    }
 }
 
 template <Layout layout, class T>
@@ -140,12 +156,11 @@ StatusCode ownpi_LUT(Image<const T> src, Image<T> dst, Roi roi, const uint8_t* s
         for (int c = 0; c < used; ++c) all += channels[c].count;
         const CurveParts parts(used, all);
         for (int c = 0; c < used; before += channels[c++].count) {
-            const auto [line, count] = channels[c];
-            const LevelArray<float> levels{parts.levels.in(object) + Len(before), int(count)};
             const auto run = header.interpolation == INTERP_NEAREST  ? alongCurve<INTERP_NEAREST>
                              : header.interpolation == INTERP_LINEAR ? alongCurve<INTERP_LINEAR>
                                                                      : alongCurve<INTERP_CUBIC>;
-            run(src.at(c, 0), dst.at(c, 0), roi, n, levels, line, parts.pieces.in(object) + Len(before));
+            run(src.at(c, 0), dst.at(c, 0), roi, n, channels[c].line,
+                {parts.pieces.in(object) + Len(before), int(channels[c].count)});
         }
     } else {
         using Parts = TableParts<T>;
