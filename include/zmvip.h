@@ -2509,18 +2509,19 @@ ZMV_API StatusCode zmviConvert_64f16s_C1RSfs(const double* src, int srcStep, int
 
 /* zmviScale: dst = src, the whole range of one type brought to the whole range of the other: the name has the two
    types.
-   8u to wider integers: the smallest, plus src * 257 (16 bits) or src * 16843009 (32 bits).  Back: the exact
-   quotient of what src lies above the smallest of its type, to nearest; there are no ties.
+   8u to wider integers: the smallest, plus src * 257 (16 bits) or src * 16843009 (32 bits).  Back: the exact quotient
+   of what src lies above the smallest of its type, to nearest; there are no ties.
    8u32f: 0 .. 255 become vMin .. vMax, by single precision src * s + vMin, each step rounded, but at most vMax, and
    exactly that for 255; s is (vMax - vMin) / 255 in double precision, rounded.  32f8u: (src - vMin) * t in single
-   precision, each step rounded, t being 255 / (vMax - vMin) likewise; then to nearest with ties to even, saturated;
-   NaN becomes 0.
+   precision, each step rounded, t being 255 / (vMax - vMin) likewise; then to nearest with ties to even, saturated; NaN
+   becomes 0.
    The caller's rounding mode and denormal setting have no influence and are not changed.
-   AC4 leaves the fourth channel of the destination as it was.  src and dst must not overlap.
+   AC4 leaves the fourth channel of the destination as it was.
    Except in AC4, regions that read and write more than the largest cache holds are written past the caches.
+   The images must not overlap.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_RANGE: vMin is not below vMax, one of them is
-   NaN or infinite, or their difference exceeds the largest float.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_RANGE: vMin is not below vMax, one of them is NaN or infinite,
+   or their difference exceeds the largest float.
    src/datamove/piscale.cpp */
 ZMV_API StatusCode zmviScale_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
@@ -2557,11 +2558,12 @@ ZMV_API StatusCode zmviScale_32f8u_AC4R(const float* src, int srcStep, uint8_t* 
 
 /* zmviScaleC: dst = src * mVal + aVal: the name has the types of src and dst, or one for both.
    The product in double precision, rounded, plus aVal, rounded again.  To integers: to nearest with ties to even,
-   saturated; NaN becomes 0.  To 32f: rounded once more.  Any constants are accepted; of several NaNs that of the
-   pixel goes on before that of mVal, and that before aVal's.
+   saturated; NaN becomes 0.  To 32f: rounded once more.  Any constants are accepted; of several NaNs that of the pixel
+   goes on before that of mVal, and that before aVal's.
    The caller's rounding mode and denormal setting have no influence and are not changed.
-   In place: the I forms, or src == dst with equal steps where the types are of one width; other overlap is undefined.
-   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Types of one width may share their memory.  Regions that read and write more than the largest cache holds are written
+   past the caches, but not in place.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.
    src/datamove/piscale.cpp */
@@ -3278,10 +3280,10 @@ ZMV_API StatusCode zmviHistogram_32f_C4R(const float* src, int srcStep, ImageSiz
 
 /* zmviLUT_GetSize: The bytes of the spec object of a look-up table, at any address.
    interpolation: INTERP_NEAREST, INTERP_LINEAR or INTERP_CUBIC.  nLevels: one count a channel, from 2 on.
-   Checked in this order.  STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_INTERPOLATION: others than these.
-   STATUS_BAD_DATATYPE: dataType is none of DATATYPE_8U, _16U, _16S and _32F.  STATUS_BAD_CHANNELS: numChannels is
-   not 1, 3 or 4.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.  STATUS_SIZE_EXCEEDS_INT: the size
-   exceeds 2147483647; nothing is written.
+   Checked in this order.  STATUS_NULL_POINTER: nLevels or pSpecSize is null.  STATUS_BAD_INTERPOLATION: interpolation
+   is none of these.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_BAD_CHANNELS:
+   numChannels is not 1, 3 or 4.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.  STATUS_SIZE_EXCEEDS_INT:
+   a size exceeds 2147483647; nothing is written.
    src/stats/pilut.cpp */
 ZMV_API StatusCode zmviLUT_GetSize(int interpolation, int dataType, int numChannels, const int* nLevels, int* pSpecSize);
 
@@ -3294,15 +3296,15 @@ ZMV_API StatusCode zmviLUT_GetSize(int interpolation, int dataType, int numChann
      linear   y + (v - l) * (y' - y) / (l' - l)
      cubic    the Hermite cubic whose slope at a level is that of the parabola through it and its neighbours, and at
               the first and the last that of the next one's parabola; of two levels only, the straight line
-   Below the first level it is the first value, from the last level on the last one.  Integers: saturated; linear is
-   the exact number, cubic that of double precision, rounded to nearest with ties to even.  Levels and values may lie
+   Below the first level it is the first value, from the last level on the last one.  Integers: saturated; linear is the
+   exact number, cubic that of double precision, rounded to nearest with ties to even.  Levels and values may lie
    outside the type.  32f: in double precision, rounded once at the end; NaN stays as it is, bit for bit.
-   pSpec has the size that zmviLUT_GetSize reports, at any alignment.  A copy of its bytes is as good if it lies as
-   far from a multiple of 64.  The caller's rounding mode has no influence and is not changed.
-   Checked in this order.  STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_INTERPOLATION: others than these.
-   STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_NULL_POINTER: the array of a channel is null.
-   STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.  STATUS_BAD_RANGE: levels do not strictly increase,
-   or a level or value is NaN or infinite.
+   pSpec has the size that zmviLUT_GetSize reports, at any alignment.  A copy of its bytes is as good if it lies as far
+   from a multiple of 64.  The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: pLevels, pValues, nLevels or pSpec is null.  STATUS_BAD_INTERPOLATION:
+   interpolation is none of these.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_NULL_POINTER: an array of
+   pLevels is null, then an array of pValues is null.  STATUS_BAD_LEVEL_COUNT: a channel has fewer than two levels.
+   STATUS_BAD_RANGE: levels do not strictly increase, or a level or value is NaN or infinite.
    src/stats/pilut.cpp */
 ZMV_API StatusCode zmviLUT_Init_8u(int interpolation, const int32_t* const* pLevels, const int32_t* const* pValues, const int* nLevels, int numChannels, uint8_t* pSpec);
 ZMV_API StatusCode zmviLUT_Init_16u(int interpolation, const int32_t* const* pLevels, const int32_t* const* pValues, const int* nLevels, int numChannels, uint8_t* pSpec);
@@ -3312,10 +3314,10 @@ ZMV_API StatusCode zmviLUT_Init_32f(int interpolation, const float* const* pLeve
 /* zmviLUT: dst = what the table makes of src, in each channel; zmviLUT_Init has the rules.
    AC4 has a table of three channels, and leaves the fourth channel of the destination as it was.
    The caller's rounding mode and denormal setting have no influence and are not changed.
-   In place: the I forms; src == dst with equal steps is allowed; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: a pointer is null.  STATUS_BAD_SIZE: width or height below 1.
-   STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: pSpec is no spec object of a look-up table, or
-   one of another type or channel count.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or pSpec is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: pSpec is no spec object of a look-up table, or one
+   of another type or channel count.
    src/stats/pilut.cpp */
 ZMV_API StatusCode zmviLUT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* pSpec);
 ZMV_API StatusCode zmviLUT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t* pSpec);
@@ -3354,9 +3356,11 @@ ZMV_API StatusCode zmviLUT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize ro
    nBitSize entries.
    C1: one table.  C3, C4, AC4: an array of tables, three for AC4, which leaves the fourth channel of dst as it was.
    8u24u: entries and pixels are three bytes, in memory's order.  Tables may lie at any address, and must not overlap
-   dst.  8u: src == dst with equal steps is allowed; other overlap is undefined.
-   Checked in this order.  STATUS_NULL_POINTER: a pointer is null, that of a table too.  STATUS_BAD_SIZE: width or
-   height below 1.  STATUS_OUT_OF_RANGE: nBitSize is not in 1 .. 8.  STATUS_BAD_STEP: a step is shorter than a row.
+   dst; where the types differ, nor may src.
+   In place: src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pTable, pTables or one of its arrays is null.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_OUT_OF_RANGE: nBitSize is not in 1 .. 8.  STATUS_BAD_STEP: srcStep
+   or dstStep is less than the bytes of a row.
    src/stats/pilutpalette.cpp */
 ZMV_API StatusCode zmviLUTPalette_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* pTable, int nBitSize);
 ZMV_API StatusCode zmviLUTPalette_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* const pTables[3], int nBitSize);

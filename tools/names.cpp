@@ -18,6 +18,7 @@ struct Code {
 constexpr Code codes[] = {
     {"1u", "", Element::u1, 1},
     {"8u", "uint8_t", Element::u8, 1},
+    {"24u", "", Element::u8, 1},  // three of them, as the layout of a member says
     {"8s", "int8_t", Element::s8, 1},
     {"16u", "uint16_t", Element::u16, 2},
     {"16s", "int16_t", Element::s16, 2},
@@ -83,7 +84,7 @@ constexpr RoleRow roles[] = {
     {Role::option, value, "cmpOp", "CMP_", CMP_GREATER},
     {Role::option, value, "alphaType", "ALPHA_"},
     {Role::option, value, "axis", "AXIS_", AXIS_VERTICAL},
-    {Role::option, value, "interpolation", "INTERPOLATION_"},
+    {Role::option, value, "interpolation", "INTERP_", INTERP_LINEAR},
     {Role::option, value, "algType", "ALGORITHM_"},
     {Role::option, value, "kernelType", "KERNEL_"},
     {Role::option, value, "direction", "WARP_"},
@@ -92,8 +93,9 @@ constexpr RoleRow roles[] = {
     {Role::option, value, "flags uniform antialiasing smoothEdge"},
     {Role::number, value, "numChannels", "", 1},
     {Role::number, value, "top left", "", 16},
+    {Role::number, value, "nBitSize", "", 8},
     {Role::number, value,
-     "channel dstBitOffset srcBitOffset divisor nBitSize numLobes seed sigma weight xOrder yOrder"},
+     "channel dstBitOffset srcBitOffset divisor numLobes seed sigma weight xOrder yOrder"},
     {Role::number, value, "B C angle shiftX shiftY xCenter yCenter xShift yShift"},
     {Role::table, read, "dstOrder nLevels lowerLevel upperLevel pTable coeffs quad"},
     {Role::table, pointers, "pTables pValues"},
@@ -247,6 +249,7 @@ Member parse(const std::string& result, const std::string& name, const std::stri
         typed = typed || readTypes(part, m);
         m.large = part == "L";
     }
+    if (m.types.ends_with("24u")) m.to.channels = 3;  // bytes of a pixel, none of them a channel
     return m;
 }
 

@@ -101,7 +101,7 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
             pointwiseIn<double>(rule, image(reinterpret_cast<D*>(table), 0), Roi(256, 1), C1, false,
                                 image<const S>(all, 0));
             const auto lookUp = [&](auto look) {
-                look(bits(src.data, src.step), bits(dst.data, dst.step), roi, C1, past(src, dst, roi, C1), tables);
+                look(bits(src.data, src.step), bits(dst.data, dst.step), roi, C1, tables);
             };
             if constexpr (sizeof(D) == 1)
                 lookUp([](auto... operands) { lookUpBytes<1>(operands..., false); });

@@ -46,7 +46,7 @@ ZMV_INLINE Block<V, n> channelsChanged(const Block<V, n>& block) {
     return result;
 }
 
-// `used` of n channels, each through its table; the others are left as they are in the source.
+// `used` of n channels, each through its table; the others, which the caller leaves out, through any.
 template <int n, class Table>
 class BytesThrough {
   public:
@@ -84,37 +84,37 @@ class BytesThrough {
     Table tables_[n];
 };
 
-// dst = tables[channel][src]: tables of 256 bytes each, in which the first 16 repeat when they are short.
+// Calls row(from, to, count) for the elements of each row.  Stores go to the caches: reading the tables takes longer.
+template <class Index, class Entry, class Row>
+void eachLookUp(Image<const Index> src, Image<Entry> dst, Roi roi, Layout layout, Row row) {
+    const auto elements = [&](Entry* to, Len y, Len x, Len count) { row(src.row(y) + x, to, count); };
+    eachRow(dst, joinOperands(roi, layout, dst, src), layout, false, elements, elements);
+}
+
+// dst = tables[channel][src] for elements of any width, from tables that have an entry for every index.
+template <int n, class Entry, class Index>
+void lookUpEntries(Image<const Index> src, Image<Entry> dst, Roi roi, Layout layout, const Entry* const* tables) {
+    const Entry* each[n];
+    for (int c = 0; c < n; ++c) each[c] = tables[c < layout.used() ? c : 0];
+    eachLookUp(src, dst, roi, layout,
+               [&](const Index* from, Entry* to, Len count) { lookUpByLoads<n>(each, from, to, count); });
+}
+
+// The same for bytes; where tables are short, their first 16 entries repeat.
 template <int n>
-void lookUpBytes(Image<const uint8_t> src, Image<uint8_t> dst, Roi roi, Layout layout, bool pastCache,
-                 const uint8_t* const* tables, bool areShort) {
-    roi = joinOperands(roi, layout, dst, src);
-    const auto eachWith = [&](const auto& row) {
-        eachRow(dst, roi, layout, pastCache,
-                [&](uint8_t* to, Len y, Len x, Len count) { row(src.row(y) + x, to, count); });
-    };
+void lookUpBytes(Image<const uint8_t> src, Image<uint8_t> dst, Roi roi, Layout layout, const uint8_t* const* tables,
+                 bool areShort) {
     constexpr Len vectorsPay = 256;  // bytes; below, making a table ready costs more than it saves
     if constexpr (hasByteShuffle) {
         const auto inVectors = [&]<class Table>(std::type_identity<Table>) {
             const BytesThrough<n, Table> through(tables, layout.used());
-            eachWith([&](const uint8_t* from, uint8_t* to, Len count) { through.row(from, to, count); });
+            eachLookUp(src, dst, roi, layout,
+                       [&](const uint8_t* from, uint8_t* to, Len count) { through.row(from, to, count); });
         };
         if (areShort) return inVectors(std::type_identity<ShortTable>{});
         if (roi.width * roi.height * n >= vectorsPay) return inVectors(std::type_identity<ByteTable>{});
     }
-    const uint8_t* const each[4] = {tables[0], tables[n > 1 ? 1 : 0], tables[n > 1 ? 2 : 0],
-                                    tables[layout.used() == 4 ? 3 : 0]};
-    eachWith([&](const uint8_t* from, uint8_t* to, Len count) { lookUpByLoads<n>(each, from, to, count); });
-}
-
-// The same for elements of any width, from tables that have an entry for every index.
-template <int n, class Entry, class Index>
-void lookUpEntries(Image<const Index> src, Image<Entry> dst, Roi roi, Layout layout, bool pastCache,
-                   const Entry* const* tables) {
-    const Entry* const each[4] = {tables[0], tables[n > 1 ? 1 : 0], tables[n > 1 ? 2 : 0],
-                                  tables[layout.used() == 4 ? 3 : 0]};
-    eachRow(dst, joinOperands(roi, layout, dst, src), layout, pastCache,
-            [&](Entry* to, Len y, Len x, Len count) { lookUpByLoads<n>(each, src.row(y) + x, to, count); });
+    lookUpEntries<n>(src, dst, roi, layout, tables);
 }
 
 }  // namespace zmv

@@ -5,7 +5,6 @@
 
 #include "kernels/count.h"
 #include "kernels/scratch.h"
-#include "stats/intervals.h"
 #include "stats/levels.h"
 
 namespace zmv {

@@ -3,18 +3,10 @@
 
 #include <algorithm>
 
-#include "core/spec.h"
 #include "kernels/rounding.h"
 #include "stats/intervals.h"
 
 namespace zmv {
-
-template <class L>
-struct LevelArray {
-    const L* first;
-    int count;
-    L operator[](Len k) const { return get(first + k); }
-};
 
 // The curve from a level on: nearest: two values, and the middle in between; else a polynomial in what the pixel lies
 // above the level.

@@ -5,6 +5,13 @@
 
 namespace zmv {
 
+template <class L>
+struct LevelArray {
+    const L* first;
+    int count;
+    L operator[](Len k) const { return get(first + k); }
+};
+
 // The line from the first level to the last, on which evenly spaced levels lie close to whole numbers.
 struct LevelLine {
     double from = 0, perLevel = 0, last = 0;

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "core/spec.h"
-#include "kernels/simd.h"
+#include "stats/intervals.h"
 
 namespace zmv {
 
@@ -27,6 +27,11 @@ constexpr int dataTypeOf = std::is_same_v<T, uint8_t>    ? DATATYPE_8U
                            : std::is_same_v<T, uint16_t> ? DATATYPE_16U
                            : std::is_same_v<T, int16_t>  ? DATATYPE_16S
                                                          : DATATYPE_32F;
+inline StatusCode levelCounts(const int* counts, int channels) {
+    for (int c = 0; c < channels; ++c)
+        if (get(counts + c) < 2) return STATUS_BAD_LEVEL_COUNT;
+    return STATUS_OK;
+}
 // Levels of pixels of T.
 template <class T>
 using LevelOf = std::conditional_t<std::is_integral_v<T>, int32_t, float>;
@@ -41,14 +46,11 @@ struct HistogramParts : SpecParts {
 };
 
 template <class L>
-struct Levels {
-    const L* first;
-    int count;
+struct Levels : LevelArray<L> {
     Levels(const uint8_t* spec, int channel) {
         const auto header = headerOf<HistogramSpec>(spec);
-        first = HistogramParts<L>(header).levels[channel].in(spec), count = header.levelCounts[channel];
+        this->first = HistogramParts<L>(header).levels[channel].in(spec), this->count = header.levelCounts[channel];
     }
-    L operator[](Len k) const { return get(first + k); }
 };
 
 }  // namespace zmv

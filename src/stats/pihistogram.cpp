@@ -5,12 +5,6 @@
 namespace zmv {
 namespace {
 
-StatusCode levelCounts(const int* counts, int channels) {
-    for (int c = 0; c < channels; ++c)
-        if (get(counts + c) < 2) return STATUS_BAD_LEVEL_COUNT;
-    return STATUS_OK;
-}
-
 // A level as the object keeps it: of pixels of integers cut to an integer.
 template <class L>
 L keptAs(double level) {

@@ -1,17 +1,14 @@
 // zmviLUT: pixels through a curve that is given by levels and the values at them.
+#include "core/spec.h"
 #include "kernels/lookup.h"
 #include "stats/curve.h"
+#include "stats/levels.h"
 
 namespace zmv {
 namespace {
 
 StatusCode interpolations(int code) {
     return refuse(code != INTERP_NEAREST && code != INTERP_LINEAR && code != INTERP_CUBIC, STATUS_BAD_INTERPOLATION);
-}
-StatusCode levelCounts(const int* counts, int channels) {
-    for (int c = 0; c < channels; ++c)
-        if (get(counts + c) < 2) return STATUS_BAD_LEVEL_COUNT;
-    return STATUS_OK;
 }
 
 struct LutSpec {
@@ -58,12 +55,6 @@ StatusCode ownpi_LUTGetSize(int interpolation, int type, int channels, const int
     return STATUS_OK;
 }
 
-template <class T>
-constexpr int codeOf = std::is_same_v<T, uint8_t>    ? DATATYPE_8U
-                       : std::is_same_v<T, uint16_t> ? DATATYPE_16U
-                       : std::is_same_v<T, int16_t>  ? DATATYPE_16S
-                                                     : DATATYPE_32F;
-
 void keepCurve(uint8_t* object, int interpolation, const Curve<float>* curves, const int* counts, int channels) {
     const CurveParts parts(channels, levelsOf(counts, channels));
     Piece* pieces = parts.pieces.in(object);
@@ -86,11 +77,11 @@ StatusCode ownpi_LUTInit(int interpolation, const L* const* levels, const L* con
     const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
     Curve<L> curves[4];
     for (int c = 0; c < channels; ++c) {
-        curves[c] = {{levels[c], get(counts + c)}, {values[c], get(counts + c)}};
+        curves[c] = {{get(levels + c), get(counts + c)}, {get(values + c), get(counts + c)}};
         if (!curves[c].rises()) return STATUS_BAD_RANGE;
     }
     uint8_t* const object = objectIn(spec);
-    store(object, LutSpec{LutSpec::itsTag, codeOf<T>, channels, interpolation});
+    store(object, LutSpec{LutSpec::itsTag, dataTypeOf<T>, channels, interpolation});
     if constexpr (std::is_same_v<L, float>) {
         keepCurve(object, interpolation, curves, counts, channels);
     } else {
@@ -147,7 +138,7 @@ StatusCode ownpi_LUT(Image<const T> src, Image<T> dst, Roi roi, const uint8_t* s
     if (auto bad = firstOf({pointers(src.data, dst.data, spec), size(roi), steps(src.step, dst.step)})) return bad;
     const uint8_t* const object = objectIn(spec);
     const auto header = headerOf<LutSpec>(object);
-    if (!header.isFor(codeOf<T>, used)) return STATUS_CONTEXT_MISMATCH;
+    if (!header.isFor(dataTypeOf<T>, used)) return STATUS_CONTEXT_MISMATCH;
     if constexpr (std::is_same_v<T, float>) {
         const RoundingControl control(RoundingControl::toNearestEven);
         roi = joinOperands(roi, layout, dst, src);
@@ -168,11 +159,10 @@ StatusCode ownpi_LUT(Image<const T> src, Image<T> dst, Roi roi, const uint8_t* s
         const Bits<T>* each[4];
         for (int c = 0; c < used; ++c) each[c] = tables + c * Parts::entries;
         const Image<const Bits<T>> from = bits(src.data, src.step);
-        const bool past = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
         if constexpr (sizeof(T) == 1)
-            lookUpBytes<n>(from, dst, roi, layout, past, each, false);
+            lookUpBytes<n>(from, dst, roi, layout, each, false);
         else
-            lookUpEntries<n>(from, bits(dst.data, dst.step), roi, layout, past, each);
+            lookUpEntries<n>(from, bits(dst.data, dst.step), roi, layout, each);
     }
     return STATUS_OK;
 }

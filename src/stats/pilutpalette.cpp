@@ -52,18 +52,16 @@ StatusCode ownpi_LUTPalette(Image<const uint8_t> src, Image<Entry> dst, Roi roi,
                             refuse(bits < 1 || bits > 8, STATUS_OUT_OF_RANGE), rowStep(src.step, roi.width * n),
                             rowStep(dst.step, roi.width * n * bytes)}))
         return bad;
-    const bool inPlace = static_cast<const void*>(src.data) == dst.data;
-    const bool past = !inPlace && regionPastCache(roi, layout, 1 + bytes);
     if constexpr (bytes == 3) {
         Triples(tables[0], bits).lookUp(src, dst, roi);
     } else {
         Entry memory[layout.used()][256];
         const Entry* each[layout.used()];
-        for (int c = 0; c < layout.used(); ++c) each[c] = repeated(memory[c], tables[c], bits);
+        for (int c = 0; c < layout.used(); ++c) each[c] = repeated(memory[c], get(tables + c), bits);
         if constexpr (bytes == 1)
-            lookUpBytes<n>(src, dst, roi, layout, past, each, bits <= 4);
+            lookUpBytes<n>(src, dst, roi, layout, each, bits <= 4);
         else
-            lookUpEntries<n>(src, dst, roi, layout, past, each);
+            lookUpEntries<n>(src, dst, roi, layout, each);
     }
     return STATUS_OK;
 }
