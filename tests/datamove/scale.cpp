@@ -108,13 +108,15 @@ Check badRange() {
     return check;
 }
 
-// All values of types that have few, and of 32s all round every boundary.
+// All values of types that have few, through tables too, and of 32s all round every boundary.
 TEST(Scale, EveryValue) {
     for (const Member& m : members()) {
-        const bool known = m.name.starts_with("zmviScale") && m.to.channels == 1 && !isReal(m.source);
-        if (!known || (!options.only.empty() && m.name != options.only)) continue;
+        const bool ours = m.name.starts_with("zmviScale") || m.name.starts_with("zmviLUT_");
+        if (!ours || !m.find("roiSize") || m.to.channels != 1 || isReal(m.source) ||
+            (!options.only.empty() && m.name != options.only))
+            continue;
         for (uint64_t seed = 0; seed < 20; ++seed) {
-            Case c(m, builds()[seed % builds().size()], seed, Mode::bulk);
+            Case c(m, builds()[seed % builds().size()], 8 * seed, Mode::bulk);
             c.width = c.height = 256;
             m.family->arrange(c);
             const Image& src = c.image(onlySource(c));

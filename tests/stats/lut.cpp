@@ -11,36 +11,45 @@ namespace {
 
 using namespace test;
 
+struct Type {
+    Element element;
+    int code;
+    const char* name;
+};
+constexpr Type types[] = {{Element::u8, DATATYPE_8U, "8u"},
+                          {Element::u16, DATATYPE_16U, "16u"},
+                          {Element::s16, DATATYPE_16S, "16s"},
+                          {Element::f32, DATATYPE_32F, "32f"}};
+constexpr int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
 struct Curves {
-    int code = 0, interpolation = 0, channels = 0;
-    bool real = false;
-    std::vector<double> levels[4], values[4];  // a double holds both kinds of them
+    Type type = types[0];
+    int interpolation = 0, channels = 0;
+    std::vector<double> levels[4], values[4] = {};  // a double holds both kinds of them
+    bool real() const { return type.element == Element::f32; }
 };
 Curves arranged;  // for the oracle of the same case
 
 double number(Rng& rng, const Curves& of, int range, double scale) {
-    if (!of.real && rng.oneIn(8)) return rng.oneIn(2) ? INT_MIN : INT_MAX;
+    if (!of.real() && rng.oneIn(8)) return rng.oneIn(2) ? INT_MIN : INT_MAX;
     const double x = rng.between(-range / 3, range + range / 3);
-    return of.real ? float((x + rng.below(64) / 64.0) * scale) : x;
+    return of.real() ? float((x + rng.below(64) / 64.0) * scale) : x;
 }
 // Levels in and round the type, evenly spaced or not, two of them or many; floats of every magnitude.
 Curves anyCurves(Rng& rng, Element element, int channels) {
-    static const std::map<Element, int> codes = {{Element::u8, DATATYPE_8U},
-                                                 {Element::u16, DATATYPE_16U},
-                                                 {Element::s16, DATATYPE_16S},
-                                                 {Element::f32, DATATYPE_32F}};
-    static const int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
-    Curves curves{codes.at(element), interpolations[rng.below(3)], channels, element == Element::f32, {}, {}};
+    Curves curves{*std::find_if(types, types + 4, [&](const Type& t) { return t.element == element; }),
+                  interpolations[rng.below(3)],
+                  channels,
+                  {}};
     for (int c = 0; c < channels; ++c) {
         const int n = rng.oneIn(4) ? 2 : rng.between(3, rng.oneIn(3) ? 300 : 9),
                   range = bytesOf(element) == 1 ? 255 : 65535;
-        const double scale = std::ldexp(1, curves.real && rng.oneIn(3) ? rng.between(-149, 105) : 0);
+        const double scale = std::ldexp(1, curves.real() && rng.oneIn(3) ? rng.between(-149, 105) : 0);
         std::vector<double>& levels = curves.levels[c];
         const double apart = range / n * scale, from = number(rng, curves, range, scale);
         const bool even = from != INT_MAX && rng.oneIn(3);
         for (int k = 0; k < n; ++k)
             levels.push_back(even ? std::min(from + k * apart, double(FLT_MAX)) : number(rng, curves, range, scale));
-        if (curves.real)
+        if (curves.real())
             for (double& level : levels) level = float(level);
         std::sort(levels.begin(), levels.end());
         levels.erase(std::unique(levels.begin(), levels.end()), levels.end());
@@ -70,27 +79,22 @@ int sizeOf(const Curves& curves) {
     using F = StatusCode(int, int, int, const int*, int*);
     int size = 0;
     const auto ask = reinterpret_cast<F*>(underTest().find("zmviLUT_GetSize"));
-    EXPECT_EQ(ask(curves.interpolation, curves.code, curves.channels, Arrays<double>(curves).counts, &size), STATUS_OK);
+    EXPECT_EQ(ask(curves.interpolation, curves.type.code, curves.channels, Arrays<double>(curves).counts, &size),
+              STATUS_OK);
     return size;
-}
-std::string typeName(const Curves& curves) {
-    return curves.code == DATATYPE_8U    ? "8u"
-           : curves.code == DATATYPE_16U ? "16u"
-           : curves.code == DATATYPE_16S ? "16s"
-                                         : "32f";
 }
 template <class L>
 StatusCode initAs(const Library& library, const Curves& curves, uint8_t* spec) {
     using F = StatusCode(int, const L* const*, const L* const*, const int*, int, uint8_t*);
     const Arrays<L> arrays(curves);
-    return reinterpret_cast<F*>(library.find("zmviLUT_Init_" + typeName(curves)))(
+    return reinterpret_cast<F*>(library.find(std::string("zmviLUT_Init_") + curves.type.name))(
         curves.interpolation, arrays.pointers, arrays.pointers + 4, arrays.counts, curves.channels, spec);
 }
 StatusCode init(const Library& library, const Curves& curves, uint8_t* spec) {
-    return curves.real ? initAs<float>(library, curves, spec) : initAs<int32_t>(library, curves, spec);
+    return curves.real() ? initAs<float>(library, curves, spec) : initAs<int32_t>(library, curves, spec);
 }
 const ObjectKind tableObject([](uint8_t* block) {
-    return init(builds().front(), {DATATYPE_8U, INTERP_LINEAR, 1, false, {{0, 255}}, {{255, 0}}}, block);
+    return init(builds().front(), {types[0], INTERP_LINEAR, 1, {{0, 255}}, {{255, 0}}}, block);
 });
 
 double slope(const std::vector<double>& l, const std::vector<double>& y, size_t k) {
@@ -183,10 +187,7 @@ void lookUp(Case& c) {
         using T = decltype(zero);
         eachElement(c, [&](int64_t x, int64_t y, int k) {
             const T v = c.get<T>(c.image(onlySource(c)), x, y, k);
-            if (v == v)
-                c.set(c.image(overwritten(c)), x, y, k, lookedUp(v, arranged.levels[k], arranged.values[k]));
-            else
-                c.set(c.image(overwritten(c)), x, y, k, v);
+            c.set(c.image(overwritten(c)), x, y, k, lookedUp(v, arranged.levels[k], arranged.values[k]));
         });
     });
 }
@@ -224,43 +225,15 @@ void arrangeInit(Case& c) {
         }
     });
 }
-// The object is good for what it is made for.
-void useObject(Case& c) {
-    if (c.expected < 0) return;
-    acceptBlock(c, "pSpec");
-    const auto* spec = reinterpret_cast<const uint8_t*>(c.arg("pSpec").a);
-    const int channels = arranged.channels;
-    const std::string name = "zmviLUT_" + typeName(arranged) + "_C" + char('0' + channels) + "R";
-    withElement(c.member.source, [&](auto zero) {
-        using T = decltype(zero);
-        constexpr int width = 50;
-        std::vector<T> pixels, results(size_t(width * channels));
-        for (int i = 0; i < width * channels; ++i) {
-            const std::vector<double>& l = arranged.levels[i % channels];
-            const double at = l[size_t(c.rng.below(int(l.size())))] * (c.rng.oneIn(2) ? 1 : 0.75);
-            if constexpr (std::is_integral_v<T>)
-                pixels.push_back(nearest<T>(at));
-            else
-                pixels.push_back(T(at));
-        }
-        using F = StatusCode(const T*, int, T*, int, ImageSize, const uint8_t*);
-        const auto look = reinterpret_cast<F*>(c.library.find(name));
-        const int step = int(sizeof(T)) * width * channels;
-        if (look(pixels.data(), step, results.data(), step, {width, 1}, spec) != STATUS_OK) return c.fail("not usable");
-        for (size_t i = 0; i < pixels.size(); ++i) {
-            const size_t k = i % size_t(channels);
-            if (lookedUp(pixels[i], arranged.levels[k], arranged.values[k]) != results[i])
-                c.fail("a wrong result for " + std::to_string(pixels[i]));
-        }
-    });
+// That the object is good for what it is made for is seen where it is used.
+void acceptObject(Case& c) {
+    if (c.expected == STATUS_OK) acceptBlock(c, "pSpec");
 }
 
 void arrangeSize(Case& c) {
     const int counts[] = {1, 3, 4}, channels = c.mode == Mode::controls ? 4 : counts[c.rng.below(3)];
-    const int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
-    const int types[] = {DATATYPE_8U, DATATYPE_16U, DATATYPE_16S, DATATYPE_32F};
     c.arg("interpolation") = interpolations[c.rng.below(3)];
-    c.arg("dataType") = types[c.rng.below(4)];
+    c.arg("dataType") = types[c.rng.below(4)].code;
     c.arg("numChannels") = channels;
     const Image& nLevels = c.placeValue("nLevels", channels);
     const bool huge = c.mode == Mode::usual && c.rng.oneIn(3);
@@ -277,7 +250,7 @@ void answerSize(Case& c) {
 }
 
 TEST(LUT, CubicReproducesParabolas) {
-    arranged = {DATATYPE_16U, INTERP_CUBIC, 1, false, {{0, 3, 10, 100, 255}}, {{0, 9, 100, 10000, 65025}}};
+    arranged = {types[1], INTERP_CUBIC, 1, {{0, 3, 10, 100, 255}}, {{0, 9, 100, 10000, 65025}}};
     std::vector<uint8_t> spec(size_t(sizeOf(arranged)));
     ASSERT_EQ(init(underTest(), arranged, spec.data()), STATUS_OK);
     using F = StatusCode(uint16_t*, int, ImageSize, const uint8_t*);
@@ -287,26 +260,9 @@ TEST(LUT, CubicReproducesParabolas) {
     for (int i = 0; i < 256; ++i) EXPECT_EQ(row[i], i * i);
 }
 
-// The object of a histogram, which is no larger than this and ends at an unreadable page.
-TEST(LUT, RefusesAHistogram) {
-    Arena arena(4096);
-    const float levels[] = {0, 1}, *all[] = {levels};
-    const int count = 2;
-    using Init = StatusCode(int, const float* const*, const int*, int, uint8_t*);
-    const auto make = reinterpret_cast<Init*>(underTest().find("zmviHistogramInit"));
-    using F = StatusCode(float*, int, ImageSize, const uint8_t*);
-    const auto look = reinterpret_cast<F*>(underTest().find("zmviLUT_32f_C1IR"));
-    float pixel = 5;
-    for (int before = 0; before < 64; ++before) {
-        uint8_t* const spec = arena.end - 88 - before;
-        ASSERT_EQ(make(DATATYPE_32F, all, &count, 1, spec), STATUS_OK);
-        EXPECT_EQ(look(&pixel, 4, {1, 1}, spec), STATUS_CONTEXT_MISMATCH);
-    }
-}
-
 }  // namespace
 
 extern const Family test_zmviLUT_GetSize = {.arrange = arrangeSize, .oracle = answerSize};
-extern const Family test_zmviLUT_Init = {.arrange = arrangeInit, .oracle = useObject};
+extern const Family test_zmviLUT_Init = {.arrange = arrangeInit, .oracle = acceptObject};
 extern const Family test_zmviLUT = {
     .arrange = arrangeLut, .oracle = lookUp, .more = {notOne("pSpec", STATUS_CONTEXT_MISMATCH, tableObject)}};
