@@ -70,12 +70,10 @@ struct ToBytes {
 template <class S, class D>
 StatusCode ownpi_Scale(Image<const S> src, Image<D> dst, Roi roi, Layout layout, float vMin, float vMax) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
-    const float low = control.keep(vMin), high = control.keep(vMax);
     constexpr float most = std::numeric_limits<float>::max();
-    if (!(low < high && double(high) - low <= most)) return STATUS_BAD_RANGE;
+    if (!(vMin < vMax && double(vMax) - vMin <= most)) return STATUS_BAD_RANGE;
     using Rule = std::conditional_t<std::is_same_v<D, float>, ToFloats, ToBytes>;
-    pointwiseIn<float>(Rule(low, high), dst, roi, layout, past(src, dst, roi, layout), src);
+    pointwiseIn<float>(Rule(vMin, vMax), dst, roi, layout, past(src, dst, roi, layout), src);
     return STATUS_OK;
 }
 
@@ -88,7 +86,6 @@ struct ScaleC {
 template <class S, class D>
 StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> dst, Roi roi) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     const ScaleC rule{mVal, aVal};
     // Bytes have few results: they are computed once, where bytes are looked up faster, or lanes are few.
     constexpr Len tablePays = 400;  // pixels
@@ -119,5 +116,8 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
 using namespace zmv;
 #define ENTRY_OF ZMV_DEFINE
 #include "datamove/scale.def"
-SCALE_FAMILY
+SCALE_INTEGERS
 SCALE_C_FAMILY
+#undef ENTRY_OF
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
+SCALE_FLOATS

@@ -30,12 +30,6 @@ class RoundingControl {
         if (changed_) __asm__ volatile("ldmxcsr %0" : : "m"(callers_) : "memory");
     }
     RoundingControl(const RoundingControl&) = delete;
-    // An argument that the compiler has in a register, and would compute with before the rounding is set.
-    template <class T>
-    T keep(T x) const {
-        __asm__ volatile("" : "+x"(x));
-        return x;
-    }
 
   private:
     unsigned callers_ = 0;

@@ -74,7 +74,6 @@ StatusCode ownpi_LUTInit(int interpolation, const L* const* levels, const L* con
     if (auto bad =
             firstOf({planePointers(levels, channels), planePointers(values, channels), levelCounts(counts, channels)}))
         return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);  // small levels differ
     Curve<L> curves[4];
     for (int c = 0; c < channels; ++c) {
         curves[c] = {{get(levels + c), get(counts + c)}, {get(values + c), get(counts + c)}};
@@ -140,7 +139,6 @@ StatusCode ownpi_LUT(Image<const T> src, Image<T> dst, Roi roi, const uint8_t* s
     const auto header = headerOf<LutSpec>(object);
     if (!header.isFor(dataTypeOf<T>, used)) return STATUS_CONTEXT_MISMATCH;
     if constexpr (std::is_same_v<T, float>) {
-        const RoundingControl control(RoundingControl::toNearestEven);
         roi = joinOperands(roi, layout, dst, src);
         const auto* const channels = CurveParts(used, 0).channels.in(object);
         WideLen all = 0, before = 0;
@@ -174,5 +172,8 @@ using namespace zmv;
 #define ENTRY_OF ZMV_DEFINE
 #include "stats/lut.def"
 LUT_SIZE_FAMILY
+LUT_INTEGERS
+#undef ENTRY_OF
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 LUT_INIT_FAMILY
-LUT_FAMILY
+LUT_FLOATS
