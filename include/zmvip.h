@@ -2535,10 +2535,6 @@ ZMV_API StatusCode zmviScale_8u32s_C1R(const uint8_t* src, int srcStep, int32_t*
 ZMV_API StatusCode zmviScale_8u32s_C3R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_8u32s_C4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_8u32s_AC4R(const uint8_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
-ZMV_API StatusCode zmviScale_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
-ZMV_API StatusCode zmviScale_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
-ZMV_API StatusCode zmviScale_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
-ZMV_API StatusCode zmviScale_8u32f_AC4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
 ZMV_API StatusCode zmviScale_16u8u_C1R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_16u8u_C3R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_16u8u_C4R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -2551,6 +2547,10 @@ ZMV_API StatusCode zmviScale_32s8u_C1R(const int32_t* src, int srcStep, uint8_t*
 ZMV_API StatusCode zmviScale_32s8u_C3R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_32s8u_C4R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScale_32s8u_AC4R(const int32_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviScale_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
+ZMV_API StatusCode zmviScale_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
+ZMV_API StatusCode zmviScale_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
+ZMV_API StatusCode zmviScale_8u32f_AC4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
 ZMV_API StatusCode zmviScale_32f8u_C1R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
 ZMV_API StatusCode zmviScale_32f8u_C3R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);
 ZMV_API StatusCode zmviScale_32f8u_C4R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, float vMin, float vMax);

@@ -89,8 +89,10 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
     const ScaleC rule{mVal, aVal};
     // Bytes have few results: they are computed once, where bytes are looked up faster, or lanes are few.
     constexpr Len tablePays = 400;  // pixels
+    const bool many = roi.width * roi.height >= tablePays;
+    const bool pastCache = !(sizeof(S) == 1 && sizeof(D) == 1 && many) && past(src, dst, roi, C1);
     if constexpr (sizeof(S) == 1 && (sizeof(D) == 1 || lanes<double> == 2))
-        if (roi.width * roi.height >= tablePays) {
+        if (many && !pastCache) {
             S all[256];
             for (int i = 0; i < 256; ++i) all[i] = S(i);
             Bits<D> table[256];
@@ -106,7 +108,7 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
                 lookUp([](auto... operands) { lookUpEntries<1>(operands...); });
             return STATUS_OK;
         }
-    pointwiseIn<double>(rule, dst, roi, C1, past(src, dst, roi, C1), src);
+    pointwiseIn<double>(rule, dst, roi, C1, pastCache, src);
     return STATUS_OK;
 }
 

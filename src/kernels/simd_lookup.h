@@ -59,7 +59,7 @@ class ByteTable {
     }
 
   private:
-    ZMV_INLINE static Vec<uint8_t> minus16(Vec<uint8_t> v) {
+    static ZMV_INLINE Vec<uint8_t> minus16(Vec<uint8_t> v) {
 #if defined(__AVX2__)
         return (Vec<uint8_t>)_mm256_subs_epi8((__m256i)v, _mm256_set1_epi8(16));
 #else

@@ -1,6 +1,7 @@
 // The ladder of refusals, made from the facts of the family.
 #include <algorithm>
 #include <climits>
+#include <iterator>
 
 #include "harness/case.h"
 
@@ -110,7 +111,8 @@ std::vector<Check> ladderOf(Case& c) {
                                        [&](const Refusal& other) { return other.status == refusal.status; });
         for (const Check& more : m.family->more)
             if (last && more.status == check.status)
-                check.breaks.insert(check.breaks.end(), more.breaks.begin(), more.breaks.end());
+                std::copy_if(more.breaks.begin(), more.breaks.end(), std::back_inserter(check.breaks),
+                             [&](const Break& b) { return m.find(b.argument); });
         if (check.breaks.empty()) continue;
         // What follows with the same status is one rung: which of the two failed cannot be seen.
         if (!ladder.empty() && ladder.back().status == check.status)

@@ -78,7 +78,7 @@ struct Arrays {
 int sizeOf(const Curves& curves) {
     using F = StatusCode(int, int, int, const int*, int*);
     int size = 0;
-    const auto ask = reinterpret_cast<F*>(underTest().find("zmviLUT_GetSize"));
+    const auto ask = reinterpret_cast<F*>(builds().front().find("zmviLUT_GetSize"));
     EXPECT_EQ(ask(curves.interpolation, curves.type.code, curves.channels, Arrays<double>(curves).counts, &size),
               STATUS_OK);
     return size;
