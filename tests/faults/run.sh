@@ -59,24 +59,33 @@ check() {
     esac >"$libs/../test.log" 2>&1
 }
 
-# build OBJECTS...: compiles these of the copy, the rest is the build without faults.
-build() {
+# compile OBJECTS...: these of the copy.
+compile() {
     local object
     [ $# = 0 ] || for object; do
         rm -f "$object"
         ninja -C "$root/build" -t commands "$object" | tail -n 1 | sed "s#$root/whole/#$root/$SLOT/#g" >compile.sh
         sh compile.sh >build.log 2>&1 || return 1
     done
-    sh "$root/link.sh" >build.log 2>&1
+}
+
+# build OBJECTS...: compiles these, the rest is the build without faults.
+build() { compile "$@" && sh "$root/link.sh" >build.log 2>&1; }
+
+# buildTests OBJECTS...: the same of the test program, where tests ask a header of the library itself.
+buildTests() {
+    compile "$@" && sh "$root/link_tests.sh" >build.log 2>&1 && tests=$PWD/tests/zmvip_tests
 }
 
 # caughtBy TEST...: whether the named test fails.  The modules that it names are tried first, three of them: a fault
 # that these show needs no other, and a test that passes decides nothing until all are compiled.
 # Status 0: caught, 1: not, 2: does not compile.
 caughtBy() {
-    local names modules objects first rest
-    mapfile -t objects < <(awk -F'\t' -v file="$file" '$2 == file { print $1 }' "$root/dependents")
+    local names modules objects first rest asking
+    mapfile -t objects < <(awk -F'\t' -v file="$file" '$2 == file && $1 ~ /zmvip_s3/ { print $1 }' "$root/dependents")
+    mapfile -t asking < <(awk -F'\t' -v file="$file" '$2 == file && /\.h$/ && $1 ~ /zmvip_tests/ { print $1 }' "$root/dependents")
     [ ${#objects[@]} -gt 0 ] || { echo "no module has $file" >build.log; return 2; }
+    [ ${#asking[@]} = 0 ] || buildTests "${asking[@]}" || return 2
     names=$([ "$1" = api_tests ] || "$tests" --build=s3 --gtest_list_tests --gtest_filter="$2" | sed -n 's/^  //p')
     modules=$(awk -F'\t' 'NR == FNR { named[$1]; next } $1 in named { print $2 }' <(echo "$names") "$root/modules" | sort -u)
     mapfile -t first < <(printf '%s\n' "${objects[@]}" | grep -F "${modules:-none of them}" | head -n 3)
@@ -117,6 +126,7 @@ if [ "${1-}" = --one ]; then
     echo $status >>"$root/results"
     cp "$root/whole/$file" "$file"
     cp -rsf "$root/build/CMakeFiles/zmvip_s3.dir" CMakeFiles/
+    cp -rsf "$root/build/tests/CMakeFiles/zmvip_tests.dir" tests/CMakeFiles/
     exit 0
 fi
 
@@ -135,15 +145,18 @@ nice cmake --build build --target zmvip_s3 zmvip_tests api_tests fake_core >buil
 # Which module has which file, which family is whose, and how the library is linked.
 ninja -C build -t deps | awk -v OFS='\t' '
     /^[^ ].*: #deps/ { object = $1; sub(/:$/, "", object) }
-    /^ / && object ~ /zmvip_s3/ && sub(/.*\/whole\//, "") { print object, $0 }' >dependents
+    /^ / && object ~ /zmvip_s3|zmvip_tests/ && sub(/.*\/whole\//, "") { print object, $0 }' >dependents
 perl -0ne 'while (m#^/\* (\w+):.*?\n   src/([\w/., ]+) \*/#msg) { my $f = $1; print "$f\t$_\n" for $2 =~ /(\w+\.cpp)/g }' \
     whole/include/zmvip.h >modules
 ninja -C build -t commands zmvip_s3 | grep -- ' -shared .*libzmvip' >link.sh
+ninja -C build -t commands zmvip_tests | grep -- ' -o tests/zmvip_tests ' >link_tests.sh
 for slot in $(seq "$jobs"); do
-    mkdir -p "$slot/CMakeFiles" "$slot/lib"
-    cp -r whole/{include,src} "$slot"
+    mkdir -p "$slot/CMakeFiles" "$slot/tests/CMakeFiles" "$slot/lib"
+    cp -r whole/{include,src,tests,tools} "$slot"
     cp -rs "$root/build/CMakeFiles/zmvip_s3.dir" "$slot/CMakeFiles/"
+    cp -rs "$root/build/tests/CMakeFiles/zmvip_tests.dir" "$slot/tests/CMakeFiles/"
     cp build/lib/lib* "$slot/lib/"
+    cp build/libcatalog.a "$slot/"
 done
 # each BLOCKS: of the numbers on standard input, as many at a time as there are processors.
 each() { xargs -P "$jobs" -n 1 --process-slot-var=SLOT -- nice bash -c 'SLOT=$((SLOT + 1)) exec bash "$0" --one "$1"' "$here/run.sh"; }
