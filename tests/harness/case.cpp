@@ -60,6 +60,7 @@ Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
         height = rng.between(1100000, 1600000) / (width * pixel) + 1;
     }
     if (mode == Mode::shared) height = rng.between(2, 7);
+    if (mode == Mode::tiles) width = rng.between(20, 120), height = rng.between(12, 40);
     if (mode == Mode::far) {
         extreme_ = packed_ = false;
         height = m.large ? rng.between(2, 3) : rng.between(4, 5);

@@ -20,6 +20,7 @@ enum class Mode {
     bulk,      // megabytes
     controls,  // any floating-point control words
     shared,    // rows that are written overlap each other
+    tiles,     // what can be cut into parts
 };
 
 // Whether its results depend on the rounding mode.
@@ -84,9 +85,11 @@ class Case {
 
     void expectResults();
     void call();
-    // The same call in another build, on operands as they were before the first call.
+    // The same call in another build or in parts, on operands as they were before the first call.
     void keepOperands();
     void callAgain(const Library& other);
+    const std::vector<Slot>& args() const { return args_; }
+    void callParts(const std::vector<std::vector<Slot>>& parts, const std::function<void()>& after = {});
     void use(const Library& other) { library = other, replay_ = other.build; }
     int64_t returned = 0, expected = STATUS_OK;  // the oracle may expect another status
     void fail(const std::string& what) {
@@ -102,11 +105,12 @@ class Case {
 
     std::map<std::string, std::array<uint8_t*, 4>> planePointers;
     std::map<std::string, Image> images;
+    std::vector<Block>& blocks() const { return const_cast<Case*>(this)->blocks_; }
     static std::set<std::string> exercised;                     // members that were called
     static std::map<const Family*, std::set<int64_t>> returns;  // what families gave in the sweep
 
   private:
-    std::vector<Block>& blocks() const { return const_cast<Case*>(this)->blocks_; }
+    void callOnce(const std::vector<Slot>& given);
     Layout layoutOf(const std::string& name) const;
     int64_t chooseStep(int64_t rowBytes, bool written);
     size_t newBlock(size_t bytes);
@@ -133,5 +137,8 @@ extern volatile bool copiedOverlapping;
 
 // Runs one case in all builds, from arrangement to verdict.
 std::string runCase(const Member& m, uint64_t seed, Mode mode);
+// Whether parts of a call make the whole, and the call in parts.
+bool hasTiles(const Member& m);
+std::string runTiles(const Member& m, uint64_t seed);
 
 }  // namespace test

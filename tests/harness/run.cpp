@@ -145,6 +145,10 @@ void registerAll() {
         if (tested.row->members[0].find("buffer")) add("Buffer", name, [&f] { misalign(f); });
         add("SharedRows", name, [&f] { sweep(f, Mode::shared, 24); });
         if (*facts.ordered) add("Overlap", name, [&f] { sweep(f, Mode::overlap, 80); });
+        add("Tiles", name, [&f] {
+            eachCase(f, 12,
+                     [](const Member& m, uint64_t seed) { return hasTiles(m) ? runTiles(m, seed) : std::string(); });
+        });
         if (facts.bulk) add("Bulk", name, [&f] { sweep(f, Mode::bulk, 1); });
         if (facts.refusals.count) add("Refusals", name, [&f] { eachCase(f, 1, refuse); });
     }
@@ -152,7 +156,7 @@ void registerAll() {
     std::istringstream codes(options.builds);
     for (std::string build; std::getline(codes, build, ',');)
         if (!processorRuns(build))
-            for (const char* suite : {"Sweep", "Controls", "Far", "SharedRows", "Overlap", "Bulk", "Refusals"})
+            for (const char* suite : {"Sweep", "Controls", "Far", "SharedRows", "Overlap", "Bulk", "Tiles", "Refusals"})
                 add(suite, build, [build] { GTEST_SKIP() << "this processor does not run the " << build << " build"; });
 }
 
