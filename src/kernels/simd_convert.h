@@ -82,12 +82,17 @@ ZMV_INLINE V larger(V a, V b) {
 }
 template <class V>
 ZMV_INLINE V squareRoot(V v) {
-    for (int i = 0; i < lanesOf<V>; ++i)
-        if constexpr (std::is_same_v<Element<V>, float>)
-            v[i] = __builtin_sqrtf(v[i]);
-        else
-            v[i] = __builtin_sqrt(v[i]);
-    return v;
+    constexpr bool single = std::is_same_v<Element<V>, float>;
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64 && single) return (V)_mm512_sqrt_ps((__m512)v);
+    if constexpr (sizeof(V) == 64 && !single) return (V)_mm512_sqrt_pd((__m512d)v);
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32 && single) return (V)_mm256_sqrt_ps((__m256)v);
+    if constexpr (sizeof(V) == 32 && !single) return (V)_mm256_sqrt_pd((__m256d)v);
+#endif
+    if constexpr (sizeof(V) == 16 && single) return (V)_mm_sqrt_ps((__m128)v);
+    if constexpr (sizeof(V) == 16 && !single) return (V)_mm_sqrt_pd((__m128d)v);
 }
 
 // From a vector of half the size, exactly.
