@@ -35,11 +35,17 @@ class Transposer {
             }
             if (roi.width >= across && roi.height >= across) return tiles<16, across>(src, dst, roi);
         }
+        if constexpr (inThrees) {
+            constexpr Len many = 3 * line / pixel, few = 48 / pixel;  // rows
+            if (roi.width >= reach && roi.height >= many) return threes<vectorBytes, many>(src, dst, roi);
+            if (roi.width >= reach && roi.height >= few) return threes<16, few>(src, dst, roi);
+        }
         pixels(src, dst, roi);
     }
 
   private:
     static constexpr bool inVectors = 16 % pixel == 0;
+    static constexpr bool inThrees = pixel % 3 == 0 && (hasByteShuffle || pixel == 12);
     static constexpr int across = 16 / pixel;  // pixels of a lane
     static constexpr int line = int(lineBytes),
                          lineRows = line / pixel;  // rows that make a cache line of the destination
@@ -103,6 +109,55 @@ class Transposer {
                         copyRow(dst.row(column + i) + y * pixel, lines + i * line + done, line - done);
                 }
             }
+    }
+
+    // Pixels of three channels are made four while they change places: a lane has as many as fit then, and reaches over
+    // the last of them.
+    static constexpr int padded = pixel / 3 * 4, atOnce = 16 / padded, reach = (16 + pixel - 1) / pixel;
+    struct Padding {
+        alignas(16) uint8_t add[16], drop[16];
+        constexpr Padding() : add(), drop() {
+            for (int i = 0; i < 16; ++i) {
+                add[i] = uint8_t(i % padded < pixel ? i / padded * pixel + i % padded : 128);
+                drop[i] = uint8_t(i < atOnce * pixel ? i / pixel * padded + i % pixel : 128);
+            }
+        }
+    };
+    template <int size, int down>
+    static void threes(ConstBytes src, Bytes dst, Roi roi) {
+        using V = Vec<uint8_t, size>;
+        using T = typename UnsignedOf<std::min(padded, 8)>::type;
+        static constexpr Padding padding;
+        const V add = loadLanes<uint8_t, size>(padding.add, 0), drop = loadLanes<uint8_t, size>(padding.drop, 0);
+        constexpr Len runBytes = down * pixel, columns = 48 / pixel;
+        constexpr int tileRows = size / padded;
+        // Of the destination's rows; a lane is written over the end of the one before it.
+        uint8_t runs[atOnce][runBytes + 16];
+        const Len inLanes = (roi.width - reach) / atOnce * atOnce + atOnce;
+        for (Len x0 = 0; x0 < inLanes; x0 += columns)
+            for (Len y = 0; y < roi.height; y += down) {
+                const Len row = std::min(y, roi.height - down);
+                for (Len x = x0; x < std::min(x0 + columns, inLanes); x += atOnce) {
+                    for (int part = 0; part < down; part += tileRows) {
+                        Block<Vec<T, size>, atOnce> rows;
+                        const uint8_t* const from = src.row(row + part) + x * pixel;
+                        for (int i = 0; i < atOnce; ++i) {
+                            V v = loadLanes<uint8_t, size>(from + i * src.step, atOnce * src.step);
+                            if constexpr (atOnce > 1) v = shuffleBytes(v, add);
+                            rows[i] = (Vec<T, size>)v;
+                        }
+                        rows = transposed<atOnce, Vec<T, size>>(rows);
+                        for (int i = 0; i < atOnce; ++i) {
+                            V v = (V)rows[i];
+                            if constexpr (atOnce > 1) v = shuffleBytes(v, drop);
+                            storeLanes(runs[i] + part * pixel, v, 12);
+                        }
+                    }
+                    for (int i = 0; i < atOnce; ++i) copyRow(dst.row(x + i) + row * pixel, runs[i], runBytes);
+                }
+            }
+        if (inLanes < roi.width)
+            pixels(src.at(inLanes * pixel, 0), dst.at(0, inLanes), {roi.width - inLanes, roi.height});
     }
 
     static void pixels(ConstBytes src, Bytes dst, Roi roi) {
