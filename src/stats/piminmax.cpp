@@ -9,9 +9,12 @@ namespace {
 template <class Pick, class T>
 PerChannel<T> extremes(Image<const T> src, Roi roi, int channels) {
     return withChannels(channels, [&](auto n) {
-        RankFold<n, Pick, T> fold;
-        foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
-        const auto ranks = fold.extremes();
+        const auto found = [&](auto fold) {
+            foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
+            return fold.extremes();
+        };
+        auto ranks = found(FastFold<n, Pick, T>());
+        if (inDoubt<Pick, T>(ranks, n)) ranks = found(RankFold<n, Pick, T>());
         PerChannel<T> result{};
         for (int c = 0; c < n; ++c) result[c] = fromRank<Pick, T>(ranks[c]);
         return result;
@@ -30,12 +33,19 @@ template <class T>
 StatusCode ownpi_MinMax(Image<const T> src, Roi roi, Layout layout, T* least, T* most) {
     if (auto bad = firstOf({pointers(src.data, least, most), size(roi)})) return bad;
     withChannels(layout.channels, [&](auto n) {
-        BothRanksFold<n, T> fold;
-        foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
-        const auto lows = fold.least(), highs = fold.most();
+        struct Ranks {
+            PerChannel<RankOf<T>> least, most;
+        };
+        const auto found = [&](auto fold) {
+            foldRegion<n>(fold, roi, Pattern(bits(src.data), Layout{n}), src);
+            return Ranks{fold.least(), fold.most()};
+        };
+        Ranks ranks = found(BothFolds<FastFold<n, Smaller, T>, FastFold<n, Larger, T>>());
+        if (inDoubt<Smaller, T>(ranks.least, n) || inDoubt<Larger, T>(ranks.most, n))
+            ranks = found(BothFolds<RankFold<n, Smaller, T>, RankFold<n, Larger, T>>());
         for (int c = 0; c < layout.used(); ++c) {
-            put(least + c, fromRank<Smaller, T>(lows[c]));
-            put(most + c, fromRank<Larger, T>(highs[c]));
+            put(least + c, fromRank<Smaller, T>(ranks.least[c]));
+            put(most + c, fromRank<Larger, T>(ranks.most[c]));
         }
     });
     return STATUS_OK;
@@ -130,7 +140,7 @@ class BlockRow {
     static constexpr Len columns = 512;
 
     void foldBlock(Image<const T> src, Roi roi, T* least, T* most) {
-        BothRanksFold<1, T> fold;
+        BothFolds<RankFold<1, Smaller, T>, RankFold<1, Larger, T>> fold;
         foldRegion<1>(fold, roi, Pattern(bits(src.data), C1), src);
         put(least, fromRank<Smaller, T>(fold.least()[0]));
         put(most, fromRank<Larger, T>(fold.most()[0]));
