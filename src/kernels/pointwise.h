@@ -28,7 +28,7 @@ struct ImageRow {
 template <class T>
 struct ConstantRow {
     Vec<T> period[3];
-    ConstantRow(const Pattern& p, Len from)
+    ZMV_INLINE ConstantRow(const Pattern& p, Len from)
         : period{(Vec<T>)p.at(from), (Vec<T>)p.at(from + vectorBytes), (Vec<T>)p.at(from + 2 * vectorBytes)} {}
     Vec<T> at(Len, int k) const { return period[k]; }
     Vec<T> part(Len, int k, int) const { return period[k]; }
@@ -40,7 +40,8 @@ ZMV_INLINE ImageRow<T> rowOf(Image<const T> image, Len y, Len x, Len) {
 }
 template <class T>
 ZMV_INLINE ConstantRow<T> rowOf(const Constant<T>& constant, Len, Len x, Len) {
-    return {constant.pattern, x * Len(sizeof(T))};
+    constexpr Len start = 0;  // known to the compiler, as most rows begin there
+    return x == 0 ? ConstantRow<T>(constant.pattern, start) : ConstantRow<T>(constant.pattern, x * Len(sizeof(T)));
 }
 template <class T>
 bool operandGapless(Image<const T> image, Len width, int channels) {
