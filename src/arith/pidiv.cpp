@@ -24,18 +24,19 @@ struct Divisors {
         if (zero) return;
         using B = Bits<T>;
         const auto row = reinterpret_cast<const uint8_t*>(image.row(y) + x);
+        const auto skipped = (Vec<B>)alpha.at(0);  // in every vector: four elements fill it some times over
         Vec<B> found{};
-        const auto lookAt = [&](Vec<B> v, Len offset) {
-            v |= (Vec<B>)alpha.at(offset);
+        const auto lookAt = [&](Vec<B> v) {
+            v |= skipped;
             found |= (Vec<B>)isZero(v, std::is_floating_point_v<T>);
         };
         const Len bytes = n * Len(sizeof(T));
-        const Len done = eachVector(0, bytes, [&](Len at, auto) { lookAt(loadAs<Vec<B>>(row + at), at); });
+        const Len done = eachVector(0, bytes, [&](Len at, auto) { lookAt(loadAs<Vec<B>>(row + at)); });
         if (done < bytes) {
             Vec<B> rest = ~Vec<B>{};
             const int left = int((bytes - done) / Len(sizeof(T)));
             storePart(&rest, loadPart(reinterpret_cast<const B*>(row + done), left), left);
-            lookAt(rest, done);
+            lookAt(rest);
         }
         zero = !allZero(found);
     }
