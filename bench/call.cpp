@@ -57,6 +57,10 @@ ImageSizeL Call::area(const std::string& name) const {
     const bool turnsInPlace = std::string(member.name).rfind("zmviTranspose_", 0) == 0 && has("roiSize");
     if (turnsInPlace) return {setting.height, setting.height};
     if (name == "roiSize" || name == "srcRoiSize") return {setting.width, setting.height};
+    if (name == "kernelSize") return {kernelSide(), kernelSide()};
+    if (name == "src2Size")
+        return {std::min<int64_t>(kernelSide(), setting.width), std::min<int64_t>(kernelSide(), setting.height)};
+    if (name == "src1Size" || (name == "dstRoiSize" && !has("srcRoiSize"))) return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
     if (name == "maskSize") return {setting.mask, setting.mask};
     if (name == "blockSize") return {16, 16};
@@ -74,8 +78,14 @@ double Call::number(const std::string& name) const {
     if (name == "height") return double(setting.height);
     if (name == "top" || name == "left") return setting.border;
     if (name == "maskSize") return setting.mask;
-    if (name == "anchor") return setting.mask / 2;
+    if (name == "anchor") return kernelSide() / 2;
     if (name == "borderType") return BORDER_REPL;
+    if (name == "roiWidth") return double(setting.width);
+    if (name == "divisor") return kernelSide() * kernelSide();
+    if (name == "kernelType") return type == "64f" ? DATATYPE_64F : wholeTaps() ? DATATYPE_16S : DATATYPE_32F;
+    if (name == "algType") return CONV_METHOD_AUTO | CONV_SHAPE_FULL;
+    if (name == "offset") return 0;
+    if (name == "dataType" && std::string(member.name).ends_with("Init_64f")) return DATATYPE_64F;
     if (name == "dataType") return codes.at(type);
     if (name == "numChannels") {
         const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
@@ -119,10 +129,11 @@ void* Call::pointer(const std::string& name, int64_t element) {
         static const int kept[] = {0, 1, 2, 3}, exchanged[] = {2, 1, 0, 3};
         return const_cast<int*>(fromChannels == toChannels ? exchanged : kept);
     }
+    if (name == "pKernel") return kernel(element);
     if (name == "buffer") return workBuffer();
     if (name == "stepOut" || name == "pBufferSize") return &answer;
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts" || name == "pSpecSize" || name == "pThreshold")
+        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize")
         return allocate(32).data();
     if (name == "pSpec") return specObject();
     if (name == "pHist") return allocate(bins * element).data();
@@ -151,12 +162,17 @@ void* Call::planes(const std::string& name, int64_t element) {
 
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
 uint8_t* Call::image(const std::string& name, int64_t pixel) {
-    const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask", bordered = has("dstRoiSize");
-    ImageSizeL size = area(!bordered ? "roiSize" : isRead ? "srcRoiSize" : "dstRoiSize");
+    const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask",
+               bordered = has("dstRoiSize") && has("srcRoiSize");
+    const bool convolved = has("src2Size");
+    ImageSizeL size = area(convolved           ? name == "src2" ? "src2Size" : "src1Size"
+                           : has("dstRoiSize") ? bordered && isRead ? "srcRoiSize" : "dstRoiSize"
+                                               : "roiSize");
+    if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
     const int64_t row = size.width * pixel, step = row + setting.padding;
     // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
-    const int64_t margin = has("anchor") ? setting.mask + setting.mask / setting.width + 1 : 0;
+    const int64_t margin = has("anchor") ? kernelSide() + kernelSide() / setting.width + 1 : 0;
     Memory& block = allocate(step * (size.height + 2 * margin));
     for (Line& line : block)
         for (uint32_t& word : line.words)
@@ -187,7 +203,9 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
 // The size comes from the family's own query, bound and called like any other member.
 void* Call::workBuffer() {
     const std::string name = member.name;
-    const Member& query = findMember(name.substr(0, name.find('_')) + "GetBufferSize");
+    if (name.rfind("zmviFilter_", 0) == 0) return nullptr;
+    const bool filter = name.rfind("zmviFilterBorder_", 0) == 0;
+    const Member& query = findMember(name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize"));
     Setting asked = setting;
     asked.about = name;
     const auto call = query.bind(asked, build);
@@ -199,15 +217,32 @@ void* Call::workBuffer() {
 void* Call::specObject() {
     const std::string name = member.name, family = name.substr(0, name.find('_'));
     if (name.find("Init") != name.npos) return spec = allocate(1 << 20).data();
-    const bool histogram = family.rfind("zmviHistogram", 0) == 0;
-    const Member& init = findMember(histogram             ? "zmviHistogramUniformInit"
-                                    : family == "zmviLUT" ? "zmviLUT_Init_" + type
-                                                          : family + "Init");
+    const bool filter = family.rfind("zmviFilterBorder", 0) == 0;
+    const Member& init = findMember(family.rfind("zmviHistogram", 0) == 0 ? "zmviHistogramUniformInit"
+                                    : family == "zmviLUT"                 ? "zmviLUT_Init_" + type
+                                    : !filter                             ? family + "Init"
+                                    : type == "64f"                       ? "zmviFilterBorderInit_64f"
+                                    : wholeTaps()                         ? "zmviFilterBorderInit_16s"
+                                                                          : "zmviFilterBorderInit_32f");
     Setting asked = setting;
     asked.about = name;
     maker = init.bind(asked, build);
     maker->run(build, build.find(init.name), 1);
     return maker->spec;
+}
+
+// Taps of any rank that need all bits, or of a column times a row.
+void* Call::kernel(int64_t element) {
+    const int side = kernelSide();
+    uint8_t* const taps = reinterpret_cast<uint8_t*>(allocate(side * side * element).data());
+    for (int k = 0; k < side * side; ++k) {
+        const int tap = setting.mask / 100 == 2 ? (k % side + 1) * (k / side + 1) : 37 * k % 101 - 20;
+        const auto put = [&](auto as) { std::memcpy(taps + k * element, &as, sizeof as); };
+        if (element == 2) put(int16_t(tap));
+        if (element == 4) put(float(tap) / 997);
+        if (element == 8) put(tap / 997.0);
+    }
+    return taps;
 }
 
 // Written here, so that no page is new to a timed call.  The words are ordinary numbers also when read as floats.

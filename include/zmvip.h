@@ -717,6 +717,127 @@ ZMV_API StatusCode zmviSumWindowColumn_16s32f_C1R(const int16_t* src, int srcSte
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 
+/* zmviFilterBorderGetSize: The sizes in bytes of the spec object and of the work buffer of zmviFilterBorder, for images
+   of dataType and
+   numChannels (1 to 4, two counting as one; DATATYPE_64F: 1) and a kernel of kernelType, DATATYPE_16S or _32F (of 64f
+   images DATATYPE_64F).  A block that is large enough for one kernel type is so for the others.
+   Checked in this order.  STATUS_BAD_SIZE: width or height of dstRoiSize below 1.  STATUS_BAD_DATATYPE: dataType is not
+   DATATYPE_8U, _16U, _16S, _32F or _64F, then another kernelType (of 16s images whose kernels stay integers
+   DATATYPE_64F passes, though no kernel has it).  STATUS_BAD_NUM_CHANNELS: numChannels is not 1, 2, 3 or 4.
+   STATUS_NULL_POINTER: pSpecSize or pBufferSize is null.  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647;
+   *pBufferSize is 0 then, *pSpecSize stays as it was.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilterBorderGetSize(ImageSize kernelSize, ImageSize dstRoiSize, int dataType, int kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
+
+/* zmviFilterBorderInit: Makes the spec object of zmviFilterBorder in pSpec, a block at any alignment: it starts at the
+   next 64-byte
+   boundary, and may be copied to another block as far from one.  The kernel, row by row, is that of a convolution:
+   pKernel[kernelSize.height / 2 * width + width / 2] is the tap of the pixel itself.
+     _16s  integer taps over divisor, for 8u, 16u and 16s images.  They stay integers for 8u images and for 16s
+           ones of one channel and kernels at least 3 wide and 2 high; else they become tap * (1.0 / divisor)
+     _32f  for 8u, 16u, 16s and 32f images
+     _64f  for 64f images of one channel
+   roundMode: ROUND_ZERO, ROUND_NEAR or ROUND_FINANCIAL (one half is added, and the sum rounded down); of 64f images,
+   which are not rounded, only ROUND_NEAR.  ROUND_HINT_ACCURATE may be added and changes no result.
+   Checked in this order.  STATUS_NULL_POINTER: pKernel or pSpec is null.  STATUS_BAD_DATATYPE: dataType is not
+   DATATYPE_8U, _16U, _16S, _32F or _64F.  STATUS_BAD_NUM_CHANNELS: numChannels is not 1, 2, 3 or 4.
+   STATUS_BAD_ROUND_MODE: another mode.  STATUS_BAD_DIVISOR: divisor is zero.
+   STATUS_WARN_ACCURATE_IGNORED: done; ROUND_HINT_ACCURATE with taps in single precision or two channels.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilterBorderInit_16s(const int16_t* pKernel, ImageSize kernelSize, int divisor, int dataType, int numChannels, int roundMode, uint8_t* pSpec);
+ZMV_API StatusCode zmviFilterBorderInit_32f(const float* pKernel, ImageSize kernelSize, int dataType, int numChannels, int roundMode, uint8_t* pSpec);
+ZMV_API StatusCode zmviFilterBorderInit_64f(const double* pKernel, ImageSize kernelSize, int dataType, int numChannels, int roundMode, uint8_t* pSpec);
+
+/* zmviFilterBorderSetMode: Changes a spec object of zmviFilterBorder: offset is added to results of 8u and 16u images;
+   hint, HINT_ACCURATE or
+   any other number, is kept and changes no result.
+   Checked in this order.  STATUS_NULL_POINTER: pSpec is null.  STATUS_BAD_ARGUMENT: an offset other than zero for 16s,
+   32f or 64f images; the object stays as it was.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilterBorderSetMode(int hint, int offset, uint8_t* pSpec);
+
+/* zmviFilterBorder: The pixels round each pixel, weighted by the kernel of a spec object and added up: with kernel K, w
+   wide and h high,
+     dst(x, y) = sum of K[i][j] * src(x + w / 2 - j, y + h / 2 - i)
+   Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
+   channel), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   Integer taps: the sum modulo 2^32 over the divisor, exactly, rounded once; ROUND_ZERO rounds toward zero, but down
+   where the divisor is a power of two.  Then the offset is added and the result saturated, to 16 signed bits first.
+   Single precision: products are rounded one by one and added in one order, the top row of the window first, left to
+   right.  Integer results get the offset, are brought into range (NaN is 0) and rounded, whatever the caller's control
+   word; 32f and 64f results follow the control word.  Tiles agree with the whole to the bit.
+   The object must be one of the image's type and channels, which is not checked; any number of calls may share it.
+   The images must not overlap.
+   buffer has the size that zmviFilterBorderGetSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pSpec or buffer is null, then BORDER_CONST without
+   borderValue.  STATUS_BAD_SIZE: width or height of dstRoiSize below 1.  STATUS_BAD_STEP: srcStep is not positive, then
+   dstStep is less than the bytes of a row.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilterBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint8_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint8_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint8_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const uint16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const int16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const int16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int borderType, const int16_t* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize dstRoiSize, int borderType, const float* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize dstRoiSize, int borderType, const float* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize dstRoiSize, int borderType, const float* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterBorder_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize dstRoiSize, int borderType, const double* borderValue, const uint8_t* pSpec, uint8_t* buffer);
+
+/* zmviFilterGetBufSize: The size in bytes of the work buffer of zmviFilter: 0.
+   STATUS_NULL_POINTER: pSize is null.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilterGetBufSize_64f_C1R(ImageSize kernelSize, int roiWidth, int* pSize);
+
+/* zmviFilter: dst(x, y) = sum of K[i][j] * src(x + anchor.x - j, y + anchor.y - i), all read from the caller's memory,
+   in the
+   order and with the bits of zmviFilterBorder.  Any anchor is taken: the caller answers for what is readable.
+   buffer is not used and may be null.
+   The images must not overlap.
+   buffer has the size that zmviFilterGetBufSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or pKernel is null.  STATUS_BAD_SIZE: width or height of
+   dstRoiSize below 1.  STATUS_BAD_STEP: srcStep below the bytes of a row and its neighbours, then dstStep is less than
+   the bytes of a row.
+   src/filter/pifilterb.cpp */
+ZMV_API StatusCode zmviFilter_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize dstRoiSize, const double* pKernel, ImageSize kernelSize, ImagePoint anchor, uint8_t* buffer);
+
+/* zmviConvGetBufferSize: The size in bytes of the work buffer of zmviConv.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U,
+   _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_ALGORITHM: another method or shape.
+   STATUS_BAD_SIZE: CONV_SHAPE_VALID, and neither image lies in the other.  STATUS_SIZE_EXCEEDS_INT: a size exceeds
+   2147483647; nothing is written.
+   src/filter/piconvolvefull.cpp */
+ZMV_API StatusCode zmviConvGetBufferSize(ImageSize src1Size, ImageSize src2Size, int dataType, int numChannels, int algType, int* pBufferSize);
+
+/* zmviConv: The convolution of two images, channel by channel: dst(x, y) = sum of src1(x - j, y - i) * src2(j, i), over
+   divisor.
+   algType is a method and a shape; its bits 8 to 15 and 24 to 31 are ignored.
+     CONV_SHAPE_FULL   all of it, width1 + width2 - 1 by height1 + height2 - 1; pixels outside are zero and take part
+     CONV_SHAPE_VALID  the part in which the smaller image lies inside the larger: the difference of sizes plus 1
+   CONV_METHOD_AUTO, _DIRECT and _FFT all sum directly as yet.  Once there are transforms, only 32f results of the last,
+   and of the first for large kernels, may change, within the rounding of single precision.
+   Integers: the exact sum over the divisor, rounded once to nearest even, saturated.  32f: products are rounded one by
+   one and added from the top row of the window on, left to right, under the caller's rounding mode; the smaller image
+   is the kernel.
+   The images must not overlap.
+   buffer has the size that zmviConvGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_NULL_POINTER: buffer is null.  STATUS_BAD_DIVISOR: divisor is zero.  STATUS_BAD_ALGORITHM: another method or
+   shape.  STATUS_BAD_SIZE: CONV_SHAPE_VALID, and neither image lies in the other.
+   src/filter/piconvolvefull.cpp */
+ZMV_API StatusCode zmviConv_8u_C1R(const uint8_t* src1, int src1Step, ImageSize src1Size, const uint8_t* src2, int src2Step, ImageSize src2Size, uint8_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_8u_C3R(const uint8_t* src1, int src1Step, ImageSize src1Size, const uint8_t* src2, int src2Step, ImageSize src2Size, uint8_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_8u_C4R(const uint8_t* src1, int src1Step, ImageSize src1Size, const uint8_t* src2, int src2Step, ImageSize src2Size, uint8_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_16s_C1R(const int16_t* src1, int src1Step, ImageSize src1Size, const int16_t* src2, int src2Step, ImageSize src2Size, int16_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_16s_C3R(const int16_t* src1, int src1Step, ImageSize src1Size, const int16_t* src2, int src2Step, ImageSize src2Size, int16_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_16s_C4R(const int16_t* src1, int src1Step, ImageSize src1Size, const int16_t* src2, int src2Step, ImageSize src2Size, int16_t* dst, int dstStep, int divisor, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_32f_C1R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_32f_C3R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
+ZMV_API StatusCode zmviConv_32f_C4R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
+
 /* zmviAdd: dst = src1 + src2.
    Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
    scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands

@@ -97,7 +97,10 @@ enum { INTERP_NEAREST = 1, INTERP_LINEAR = 2, INTERP_CUBIC = 6, INTERP_SUPER = 8
 
 /* How a real number becomes an integer.  The financial mode adds one half, then cuts down: zmviDiv_Round to the integer
    below, zmviConvert toward zero. */
-enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2 };
+enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2, ROUND_HINT_ACCURATE = 16 };
+
+/* How zmviConv works, and which part of the result it gives: all of it, or where the smaller image lies inside. */
+enum { CONV_METHOD_AUTO = 0, CONV_METHOD_DIRECT = 1, CONV_METHOD_FFT = 2, CONV_SHAPE_FULL = 0, CONV_SHAPE_VALID = 0x10000 };
 
 /* The hint of sums and norms of floats: add up in double.  Any other number: in float, where that is faster. */
 enum { HINT_ACCURATE = 2 };

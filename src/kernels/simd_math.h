@@ -96,6 +96,17 @@ ZMV_INLINE auto pairProducts(V a, V b) {
     ZMV_AT_ALL(Products, madd_epi16, a, b)
 }
 
+// The same of unsigned bytes and signed ones, in 16 bits, which hold the sums by the caller's care.
+template <class A, class B>
+ZMV_INLINE auto bytePairProducts(A a, B b) {
+    static_assert(std::is_same_v<Element<A>, uint8_t> && std::is_same_v<Element<B>, int8_t>);
+    using Products = Vec<int16_t, sizeof(A)>;
+    ZMV_ABOVE_128(Products, maddubs_epi16, a, b)
+    if constexpr (sizeof(A) == 16)
+        return (Products)((Vec<uint16_t, 16>)a & 255) * ((Products)b << 8 >> 8) +
+               (Products)((Vec<uint16_t, 16>)a >> 8) * ((Products)b >> 8);
+}
+
 template <class V>
 ZMV_INLINE V mulHighSigned(V a, V b) {
     static_assert(std::is_same_v<Element<V>, int16_t>);

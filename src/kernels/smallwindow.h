@@ -1,0 +1,198 @@
+// The walker of small windows: it hands a rule the rows round a block of results, as addresses, and the rule knows
+// nothing of borders.
+//
+// Where a window lies in the caller's memory it is read there.  Only columns whose windows reach beyond it are copied,
+// with what the border makes of the pixels outside: a strip at the left end of the rows and one at the right, wide
+// enough for whole vectors, or all of a narrow region.  Rows outside are rows inside under another number, or a row of
+// the constant.
+//
+//     struct Rule {
+//         using Result = uint8_t;
+//         static constexpr int rows = 2;                // of results in a block
+//         static constexpr int step = lanes<uint8_t>;   // elements of a vector
+//         void start(const T* const* above, Len count);  // may be left out: the rows before those of the first block
+//         void operator()(const T* const* rows, Result* const* dst, Len count);
+//     };
+//
+// rows[i] is the row of the block's window number i, at the leftmost neighbour of the first of `count` results; result
+// k of row r has its neighbours at rows[r] + k .. rows[r + window.height - 1] + k + (window.width - 1) * n.  There is
+// one row more than the results need, for rules that take rows in pairs.  A rule walks the results by eachVectorOf, in
+// vectors of `step` that it may read in full, and stores row r after row r + 1: behind the last row of the region the
+// results of the last one stand for those that are too many.
+//
+// A rule with `static constexpr bool exact = true` and one row of results reads no more than its windows, and gets
+// strips that are no wider than they have to be, one row at a time: for work buffers that hold no more than that.
+#pragma once
+
+#include "core/spec.h"
+#include "kernels/bands.h"
+
+namespace zmv {
+
+// body(i, x, n) for vector i, the n elements from x on: the last vector ends with the row and does some of them twice;
+// a row that is shorter than a vector is a part of one.
+template <int step, class Body>
+ZMV_INLINE void eachVectorOf(Len count, Body body) {
+    if (count < step) return body(Len(0), Len(0), int(count));
+    Len i = 0;
+    for (; (i + 1) * step <= count; ++i) body(i, i * step, step);
+    if (i * step < count) body(i, count - step, step);
+}
+
+// Elements of a row that are worked at a time where a rule has no reason for another number: so many that the processor
+// fetches rows ahead, so few that the rows of a window stay in the nearest caches.
+constexpr Len longestStrip = 4096;
+
+template <class T, int n, class Rule>
+class SmallWindow {
+  public:
+    using D = typename Rule::Result;
+    // results: they start at the source's first pixel, and need not end with it.  longest: elements of a row that are
+    // worked at a time.
+    SmallWindow(const Bands<T, n>& bands, Image<D> dst, Roi results, Window window, Len longest)
+        : bands_(bands),
+          dst_(dst),
+          end_(results.width * n),
+          height_(results.height),
+          before_(window.left * n),
+          behind_(window.right * n),
+          top_(window.top),
+          bottom_(window.bottom),
+          longest_(longest) {}
+
+    // What run() takes for a window of so many elements and rows; with vectors of 64 bytes, what it takes in any build.
+    static constexpr WideLen bytes(WideLen width, WideLen height, Len longest, int vector = vectorBytes) {
+        const Len step = Rule::step * vector / vectorBytes;
+        const WideLen copies = copiedRows(height) * (copiedRow(width, step, vector) + step);
+        return tableSize(height) * WideLen(sizeof(T*)) + 7 +
+               std::max<WideLen>(copies, longest + step + width) * WideLen(sizeof(T));
+    }
+
+    void run(Rule& rule, Scratch scratch) const {
+        Len left = std::clamp<Len>(bands_.firstColumn() * n + before_, 0, end_);
+        Len right = std::clamp<Len>(bands_.endColumn() * n - behind_, 0, end_);
+        if constexpr (!exact) {
+            if (left > 0) left = std::max<Len>(left, Rule::step);
+            if (right < end_) right = std::min<Len>(right, end_ - Rule::step);
+        }
+        const bool copiedWhole = !exact && (left > 0 || right < end_) && end_ <= narrow * lanes<T>;
+        if (copiedWhole || right - left < (exact ? 1 : Rule::step)) return strip<true>(rule, 0, end_, scratch);
+        if (left > 0) strip<true>(rule, 0, left, scratch);
+        for (Len from = left, to; from < right; from = to) {
+            to = right - from < longest_ + Rule::step ? right : from + longest_;
+            strip<false>(rule, from, to, scratch);
+        }
+        if (right < end_) strip<true>(rule, right, end_, scratch);
+    }
+
+  private:
+    // Rows are worked in batches: what is copied is copied well before it is read, since a load that spans recent
+    // stores waits for them.
+    static constexpr bool exact = requires { requires Rule::exact; };
+    static constexpr int batch = exact ? 1 : 16, slack = exact ? 0 : Rule::step;
+    static constexpr WideLen tableSize(WideLen height) { return height + batch; }
+    static constexpr WideLen copiedRows(WideLen height) { return height - 1 + batch; }
+    // Rows of this many vectors are copied as a whole: that costs less than to walk three strips.
+    static constexpr int narrow = 8;
+    // The longest one: a vector and two ends, each a vector or what a window takes, and what the window takes beyond.
+    static constexpr WideLen copiedRow(WideLen width, Len step, int vector) {
+        return std::max<WideLen>(narrow * vector / Len(sizeof(T)), step + 2 * std::max<WideLen>(width, step)) + width;
+    }
+
+    template <bool copied>
+    void strip(Rule& rule, Len from, Len to, Scratch scratch) const {
+        const Len first = from - before_, length = to + behind_ - first, rowLength = length + slack;
+        const Len kept = top_ + bottom_, slots = Len(copiedRows(kept + 1));
+        constexpr Len few = 48;
+        const T* ours[few];
+        const auto table = Len(tableSize(kept + 1)) <= few
+                               ? ours
+                               : scratch.take<const T*, alignof(const T*)>(Len(tableSize(kept + 1)));
+        T* const memory = scratch.take<T>(0);
+        const Ends ends(bands_, first, first + length);
+        bool constantIsLaidOut = false;
+        Len slot = 0;
+        const auto rowAt = [&](Len y) -> const T* {
+            const T* const row = bands_.row(y, 0).inside;
+            if constexpr (copied) {
+                T* const copy = memory + slot * rowLength;
+                if (++slot == slots) slot = 0;
+                ends.copy(copy, row);
+                return copy;
+            } else {
+                if (row) return row + first;
+                if (!constantIsLaidOut) ends.copy(memory, nullptr);
+                constantIsLaidOut = true;
+                return memory;
+            }
+        };
+        const auto fillTable = [&](Len at, Len y, Len count) {
+            for (Len i = 0; i < count; ++i) table[at + i] = rowAt(y + i);
+            for (Len i = at + count; i <= kept + batch; ++i) table[i] = table[at + count - 1];
+        };
+        for (Len y = 0; y < height_; y += batch) {
+            const Len rows = std::min<Len>(batch, height_ - y);
+            if (y == 0) {
+                fillTable(0, -top_, kept + rows);
+                if constexpr (requires { rule.start(table, length); }) rule.start(table, to - from);
+            } else {
+                for (Len i = 0; i < kept; ++i) table[i] = table[batch + i];
+                fillTable(kept, y + bottom_, rows);
+            }
+            for (Len k = 0; k < rows; k += Rule::rows) {
+                D* dst[Rule::rows];
+                for (Len r = 0; r < Rule::rows; ++r) dst[r] = dst_.row(std::min(y + k + r, height_ - 1)) + from;
+                rule(table + k, dst, to - from);
+            }
+        }
+    }
+
+    // The elements of a row from `first` to `stop`: those in memory, and what the border makes of the others.
+    class Ends {
+      public:
+        Ends(const Bands<T, n>& bands, Len first, Len stop)
+            : bands_(bands),
+              first_(first),
+              stop_(stop),
+              begin_(std::clamp(bands.firstColumn() * n, first, stop)),
+              end_(std::clamp(bands.endColumn() * n, begin_, stop)) {
+            for (int i = 0; i < few; ++i) before_[i] = source(begin_ - 1 - i), behind_[i] = source(end_ + i);
+        }
+        void copy(T* to, const T* row) const {
+            if (!row) {
+                for (Len i = first_; i < stop_; ++i) put(to + i - first_, bands_.value()[channel(i)]);
+                return;
+            }
+            to -= first_;
+            if (begin_ < end_)
+                eachVectorOf<lanes<T>>(end_ - begin_, [&](Len, Len x, int count) {
+                    storeUpTo(to + begin_ + x, loadUpTo(row + begin_ + x, count), count);
+                });
+            for (Len i = begin_ - 1; i >= first_; --i)
+                outside(to + i, row, i, begin_ - i <= few ? before_[begin_ - 1 - i] : source(i));
+            for (Len i = end_; i < stop_; ++i) outside(to + i, row, i, i - end_ < few ? behind_[i - end_] : source(i));
+        }
+
+      private:
+        static constexpr int few = 8;
+        static Len channel(Len i) { return ((i % n) + n) % n; }
+        // The element in memory that stands for element i.
+        Len source(Len i) const {
+            const Len inside = bands_.column((i - channel(i)) / n);
+            return inside == bands_.none ? inside : inside * n + channel(i);
+        }
+        void outside(T* to, const T* row, Len i, Len from) const {
+            put(to, from == bands_.none ? bands_.value()[channel(i)] : get(row + from));
+        }
+        const Bands<T, n>& bands_;
+        Len first_, stop_, begin_, end_;
+        Len before_[few], behind_[few];  // what stands for the nearest ones, outward
+    };
+
+    const Bands<T, n>& bands_;
+    Image<D> dst_;
+    Len end_, height_;  // of the results
+    Len before_, behind_, top_, bottom_, longest_;
+};
+
+}  // namespace zmv

@@ -1,0 +1,499 @@
+// zmviFilterBorder, zmviFilter and zmviConv, their queries and the spec object.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <memory>
+
+#include "filter/box.h"
+#include "harness/spec.h"
+
+namespace {
+
+using namespace test;
+
+const std::map<Element, int> typeCodes = {{Element::u8, DATATYPE_8U},
+                                          {Element::u16, DATATYPE_16U},
+                                          {Element::s16, DATATYPE_16S},
+                                          {Element::f32, DATATYPE_32F},
+                                          {Element::f64, DATATYPE_64F}};
+
+#define FIND(library, name) reinterpret_cast<decltype(&name)>((library).find(#name))
+
+// ---- Rounding ----
+
+__int128 floorOf(__int128 a, __int128 b) { return a / b - (a % b != 0 && (a < 0) != (b < 0)); }
+
+// sum / divisor, rounded once.
+__int128 quotient(int64_t sum, int divisor, int mode) {
+    const __int128 n = divisor < 0 ? -__int128(sum) : sum, d = divisor < 0 ? -int64_t(divisor) : divisor;
+    if (mode == ROUND_ZERO) return divisor > 0 && (d & (d - 1)) == 0 ? floorOf(n, d) : n / d;
+    const __int128 q = floorOf(2 * n + d, 2 * d);
+    return mode == ROUND_NEAR && (2 * n + d) % (2 * d) == 0 && q % 2 != 0 ? q - 1 : q;
+}
+template <class T>
+T saturated(__int128 v) {
+    constexpr __int128 low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
+    return T(std::min(std::max(v, low), high));
+}
+template <class T>
+T rounded(float v, int mode) {
+    if (!(v == v)) return 0;
+    const double x =
+        std::min<double>(std::max<double>(v, std::numeric_limits<T>::min()), std::numeric_limits<T>::max());
+    const double down = std::floor(x);
+    if (mode == ROUND_ZERO) return T(std::trunc(x));
+    if (mode == ROUND_FINANCIAL) return T(std::floor(x + 0.5));
+    return T(x - down > 0.5 || (x - down == 0.5 && std::fmod(down, 2) != 0) ? down + 1 : down);
+}
+
+// ---- Sums ----
+
+// One operation in the order of the contract: the NaN of a goes before that of b.
+template <class T, class Operation>
+T inOrder(T x, T y, Operation operation) {
+    const volatile T a = x, b = y;
+    return a != a ? a + a : operation(T(a), T(b));
+}
+// tap(i, j) and pixel(i, j), the top row of the window first.
+template <class T, class Tap, class Pixel>
+T realSum(int64_t rows, int64_t columns, Tap tap, Pixel pixel) {
+    T sum = 0;
+    for (int64_t i = 0; i < rows; ++i)
+        for (int64_t j = 0; j < columns; ++j) {
+            const T product = inOrder<T>(tap(i, j), pixel(i, j), [](T a, T b) { return a * b; });
+            sum = i + j == 0 ? product : inOrder<T>(sum, product, [](T a, T b) { return a + b; });
+        }
+    return sum;
+}
+template <class Tap, class Pixel>
+int64_t wholeSum(int64_t rows, int64_t columns, Tap tap, Pixel pixel) {
+    int64_t sum = 0;
+    for (int64_t i = 0; i < rows; ++i)
+        for (int64_t j = 0; j < columns; ++j) sum += int64_t(tap(i, j)) * int64_t(pixel(i, j));
+    return sum;
+}
+
+// ---- The spec object ----
+
+// What a filter is told by the spec object of this case.
+struct Told {
+    int kw, kh, divisor = 1, mode = ROUND_NEAR, offset = 0;
+    bool integers = false;
+    std::vector<int16_t> whole;
+    std::vector<float> single;
+    std::vector<double> real;
+} told;
+
+bool keepsIntegers(int type, int channels, int kw, int kh) {
+    return type == DATATYPE_8U || (type == DATATYPE_16S && channels < 3 && kw >= 3 && kh >= 2);
+}
+__int128 specBytes(int64_t kw, int64_t kh, int type, int kernelType, int channels) {
+    const auto up = [](__int128 n) { return (n + 63) / 64 * 64; };
+    const __int128 w = kw, h = kh;
+    if (type == DATATYPE_64F) return up(8 * w * h) + 191;
+    const bool single = kernelType == DATATYPE_32F || type == DATATYPE_16U ||
+                        (type == DATATYPE_16S && !keepsIntegers(type, channels, int(kw), int(kh)));
+    return up(h * ((w + 1) & ~1) * 80) + up(h * w * (single ? 4 : 2)) + (single ? up(h * w * 16) : 0) + 191;
+}
+__int128 bandBytes(int64_t kw, int64_t kh, int64_t w, int64_t h, int element, int channels) {
+    using Wide = __int128;
+    Wide cells = (Wide(kh) + h - 1) * (Wide(kw) + w - 1);
+    if (kw < w && kh < h) {
+        const Wide a = kh - ((kh - 1) >> 1) - (kh != 2), b = kw == 2 ? 2 : kw - (kw + 1) / 2;
+        const Wide rows = a > 0 ? (kh + a - 1) * (Wide(kw) + w - 1) : 0;
+        cells = b > 0 ? std::max((kw - 1 + b) * (Wide(kh) - 1 + h), rows) : rows;
+    }
+    return ((cells * element * channels + 31) & ~31) + 32;
+}
+
+const int divisors[] = {1,   1,    2,    3,     4,     6,  8,  9,  16,  41,      100,     255,
+                        256, 1000, 4096, 65536, 70001, -1, -3, -4, -41, 1 << 30, INT_MAX, INT_MIN};
+
+// A kernel of any kind, at the limits of what could make it quicker to use.
+void tellKernel(Case& c, int kw, int kh, bool integers) {
+    told = {};
+    told.kw = kw, told.kh = kh, told.integers = integers;
+    const int kind = c.rng.below(6), area = kw * kh;
+    const int most = kind == 0 ? 32767 : kind == 1 ? 200 : 12;
+    std::vector<int> taps(size_t(area), 0);
+    for (int& tap : taps) tap = c.rng.oneIn(5) ? 0 : c.rng.between(-most, most);
+    if (kind == 0 && c.rng.oneIn(3)) std::fill(taps.begin(), taps.end(), -32768);
+    if (kind == 2) {  // so much in all, or one more
+        int left = 127 + c.rng.below(3);
+        for (int& tap : taps) tap = left ? c.rng.below(std::min(left, 9) + 1) : 0, left -= tap;
+        taps[size_t(c.rng.below(area))] += left;
+        if (c.rng.oneIn(2)) std::transform(taps.begin(), taps.end(), taps.begin(), std::negate<>());
+    } else if (kind == 3) {  // a column times a row, or a unit away from it
+        std::vector<int> row(static_cast<size_t>(kw));
+        const int size = c.rng.oneIn(2) ? 180 : 5;
+        for (int& r : row) r = c.rng.between(-size, size);
+        for (int i = 0; i < kh; ++i)
+            for (int j = 0, f = c.rng.between(-size, size); j < kw; ++j) taps[size_t(i * kw + j)] = f * row[size_t(j)];
+        if (c.rng.oneIn(4)) taps[size_t(c.rng.below(area))] += 1;
+        for (int& tap : taps) tap = std::max(-32768, std::min(32767, tap));
+    }
+    const float unit = c.rng.oneIn(2) ? std::ldexp(1.0f, -c.rng.below(12)) : 1 / float(c.rng.between(1, 99));
+    for (const int tap : taps) {
+        told.whole.push_back(int16_t(tap));
+        told.single.push_back(c.rng.oneIn(200) && kind == 1 ? (c.rng.oneIn(2) ? NAN : INFINITY) : float(tap) * unit);
+        told.real.push_back(tap / 3.0);
+    }
+    if (kind == 4 && c.rng.oneIn(3)) told.single[0] = -0.0f, told.real[0] = -0.0;
+}
+
+// The object of that kernel, in a block of the size that the query reports.
+void placeFilter(Case& c, int type, int channels) {
+    const Library& l = c.library;
+    const ImageSize kernel{told.kw, told.kh};
+    const int kernelType = type == DATATYPE_64F ? DATATYPE_64F : told.integers ? DATATYPE_16S : DATATYPE_32F;
+    int size = 0, unused = 0;
+    FIND(l, zmviFilterBorderGetSize)(kernel, {1, 1}, type, kernelType, channels, &size, &unused);
+    const int hint = c.rng.oneIn(4) ? ROUND_HINT_ACCURATE : 0;
+    told.mode = type == DATATYPE_64F ? ROUND_NEAR : c.rng.below(3);
+    told.divisor = divisors[c.rng.below(int(std::size(divisors)))];
+    const bool moves = (type == DATATYPE_16U || type == DATATYPE_8U) && c.rng.oneIn(2);
+    const int ends[] = {INT_MAX, INT_MIN, 32768, -32768};
+    if (moves) told.offset = c.rng.oneIn(6) ? ends[c.rng.below(4)] : c.rng.between(-400, 400);
+    const int mode = told.mode | hint, modeHint = c.rng.below(3);
+    placeObject(c, "pSpec", size, [&](uint8_t* block) {
+        const StatusCode status =
+            type == DATATYPE_64F
+                ? FIND(l, zmviFilterBorderInit_64f)(told.real.data(), kernel, type, channels, mode, block)
+            : told.integers
+                ? FIND(l, zmviFilterBorderInit_16s)(told.whole.data(), kernel, told.divisor, type, channels, mode,
+                                                    block)
+                : FIND(l, zmviFilterBorderInit_32f)(told.single.data(), kernel, type, channels, mode, block);
+        return moves ? FIND(l, zmviFilterBorderSetMode)(modeHint, told.offset, block) : status;
+    });
+}
+
+// ---- zmviFilterBorder ----
+
+int channelsOf(const Case& c) { return c.member.to.channels; }
+
+void arrangeFilter(Case& c) {
+    int64_t w = c.width, h = c.mode != Mode::far && c.rng.oneIn(3) ? c.rng.between(6, 24) : c.height;
+    const bool large = c.rng.oneIn(8) && c.mode != Mode::far;
+    const int kw = large ? c.rng.between(1, 40) : c.rng.between(1, 9);
+    const int kh = c.mode == Mode::far ? c.rng.between(1, 3) : large ? c.rng.between(1, 40) : c.rng.between(1, 9);
+    if (c.mode == Mode::usual && c.rng.oneIn(16)) w = c.rng.between(900, 9000) / channelsOf(c), h = c.rng.between(1, 3);
+    const Element type = c.member.source;
+    tellKernel(c, kw, kh, type != Element::f32 && type != Element::f64 && c.rng.oneIn(2));
+    placeFilter(c, typeCodes.at(type), channelsOf(c));
+
+    const int rules[] = {BORDER_REPL, BORDER_MIRROR, BORDER_CONST};
+    int word = c.mode == Mode::controls ? int(BORDER_CONST) : rules[c.rng.below(3)];
+    if (c.rng.oneIn(2)) word |= 16 * c.rng.below(16);
+    if (c.rng.oneIn(12) && c.mode != Mode::controls) word = BORDER_IN_MEM;
+    const Reach reach(kw, kh);
+    const auto readable = [&](int flag, int64_t pixels) { return word & flag ? pixels : 0; };
+    c.place("src", w, h,
+            {readable(BORDER_IN_MEM_LEFT, reach.left), readable(BORDER_IN_MEM_RIGHT, reach.right),
+             readable(BORDER_IN_MEM_TOP, reach.top), readable(BORDER_IN_MEM_BOTTOM, reach.bottom)});
+    c.rowsApart = true;
+    c.place("dst", w, h);
+    c.arg("borderValue") = nullptr;
+    if ((word & 15) == BORDER_CONST) c.placeValue("borderValue", channelsOf(c));
+    for (const char* name : {"src", "borderValue"})
+        if (c.hasImage(name)) {
+            if (type == Element::f32) fillFloats<float>(c, c.image(name));
+            if (type == Element::f64) fillFloats<double>(c, c.image(name));
+        }
+    c.arg("dstRoiSize") = {w, h};
+    c.arg("borderType") = word;
+    int unused = 0, bytes = 0;
+    const int code = typeCodes.at(type);
+    FIND(c.library, zmviFilterBorderGetSize)
+    ({kw, kh}, {int(w), int(h)}, code, code == DATATYPE_64F ? code : DATATYPE_32F, channelsOf(c), &unused, &bytes);
+    c.placeBuffer("buffer", bytes);
+    const int none[] = {0, 2, 4, 15, 0x30, 0xf2, 0x101, -1, 241};
+    if (c.mode == Mode::usual && c.rng.oneIn(20))
+        c.arg("borderType") = none[c.rng.below(8)], c.expected = STATUS_BAD_BORDER;
+}
+
+template <class T>
+T filtered(const Told& t, int type, int channels, auto pixel) {
+    const auto turned = [&](const auto& taps) {
+        return [&](int64_t i, int64_t j) { return taps[size_t((t.kh - 1 - i) * t.kw + t.kw - 1 - j)]; };
+    };
+    if constexpr (std::is_same_v<T, double>) {
+        return realSum<double>(t.kh, t.kw, turned(t.real), pixel);
+    } else if constexpr (std::is_same_v<T, float>) {
+        return realSum<float>(t.kh, t.kw, turned(t.single), pixel);
+    } else {
+        if (t.integers && keepsIntegers(type, channels, t.kw, t.kh)) {
+            const int32_t sum = int32_t(uint32_t(wholeSum(t.kh, t.kw, turned(t.whole), pixel)));
+            return saturated<T>(saturated<int16_t>(quotient(sum, t.divisor, t.mode) + t.offset));
+        }
+        std::vector<float> taps = t.single;
+        for (size_t k = 0; k < taps.size() && t.integers; ++k) taps[k] = float(t.whole[k] * (1.0 / t.divisor));
+        const float sum =
+            realSum<float>(t.kh, t.kw, turned(taps), [&](int64_t i, int64_t j) { return float(pixel(i, j)); });
+        return rounded<T>(sum + float(t.offset), t.mode);
+    }
+}
+
+void judgeFilter(Case& c) {
+    if (c.expected < 0) return;
+    const Image &src = c.image("src"), &dst = c.image("dst");
+    const Reach reach(told.kw, told.kh);
+    withElement(src.element, [&](auto zero) {
+        using T = decltype(zero);
+        const Extended<T> extended{c, src};
+        for (int k = 0; k < src.channels; ++k)
+            for (int64_t y = 0; y < src.height; ++y)
+                for (int64_t x = 0; x < src.width; ++x)
+                    c.set(dst, x, y, k,
+                          filtered<T>(told, typeCodes.at(src.element), src.channels, [&](int64_t i, int64_t j) {
+                              return extended(x - reach.left + j, y - reach.top + i, k);
+                          }));
+    });
+}
+
+// ---- zmviFilter ----
+
+void arrangeDirect(Case& c) {
+    const int kw = c.rng.between(1, 9), kh = c.mode == Mode::far ? 2
+                                             : c.rng.oneIn(5)    ? c.rng.between(30, 70)
+                                                                 : c.rng.between(1, 9);
+    const int64_t ax = c.rng.between(-1, kw), ay = c.mode == Mode::far ? 0 : c.rng.between(-1, kh);
+    tellKernel(c, kw, kh, false);
+    const auto beyond = [](int64_t n) { return std::max<int64_t>(0, n); };
+    c.place("src", c.width, c.height, {beyond(kw - 1 - ax), beyond(ax), beyond(kh - 1 - ay), beyond(ay)});
+    c.rowsApart = true;
+    c.place("dst", c.width, c.height);
+    fillFloats<double>(c, c.image("src"));
+    const Image& kernel = c.place("pKernel", kw * kh, 1);
+    for (int k = 0; k < kw * kh; ++k) c.set(kernel, k, 0, 0, told.real[size_t(k)]);
+    c.arg("dstRoiSize") = {c.width, c.height};
+    c.arg("kernelSize") = {kw, kh};
+    c.arg("anchor") = {ax, ay};
+    c.arg("buffer") = nullptr;
+}
+void judgeDirect(Case& c) {
+    const Slot anchor = c.arg("anchor");
+    for (int64_t y = 0; y < c.height; ++y)
+        for (int64_t x = 0; x < c.width; ++x)
+            c.set(c.image("dst"), x, y, 0, filtered<double>(told, DATATYPE_64F, 1, [&](int64_t i, int64_t j) {
+                      return c.get<double>(c.image("src"), x + anchor.a - (told.kw - 1 - j),
+                                           y + anchor.b - (told.kh - 1 - i));
+                  }));
+}
+
+// ---- zmviConv ----
+
+int64_t areaOf(Slot size) { return size.a * size.b; }
+bool exchanges(bool valid, Slot a, Slot b) { return valid ? a.a < b.a || a.b < b.b : areaOf(a) < areaOf(b); }
+
+void arrangeConv(Case& c) {
+    const bool valid = c.rng.oneIn(2), far = c.mode == Mode::far;
+    Slot one{c.width, far ? c.height : c.rng.between(1, 12)}, two{c.rng.between(1, 12), far ? 3 : c.rng.between(1, 12)};
+    if (valid) two = {std::min(one.a, two.a), std::min(one.b, two.b)};
+    if (c.rng.oneIn(3)) std::swap(one, two);
+    const bool apart = valid && c.mode == Mode::usual && c.rng.oneIn(20);  // neither lies in the other
+    if (apart) one.a = two.a + 1, two.b = one.b + 1, c.expected = STATUS_BAD_SIZE;
+    const bool swapped = exchanges(valid, one, two);
+    const Slot image = swapped ? two : one, kernel = swapped ? one : two;
+    const int64_t sign = valid ? -1 : 1;
+    c.rowsApart = true;
+    c.place("src1", one.a, one.b), c.place("src2", two.a, two.b);
+    c.place("dst", std::max<int64_t>(1, image.a + sign * (kernel.a - 1)),
+            std::max<int64_t>(1, image.b + sign * (kernel.b - 1)));
+    c.arg("src1Size") = one, c.arg("src2Size") = two;
+    for (const char* name : {"src1", "src2"})
+        if (c.member.source == Element::f32) fillFloats<float>(c, c.image(name));
+    if (c.has("divisor")) c.arg("divisor") = divisors[c.rng.below(int(std::size(divisors)))];
+    const int algType = c.rng.below(3) | (valid ? CONV_SHAPE_VALID : CONV_SHAPE_FULL) | 0x7f00ff00 * c.rng.below(2);
+    c.arg("algType") = algType;
+    int bytes = 64;
+    FIND(c.library, zmviConvGetBufferSize)
+    ({int(one.a), int(one.b)}, {int(two.a), int(two.b)}, typeCodes.at(c.member.source), channelsOf(c), algType, &bytes);
+    c.placeBuffer("buffer", bytes);
+}
+
+void judgeConv(Case& c) {
+    if (c.expected < 0) return;
+    const bool valid = c.arg("algType").a >> 16 & 255;
+    const bool swapped = exchanges(valid, c.arg("src1Size"), c.arg("src2Size"));
+    const Image &image = c.image(swapped ? "src2" : "src1"), &kernel = c.image(swapped ? "src1" : "src2"),
+                &dst = c.image("dst");
+    const int64_t left = valid ? 0 : kernel.width - 1, top = valid ? 0 : kernel.height - 1;
+    withElement(image.element, [&](auto zero) {
+        using T = decltype(zero);
+        for (int k = 0; k < image.channels; ++k)
+            for (int64_t y = 0; y < dst.height; ++y)
+                for (int64_t x = 0; x < dst.width; ++x) {
+                    const auto tap = [&](int64_t i, int64_t j) {
+                        return c.get<T>(kernel, kernel.width - 1 - j, kernel.height - 1 - i, k);
+                    };
+                    const auto pixel = [&](int64_t i, int64_t j) {
+                        const int64_t column = x - left + j, row = y - top + i;
+                        const bool inside = column >= 0 && row >= 0 && column < image.width && row < image.height;
+                        return inside ? c.get<T>(image, column, row, k) : T(0);
+                    };
+                    if constexpr (std::is_floating_point_v<T>)
+                        c.set(dst, x, y, k, realSum<T>(kernel.height, kernel.width, tap, pixel));
+                    else
+                        c.set(dst, x, y, k,
+                              saturated<T>(quotient(wholeSum(kernel.height, kernel.width, tap, pixel),
+                                                    int(c.arg("divisor").a), ROUND_NEAR)));
+                }
+    });
+}
+
+// ---- Queries and makers ----
+
+int anyLength(Case& c, int bits) {
+    const bool everyday = c.mode == Mode::controls || c.rng.oneIn(3);
+    return everyday          ? c.rng.between(1, 60)
+           : c.rng.oneIn(30) ? INT_MAX
+                             : std::max(1, int(c.rng.next() % INT_MAX >> c.rng.below(bits)));
+}
+
+void arrangeSizes(Case& c) {
+    const int types[] = {DATATYPE_8U, DATATYPE_16U, DATATYPE_16S, DATATYPE_32F, DATATYPE_64F};
+    const int type = types[c.mode == Mode::controls ? 0 : c.rng.below(5)];
+    c.arg("kernelSize") = {anyLength(c, 31), anyLength(c, 31)};
+    c.arg("dstRoiSize") = {anyLength(c, 31), anyLength(c, 31)};
+    c.arg("dataType") = type;
+    c.arg("kernelType") = type == DATATYPE_64F ? type : c.rng.oneIn(2) ? DATATYPE_16S : DATATYPE_32F;
+    c.arg("numChannels") = type == DATATYPE_64F ? 1 : c.rng.between(1, 4);
+    const Slot k = c.arg("kernelSize");
+    if (type == DATATYPE_16S && keepsIntegers(type, int(c.arg("numChannels").a), int(k.a), int(k.b)) && c.rng.oneIn(3))
+        c.arg("kernelType") = DATATYPE_64F;
+    c.place("pSpecSize", 1, 1), c.place("pBufferSize", 1, 1);
+}
+void answerSizes(Case& c) {
+    const Slot k = c.arg("kernelSize"), roi = c.arg("dstRoiSize");
+    const int type = int(c.arg("dataType").a), channels = int(c.arg("numChannels").a);
+    const __int128 spec = specBytes(k.a, k.b, type, int(c.arg("kernelType").a), channels);
+    const int element = type == DATATYPE_64F ? 8 : type == DATATYPE_32F ? 4 : type == DATATYPE_8U ? 1 : 2;
+    const __int128 bands = bandBytes(k.a, k.b, roi.a, roi.b, element, channels);
+    const int buffer = c.result<int>(c.image("pBufferSize"), 0, 0);
+    // What is asked for beyond the bands must be enough where it is used; it must not grow with the region.
+    int one = 0, unused = 0;
+    FIND(c.library, zmviFilterBorderGetSize)
+    ({int(k.a), int(k.b)}, {1, 1}, type, int(c.arg("kernelType").a), channels, &unused, &one);
+    const __int128 work = type == DATATYPE_64F ? 126 : one - bandBytes(k.a, k.b, 1, 1, element, channels);
+    const bool refused = spec > INT_MAX || bands + work > INT_MAX || one == 0;
+    if (refused) c.expected = STATUS_SIZE_EXCEEDS_INT;
+    if (!refused && buffer != bands + work && buffer != 64 * ((k.a + 3) / 4) * k.b)
+        c.fail("the wrong size of the buffer");
+    if (!refused) c.set(c.image("pSpecSize"), 0, 0, 0, int(spec));
+    c.set(c.image("pBufferSize"), 0, 0, 0, refused ? 0 : buffer);
+}
+
+void arrangeInit(Case& c) {
+    const bool real = c.has("divisor") == false, doubles = c.member.name.ends_with("64f");
+    const int types[] = {DATATYPE_8U, DATATYPE_16S, DATATYPE_16U, DATATYPE_32F};
+    const int type = doubles ? DATATYPE_64F : types[c.rng.below(real ? 4 : 3)],
+              channels = doubles ? 1 : c.rng.between(1, 4);
+    const int kw = c.rng.between(1, 6), kh = c.rng.between(1, 6);
+    const int mode = doubles ? ROUND_NEAR : c.rng.below(3), flag = c.rng.oneIn(2) ? ROUND_HINT_ACCURATE : 0;
+    c.place("pKernel", kw * kh, 1);
+    c.arg("kernelSize") = {kw, kh};
+    if (!real) c.arg("divisor") = divisors[c.rng.below(int(std::size(divisors)))];
+    c.arg("dataType") = type, c.arg("numChannels") = channels, c.arg("roundMode") = mode | flag;
+    // The smallest block that the query reports for the type.
+    const int kernelType = doubles ? DATATYPE_64F : DATATYPE_16S;
+    placeBlock(c, "pSpec", int64_t(specBytes(kw, kh, type, kernelType, channels)));
+    const bool keeps = !real && keepsIntegers(type, channels, kw, kh) && channels != 2;
+    if (flag && !doubles && !keeps) c.expected = STATUS_WARN_ACCURATE_IGNORED;
+}
+void judgeInit(Case& c) {
+    const Image& place = c.image("pSpec");
+    const int64_t at = -reinterpret_cast<intptr_t>(place.pointer[0]) & 63;
+    const int type = int(c.arg("dataType").a);
+    const std::map<int, int> singles = {
+        {DATATYPE_8U, 3}, {DATATYPE_16S, 4}, {DATATYPE_16U, 5}, {DATATYPE_32F, 6}, {DATATYPE_64F, 7}};
+    const Slot k = c.arg("kernelSize");
+    const bool integers = c.has("divisor") && keepsIntegers(type, int(c.arg("numChannels").a), int(k.a), int(k.b));
+    const int64_t due[] = {integers ? type == DATATYPE_16S : singles.at(type), k.a, k.b};
+    for (int word = 0; word < 3; ++word) {
+        int is = 0;
+        for (int b = 0; b < 4; ++b) is |= c.result<uint8_t>(place, at + 4 * word + b, 0) << 8 * b;
+        if (is != due[word]) c.fail("word " + std::to_string(word) + " of the object is " + std::to_string(is));
+    }
+    acceptBlock(c, "pSpec");  // its other words are seen where they are used
+}
+
+void arrangeMode(Case& c) {
+    const std::pair<int, int> kinds[] = {
+        {DATATYPE_8U, 1}, {DATATYPE_16S, 1}, {DATATYPE_16U, 1}, {DATATYPE_32F, 1}, {DATATYPE_64F, 1}};
+    const auto [type, channels] = kinds[c.rng.below(5)];
+    tellKernel(c, 3, 3, c.rng.oneIn(2) && type != DATATYPE_32F && type != DATATYPE_64F);
+    placeFilter(c, type, channels);
+    const bool fixed = type != DATATYPE_8U && type != DATATYPE_16U;
+    c.arg("hint") = c.rng.below(4);
+    c.arg("offset") = c.mode == Mode::controls || c.rng.oneIn(3) ? 0 : c.rng.between(-9, 9);
+    if (fixed && c.arg("offset").a != 0) c.expected = STATUS_BAD_ARGUMENT;
+    told.integers = fixed && (c.expected != STATUS_OK || type == DATATYPE_64F);  // the object must stay as it is
+}
+void judgeMode(Case& c) {
+    if (!told.integers) acceptBlock(c, "pSpec");
+}
+
+void arrangeNoBuffer(Case& c) {
+    c.arg("kernelSize") = {anyLength(c, 31), anyLength(c, 31)};
+    c.arg("roiWidth") = anyLength(c, 31);
+    c.place("pSize", 1, 1);
+}
+void answerNoBuffer(Case& c) { c.set(c.image("pSize"), 0, 0, 0, 0); }
+
+void arrangeConvSize(Case& c) {
+    const int one = anyLength(c, 31), two = anyLength(c, 31);
+    c.arg("src1Size") = {std::max(one, 2), std::max(two, 2)};
+    c.arg("src2Size") = {anyLength(c, 31) % std::max(one, 2) + 1, anyLength(c, 31) % std::max(two, 2) + 1};
+    const int types[] = {DATATYPE_8U, DATATYPE_16S, DATATYPE_32F}, counts[] = {1, 3, 4};
+    c.arg("dataType") = types[c.rng.below(3)], c.arg("numChannels") = counts[c.rng.below(3)];
+    c.arg("algType") = c.rng.below(3) | CONV_SHAPE_VALID * c.rng.below(2);
+    if (c.mode == Mode::usual && c.rng.oneIn(10)) {
+        c.arg("src1Size") = {2, 1}, c.arg("src2Size") = {1, 2}, c.arg("algType") = CONV_SHAPE_VALID;
+        c.expected = STATUS_BAD_SIZE;
+    }
+    c.place("pBufferSize", 1, 1);
+}
+void answerConvSize(Case& c) {  // that it is enough is seen where it is used
+    const Image& place = c.image("pBufferSize");
+    const int bytes = c.result<int>(place, 0, 0);
+    if (c.expected < 0) return;
+    if (c.returned == STATUS_SIZE_EXCEEDS_INT) return void(c.expected = STATUS_SIZE_EXCEEDS_INT);
+    if (bytes < 64) c.fail("too small a buffer");
+    c.set(place, 0, 0, 0, bytes);
+}
+
+// Products that cancel each other only after their sum has passed what doubles hold.
+TEST(Large, ConvolutionsBeyondDoubles) {
+    constexpr int side = 4100;
+    constexpr int16_t most = 32767, rest = 1234;
+    std::vector<int16_t> image(size_t(side) * side, most), kernel(image.size(), most);
+    for (size_t k = kernel.size() / 2; k < kernel.size(); ++k) kernel[k] = -most;
+    kernel[0] = most - 1, image[image.size() - 1] = most;  // one product less by 32767
+    int bytes = 0;
+    const ImageSize size{side, side};
+    const Library& l = underTest();
+    ASSERT_EQ(FIND(l, zmviConvGetBufferSize)(size, size, DATATYPE_16S, 1, CONV_SHAPE_VALID, &bytes), STATUS_OK);
+    const std::unique_ptr<uint8_t[]> buffer(new uint8_t[size_t(bytes)]);
+    int16_t result = 0;
+    ASSERT_EQ(FIND(l, zmviConv_16s_C1R)(image.data(), side * 2, size, kernel.data(), side * 2, size, &result, 2, 1,
+                                        CONV_SHAPE_VALID, buffer.get()),
+              STATUS_OK);
+    EXPECT_EQ(result, -most);
+    kernel[1] = rest, kernel.back() = -rest + 1;
+    ASSERT_EQ(FIND(l, zmviConv_16s_C1R)(image.data(), side * 2, size, kernel.data(), side * 2, size, &result, 2, 1,
+                                        CONV_SHAPE_VALID, buffer.get()),
+              STATUS_OK);
+    EXPECT_EQ(result, 0);
+}
+
+}  // namespace
+
+extern const Family test_zmviFilterBorderGetSize = {.arrange = arrangeSizes, .oracle = answerSizes};
+extern const Family test_zmviFilterBorderInit = {.arrange = arrangeInit, .oracle = judgeInit};
+extern const Family test_zmviFilterBorderSetMode = {.arrange = arrangeMode, .oracle = judgeMode};
+extern const Family test_zmviFilterBorder = {.arrange = arrangeFilter, .oracle = judgeFilter};
+extern const Family test_zmviFilterGetBufSize = {.arrange = arrangeNoBuffer, .oracle = answerNoBuffer};
+extern const Family test_zmviFilter = {.arrange = arrangeDirect, .oracle = judgeDirect};
+extern const Family test_zmviConvGetBufferSize = {.arrange = arrangeConvSize, .oracle = answerConvSize};
+extern const Family test_zmviConv = {.arrange = arrangeConv, .oracle = judgeConv};
