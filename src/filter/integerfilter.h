@@ -65,16 +65,7 @@ ZMV_INLINE void addPairs(const T* const* row, Len x, const TapPair<typename Prod
     add.template operator()<false, true>(pairs);
 }
 
-// Stretches of a row whose sums fit on the stack: part(from, n).  None but a short row is shorter than a vector.
-constexpr int stretchVectors = 8;
-template <int step, class Part>
-ZMV_INLINE void eachStretchOf(Len count, Part part) {
-    for (Len from = 0, n; from < count; from += n) {
-        n = std::min<Len>(stretchVectors * step, count - from);
-        if (n < step && from > 0) from -= step - n, n = step;
-        part(from, n);
-    }
-}
+constexpr int stretchVectors = 8;  // whose sums are kept on the stack
 
 // n results of a row from the sums of its vectors.
 template <int step, class E, class T>
@@ -107,22 +98,28 @@ void putQuotients(const Quotient& quotient, T* dst, const HalfSums<E>* sums, Len
 }
 
 // The rule of small windows for any kernel.
-template <class T, int n, class Products = WordProducts<T>>
+template <class T, class Products = WordProducts<T>>
 class PairFilter {
   public:
     using Result = T;
+    using Memory = NoMemory;
     static constexpr int rows = pairedRows, step = Products::step;
+    static constexpr Len longest = longestStrip;
     using Taps = TapPair<typename Products::Tap>;
 
-    PairFilter(Window window, const Taps* taps, const Quotient& quotient)
-        : width_(window.width), pairs_(Len(pairRows(window.height))), taps_(taps), quotient_(quotient) {}
+    PairFilter(Memory, Window window, Len distance, const Taps* taps, const Quotient& quotient)
+        : width_(window.width),
+          pairs_(Len(pairRows(window.height))),
+          distance_(distance),
+          taps_(taps),
+          quotient_(quotient) {}
 
-    void operator()(const T* const* row, T* const* dst, Len count) const {
-        eachStretchOf<step>(count, [&](Len from, Len m) {
+    __attribute__((noinline)) void operator()(const T* const* row, T* const* dst, Len count) const {
+        eachStretchOf<stretchVectors * step, step>(count, [&](Len from, Len m) {
             HalfSums<typename Products::Sum> sums[rows][stretchVectors];
             eachVectorOf<step>(m, [&](Len i, Len x, int) {
                 HalfSums<typename Products::Sum> sum[rows];
-                addPairs<Products>(row, from + x, taps_, width_, pairs_, n, sum);
+                addPairs<Products>(row, from + x, taps_, width_, pairs_, distance_, sum);
                 for (int r = 0; r < rows; ++r) sums[r][i] = sum[r];
             });
             for (int r = rows - 1; r >= 0; --r) putQuotients<step>(quotient_, dst[r] + from, sums[r], m);
@@ -130,33 +127,41 @@ class PairFilter {
     }
 
   private:
-    Len width_, pairs_;
+    Len width_, pairs_, distance_;
     const Taps* taps_;
     const Quotient& quotient_;
 };
 
 // The rule for kernels that are a column times a row: lines of column sums, of type E, then sums along the lines.
-template <class T, int n, class E>
+template <class T, class E>
 class LineFilter {
   public:
     using Result = T;
     static constexpr int rows = pairedRows, step = lanes<int16_t>;
-    static constexpr WideLen bytes(WideLen width, int vector) {  // of a window in elements
-        return rows * lineLength(width, vector) * WideLen(sizeof(int32_t));
-    }
-    LineFilter(Window window, const TapPair<int16_t>* column, const int16_t* row, const Quotient& quotient,
-               Scratch& scratch)
-        : width_(window.width), pairs_(Len(pairRows(window.height))), column_(column), row_(row), quotient_(quotient) {
-        const Len length = Len(lineLength(width_ * n, vectorBytes));
-        E* const memory = scratch.take<E>(rows * length);
-        for (int r = 0; r < rows; ++r) lines_[r] = memory + r * length;
+    static constexpr Len longest = longestStrip;
+    struct Memory {
+        E* lines[rows];
+        constexpr Memory(Scratch& s, Roi, Window window, int n) {
+            for (auto& line : lines)
+                line = s.take<E>(stretchVectors * largestVector / 2 + window.width * n + largestVector);
+        }
+    };
+    LineFilter(const Memory& memory, Window window, Len distance, const TapPair<int16_t>* column, const int16_t* row,
+               const Quotient& quotient)
+        : width_(window.width),
+          pairs_(Len(pairRows(window.height))),
+          distance_(distance),
+          column_(column),
+          row_(row),
+          quotient_(quotient) {
+        std::copy_n(memory.lines, rows, lines_);
     }
 
-    void operator()(const T* const* row, T* const* dst, Len count) const {
-        eachStretchOf<step>(count, [&](Len from, Len m) {
-            eachVectorOf<step>(m + (width_ - 1) * n, [&](Len, Len x, int) {
+    __attribute__((noinline)) void operator()(const T* const* row, T* const* dst, Len count) const {
+        eachStretchOf<stretchVectors * step, step>(count, [&](Len from, Len m) {
+            eachVectorOf<step>(m + (width_ - 1) * distance_, [&](Len, Len x, int) {
                 HalfSums<uint32_t> sum[rows];
-                addPairs<WordProducts<T>>(row, from + x, column_, 1, pairs_, n, sum);
+                addPairs<WordProducts<T>>(row, from + x, column_, 1, pairs_, distance_, sum);
                 for (int r = 0; r < rows; ++r) putLine(lines_[r] + x, sum[r]);
             });
             for (int r = rows - 1; r >= 0; --r) {
@@ -168,9 +173,6 @@ class LineFilter {
     }
 
   private:
-    static constexpr WideLen lineLength(WideLen width, int vector) {
-        return stretchVectors * vector / 2 + width + vector;
-    }
     ZMV_INLINE static void putLine(E* to, const HalfSums<uint32_t>& sum) {
         if constexpr (sizeof(E) == 2) {
             store(to, narrow<int16_t>(asSigned(sum.low), asSigned(sum.high)));
@@ -181,14 +183,14 @@ class LineFilter {
     ZMV_INLINE HalfSums<uint32_t> sumAlongLine(const E* line) const {
         HalfSums<uint32_t> sum{};
         if constexpr (sizeof(E) == 2) {
-            for (Len j = 0; j < width_; j += 2, line += 2 * n) {
-                const auto a = load(line), b = load(line + n);
+            for (Len j = 0; j < width_; j += 2, line += 2 * distance_) {
+                const auto a = load(line), b = load(line + distance_);
                 const auto tap = (Vec<int16_t>)fill(get(reinterpret_cast<const int32_t*>(row_ + j)));
                 sum.low += asUnsigned(pairProducts(interleaveLow(a, b), tap));
                 sum.high += asUnsigned(pairProducts(interleaveHigh(a, b), tap));
             }
         } else {
-            for (Len j = 0; j < width_; ++j, line += n) {
+            for (Len j = 0; j < width_; ++j, line += distance_) {
                 const auto tap = uint32_t(int32_t(get(row_ + j)));
                 sum.low += loadLanes(line, 32) * tap, sum.high += loadLanes(line + 4, 32) * tap;
             }
@@ -196,7 +198,7 @@ class LineFilter {
         return sum;
     }
 
-    Len width_, pairs_;
+    Len width_, pairs_, distance_;
     const TapPair<int16_t>* column_;
     const int16_t* row_;
     const Quotient& quotient_;
@@ -220,31 +222,30 @@ SumsOf sumsOf(bool pixelsAreBytes, Len width, Len height, Tap tap, int16_t* colu
     return pixelsAreBytes && inColumn <= most ? SumsOf::shortLines : SumsOf::longLines;
 }
 
-// What integerFilter takes, of a window in elements.
+// What integerFilter takes at most.
 template <class T>
-WideLen integerFilterBytes(WideLen width, WideLen height, int vector) {
-    using Widest = PairFilter<T, 1, std::conditional_t<sizeof(T) == 1, ByteProducts, WordProducts<T>>>;
-    return LineFilter<T, 1, uint32_t>::bytes(width, vector) +
-           SmallWindow<T, 1, Widest>::bytes(width, height, longestStrip, vector);
+constexpr WideLen integerFilterBytes(Roi roi, Window window, int n) {
+    using Pairs = PairFilter<T, std::conditional_t<sizeof(T) == 1, ByteProducts, WordProducts<T>>>;
+    return std::max(scratchBytes<WindowMemory<T, Pairs>>(roi, window, n),
+                    scratchBytes<WindowMemory<T, LineFilter<T, uint32_t>>>(roi, window, n));
 }
 
 template <class T, int n>
 void integerFilter(const Bands<T, n>& bands, Image<T> dst, Roi results, Window window, const FilterSpec& spec,
                    const uint8_t* object, const Quotient& quotient, Scratch scratch) {
     const FilterParts parts(spec);
-    const auto walk = [&]<class Rule>(Rule rule) {
-        SmallWindow<T, n, Rule>(bands, dst, results, window, longestStrip).run(rule, scratch);
+    const auto go = [&]<class Rule>(const auto&... taps) {
+        walk<Rule>(bands, dst, results, window, scratch, window, Len(n), taps..., quotient);
     };
-    const auto inLines = [&]<class E>(E) {
-        walk(LineFilter<T, n, E>(window, parts.column.in(object), parts.row.in(object), quotient, scratch));
-    };
-    if (spec.sums == SumsOf::longLines) return inLines(uint32_t{});
+    const auto *const column = parts.column.in(object), *const words = parts.words.in(object);
+    const auto* const row = parts.row.in(object);
+    if (spec.sums == SumsOf::longLines) return go.template operator()<LineFilter<T, uint32_t>>(column, row);
     if constexpr (sizeof(T) == 1) {
-        if (spec.sums == SumsOf::shortLines) return inLines(int16_t{});
+        if (spec.sums == SumsOf::shortLines) return go.template operator()<LineFilter<T, int16_t>>(column, row);
         if (spec.sums == SumsOf::bytes)
-            return walk(PairFilter<T, n, ByteProducts>(window, parts.bytes.in(object), quotient));
+            return go.template operator()<PairFilter<T, ByteProducts>>(parts.bytes.in(object));
     }
-    walk(PairFilter<T, n>(window, parts.words.in(object), quotient));
+    go.template operator()<PairFilter<T>>(words);
 }
 
 }  // namespace zmv

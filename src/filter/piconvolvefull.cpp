@@ -45,17 +45,20 @@ class WideFilter {
   public:
     using Result = T;
     static constexpr int rows = 1, step = lanes<T>;
-    using Rows = RealRows<double, T, 1, rows>;
-    WideFilter(RealTaps<double> taps, const Quotient& quotient, Scratch& scratch)
-        : taps_(taps), quotient_(quotient), source_(taps.width, taps.height, scratch) {}
+    using Rows = RealRows<double, T, rows>;
+    using Memory = typename Rows::Memory;
+    static constexpr Len longest = Rows::longest;
+    WideFilter(const Memory& memory, RealTaps<double> taps, const Quotient& quotient)
+        : taps_(taps), quotient_(quotient), source_(memory, taps) {}
 
     void start(const T* const* above, Len count) const { source_.start(above, count); }
-    void operator()(const T* const* row, T* const* dst, Len count) const {
+    __attribute__((noinline)) void operator()(const T* const* row, T* const* dst, Len count) const {
         const Weigher<double, rows, false> weigher(source_.next(row, count), taps_);
-        eachStretch<T>(count, [&](Len from, Len to) {
+        eachStretchOf<stretch, step>(count, [&](Len from, Len m) {
             StretchSums<double, T> sums;
-            weigher.run(from, to, nothing, [&](int, Len x, Vec<double> sum, int) { store(sums + x - from, sum); });
-            eachVectorOf<step>(to - from, [&](Len, Len x, int k) {
+            weigher.run(from, from + m, nothing,
+                        [&](int, Len x, Vec<double> sum, int) { store(sums + x - from, sum); });
+            eachVectorOf<step>(m, [&](Len, Len x, int k) {
                 std::array<Vec<int32_t>, 4 / sizeof(T)> results;
                 for (size_t i = 0; i < results.size(); ++i) {
                     const double* const at = sums + x + Len(i) * lanes<int32_t>;
@@ -82,17 +85,26 @@ struct Channel {
     Image<T> dst;
     Roi results;
 };
+// The taps of a rule, and its walk.
+template <class T, class Rule, class Tap>
+struct ConvMemory {
+    Tap* taps;
+    WindowMemory<T, Rule> walk;
+    constexpr ConvMemory(Scratch& s, Roi results, Window window)
+        : taps(s.take<Tap, alignof(Tap)>(std::is_floating_point_v<Tap> ? WideLen(window.width) * window.height
+                                                                       : pairRows(window.height) * window.width)),
+          walk(s, results, window, 1) {}
+};
 // The kernel's pixels, turned round, as R.
 template <class R, class T>
-RealTaps<R> turned(Image<const T> kernel, ImageSize size, Len pixel, Scratch& scratch) {
-    R* const taps = scratch.take<R, alignof(R)>(Len(size.width) * size.height);
+RealTaps<R> turned(R* taps, Image<const T> kernel, Window size, Len pixel) {
     R* to = taps;
     for (Len i = size.height - 1; i >= 0; --i)
         for (Len j = size.width - 1; j >= 0; --j) *to++ = R(get(kernel.row(i) + j * pixel));
     return {taps, size.width, size.height, 1};
 }
 template <class T>
-int64_t magnitude(Image<const T> kernel, ImageSize size, Len pixel) {
+int64_t magnitude(Image<const T> kernel, Window size, Len pixel) {
     int64_t sum = 0;
     for (Len i = 0; i < size.height; ++i)
         for (Len j = 0; j < size.width; ++j) sum += std::abs(int64_t(get(kernel.row(i) + j * pixel)));
@@ -104,7 +116,7 @@ constexpr Len exactDoubles = Len(1) << 53;
 // Sums of which doubles lose bits: one by one.
 template <class T>
 void longSums(const Bands<T, 1>& bands, const Channel<T>& c, Window window, RealTaps<double> taps, int32_t divisor) {
-    const __int128 d = divisor < 0 ? -int64_t(divisor) : divisor;
+    const int64_t d = divisor < 0 ? -int64_t(divisor) : divisor;
     for (Len y = 0; y < c.results.height; ++y)
         for (Len x = 0; x < c.results.width; ++x) {
             int64_t sum = 0;
@@ -115,59 +127,57 @@ void longSums(const Bands<T, 1>& bands, const Channel<T>& c, Window window, Real
                     if (column != bands.none) sum += int64_t(taps.row(i)[j]) * get(row + column);
                 }
             }
-            const __int128 twice = 2 * __int128(divisor < 0 ? -sum : sum) + d;
-            __int128 quotient = twice / (2 * d) - (twice % (2 * d) < 0);
-            if (twice % (2 * d) == 0) quotient -= quotient & 1;
+            const int64_t n = divisor < 0 ? -sum : sum, down = n / d - (n % d < 0), rest = 2 * (n - down * d);
+            const int64_t nearest = down + (rest > d || (rest == d && down & 1));
             put(c.dst.row(y) + x,
-                T(std::clamp<__int128>(quotient, std::numeric_limits<T>::min(), std::numeric_limits<T>::max())));
+                T(std::clamp<int64_t>(nearest, std::numeric_limits<T>::min(), std::numeric_limits<T>::max())));
         }
 }
 
 // pixel: elements from one pixel of the kernel to the next.
 template <class T>
 void convolve(const Channel<T>& c, Image<const T> kernel, Len pixel, Window window, int32_t divisor, Scratch scratch) {
-    const ImageSize size{int(window.width), int(window.height)};
     const T zero = 0;
     const Bands<T, 1> bands(c.src, c.readable, C1, window, c.word, &zero, false);
-    const auto walk = [&]<class Rule>(Rule rule, Len longest) {
-        SmallWindow<T, 1, Rule>(bands, c.dst, c.results, window, longest).run(rule, scratch);
-    };
     if constexpr (std::is_same_v<T, float>) {
-        const auto taps = turned<float>(kernel, size, pixel, scratch);
-        walk(FloatFilter<1>(taps), longestStrip);
+        const ConvMemory<T, FloatFilter, float> memory(scratch, c.results, window);
+        walk(bands, c.dst, c.results, window, memory.walk, turned(memory.taps, kernel, window, pixel));
     } else {
-        constexpr int lowest = std::numeric_limits<T>::min(), highest = std::numeric_limits<T>::max();
-        const int64_t largest = magnitude(kernel, size, pixel) * (highest + (lowest < 0));
+        using Limits = std::numeric_limits<T>;
+        const int64_t largest = magnitude(kernel, window, pixel) * (Limits::max() + std::is_signed_v<T>);
+        const Quotient quotient(divisor, ROUND_NEAR, 0, Limits::min(), Limits::max(), largest > INT32_MAX);
         if (largest <= INT32_MAX) {
-            const Quotient quotient(divisor, ROUND_NEAR, 0, lowest, highest);
-            using Taps = TapPair<int16_t>;
-            Taps* const pairs = scratch.take<Taps, alignof(Taps)>(Len(pairRows(size.height)) * size.width);
-            writePairs(pairs, size.width, size.height, [&](Len i, Len j) {
-                return get(kernel.row(size.height - 1 - i) + (size.width - 1 - j) * pixel);
+            const ConvMemory<T, PairFilter<T>, TapPair<int16_t>> memory(scratch, c.results, window);
+            writePairs(memory.taps, window.width, window.height, [&](Len i, Len j) {
+                return get(kernel.row(window.height - 1 - i) + (window.width - 1 - j) * pixel);
             });
-            return walk(PairFilter<T, 1>(window, pairs, quotient), longestStrip);
+            return walk(bands, c.dst, c.results, window, memory.walk, window, Len(1), memory.taps, quotient);
         }
-        const auto taps = turned<double>(kernel, size, pixel, scratch);
+        const ConvMemory<T, WideFilter<T>, double> memory(scratch, c.results, window);
+        const auto taps = turned(memory.taps, kernel, window, pixel);
         if (largest > exactDoubles) return longSums(bands, c, window, taps, divisor);
-        const Quotient quotient(divisor, ROUND_NEAR, 0, lowest, highest, true);
-        walk(WideFilter<T>(taps, quotient, scratch), WideFilter<T>::Rows::longest);
+        walk(bands, c.dst, c.results, window, memory.walk, taps, quotient);
     }
 }
 
 // ---- Three and four ----
 // Each channel has a kernel of its own: it is taken out of a tile of pixels, and its results put into the pixels.
 constexpr Len tileWidth = 512, tileHeight = 32;
-WideLen tilePixels(ImageSize kernel) {
-    return (tileWidth + kernel.width - 1) * WideLen(tileHeight + kernel.height - 1) + tileWidth * tileHeight;
-}
+template <class T>
+struct TileMemory {
+    T *pixels, *made;
+    constexpr TileMemory(Scratch& s, Window window)
+        : pixels(s.take<T>((tileWidth + window.width - 1) * WideLen(tileHeight + window.height - 1))),
+          made(s.take<T>(tileWidth * tileHeight)) {}
+};
 template <int n, class T>
 void convolveTiles(Image<const T> src, Image<const T> kernel, Image<T> dst, const Plan& plan, int32_t divisor,
                    Scratch scratch) {
     const Window window = plan.window();
     const Roi results = plan.results();
     const Len width = tileWidth + window.width - 1;
-    T* const pixels = scratch.take<T>(width * (tileHeight + window.height - 1));
-    T* const made = scratch.take<T>(tileWidth * tileHeight);
+    const TileMemory<T> memory(scratch, window);
+    T *const pixels = memory.pixels, *const made = memory.made;
     for (Len y0 = 0; y0 < results.height; y0 += tileHeight)
         for (Len x0 = 0; x0 < results.width; x0 += tileWidth)
             for (int c = 0; c < n; ++c) {
@@ -217,26 +227,20 @@ StatusCode ownpi_Conv(Image<const T> src1, ImageSize size1, Image<const T> src2,
                 {src, made.valid ? results : Roi(made.image), made.valid ? BORDER_IN_MEM : BORDER_CONST, dst, results},
                 kernel, 1, made.window(), divisor, Scratch(buffer));
     };
-    if constexpr (std::is_same_v<T, float>) {
-        run();
-    } else {
-        const RoundingControl control(RoundingControl::toNearestEven);
-        run();
-    }
+    toNearestIf<std::is_integral_v<T>>(run);
     return STATUS_OK;
 }
 
-constexpr int anyVector = 64;
 template <class T>
-WideLen walkBytes(WideLen width, WideLen height) {
-    if constexpr (std::is_same_v<T, float>) {
-        return SmallWindow<T, 1, FloatFilter<1>>::bytes(width, height, longestStrip, anyVector);
-    } else {
-        using Wide = WideFilter<T>;
-        return std::max(Wide::Rows::bytes(width, height, anyVector) +
-                            SmallWindow<T, 1, Wide>::bytes(width, height, Wide::Rows::longest, anyVector),
-                        SmallWindow<T, 1, PairFilter<T, 1>>::bytes(width, height, longestStrip, anyVector));
-    }
+WideLen convBytes(Window window, int channels) {
+    const Roi any(1, 1);
+    Scratch tile;
+    if (channels > 1) TileMemory<T>(tile, window);
+    if constexpr (std::is_same_v<T, float>)
+        return tile.bytes() + scratchBytes<ConvMemory<T, FloatFilter, float>>(any, window);
+    else
+        return tile.bytes() + std::max(scratchBytes<ConvMemory<T, PairFilter<T>, TapPair<int16_t>>>(any, window),
+                                       scratchBytes<ConvMemory<T, WideFilter<T>, double>>(any, window));
 }
 
 StatusCode ownpi_ConvGetBufferSize(ImageSize size1, ImageSize size2, int type, int channels, int algType, int* bytes) {
@@ -245,12 +249,10 @@ StatusCode ownpi_ConvGetBufferSize(ImageSize size1, ImageSize size2, int type, i
         return bad;
     Plan made;
     if (auto bad = plan(size1, size2, algType, made)) return bad;
-    const WideLen width = made.kernel.width, height = made.kernel.height;
-    const WideLen element = type == DATATYPE_8U ? 1 : type == DATATYPE_16S ? 2 : 4;
-    const WideLen walk = type == DATATYPE_8U    ? walkBytes<uint8_t>(width, height)
-                         : type == DATATYPE_16S ? walkBytes<int16_t>(width, height)
-                                                : walkBytes<float>(width, height);
-    const WideLen total = 8 * width * height + (channels > 1 ? tilePixels(made.kernel) * element : 0) + walk + 64;
+    const Window window(made.kernel);
+    const WideLen total = type == DATATYPE_8U    ? convBytes<uint8_t>(window, channels)
+                          : type == DATATYPE_16S ? convBytes<int16_t>(window, channels)
+                                                 : convBytes<float>(window, channels);
     if (auto bad = fits<int>(total)) return bad;
     put(bytes, int(total));
     return STATUS_OK;

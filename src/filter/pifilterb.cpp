@@ -29,21 +29,17 @@ WideLen specSize(ImageSize kernel, int type, int kernelType, int channels) {
            (single ? roundUp(h * w * 16, 64) : 0) + 191;
 }
 
-constexpr int anyVector = 64;  // a size is the same in all builds
 template <class T>
-WideLen workBytes(WideLen width, WideLen height) {
-    if constexpr (std::is_same_v<T, float>) {
-        return SmallWindow<T, 1, FloatFilter<1>>::bytes(width, height, longestStrip, anyVector);
-    } else {
-        using Rounded = RoundedFilter<T, 1>;
-        return std::max(integerFilterBytes<T>(width, height, anyVector),
-                        Rounded::Rows::bytes(width, height, anyVector) +
-                            SmallWindow<T, 1, Rounded>::bytes(width, height, Rounded::Rows::longest, anyVector));
-    }
+constexpr WideLen workBytes(Roi roi, Window window, int n) {
+    if constexpr (std::is_same_v<T, float>)
+        return scratchBytes<WindowMemory<T, FloatFilter>>(roi, window, n);
+    else
+        return std::max(integerFilterBytes<T>(roi, window, n),
+                        scratchBytes<WindowMemory<T, RoundedFilter<T>>>(roi, window, n));
 }
 // What a filter takes that builds the bands round the region, or all of it if the kernel is larger, and some rows to
 // work with.  The filters here keep strips instead that do not grow with the region; doubles make do with the bands'.
-WideLen bufferSize(ImageSize kernel, ImageSize roi, int type, int channels) {
+constexpr WideLen bandBytes(ImageSize kernel, ImageSize roi, WideLen pixelBytes) {
     const WideLen kw = kernel.width, kh = kernel.height, w = roi.width, h = roi.height;
     const WideLen extendedWidth = w + kw - 1, extendedHeight = h + kh - 1;
     WideLen cells = extendedWidth * extendedHeight;
@@ -51,14 +47,25 @@ WideLen bufferSize(ImageSize kernel, ImageSize roi, int type, int channels) {
         const WideLen a = kh == 2 ? 2 : kh / 2, b = kw == 2 ? 2 : kw / 2;
         cells = std::max(a > 0 ? (kh + a - 1) * extendedWidth : 0, b > 0 ? (kw - 1 + b) * extendedHeight : 0);
     }
-    const auto borders = [&](int element) { return roundUp(cells * element * channels, 32) + 32; };
-    if (type == DATATYPE_64F) return borders(8) + 126;
-    const WideLen width = kw * channels;
-    const WideLen ordinary = type == DATATYPE_8U    ? borders(1) + workBytes<uint8_t>(width, kh) + 63
-                             : type == DATATYPE_32F ? borders(4) + workBytes<float>(width, kh) + 63
-                                                    : borders(2) + workBytes<int16_t>(width, kh) + 63;
+    return roundUp(cells * pixelBytes, 32) + 32;
+}
+constexpr WideLen doubleBytes(ImageSize kernel, ImageSize roi) { return bandBytes(kernel, roi, 8) + 126; }
+static_assert(fitsEverywhere([](ImageSize roi, ImageSize kernel) {
+    using Filter = DoubleFilter<false>;
+    Window part(kernel);
+    part.height = std::min(part.height, Filter::mostRows);
+    return scratchBytes<WindowMemory<double, Filter>>(Roi(roi), part, 1) <= doubleBytes(kernel, roi);
+}));
+WideLen bufferSize(ImageSize kernel, ImageSize roi, int type, int channels) {
+    if (type == DATATYPE_64F) return doubleBytes(kernel, roi);
+    const Window window(kernel);
+    const WideLen ordinary =
+        type == DATATYPE_8U    ? bandBytes(kernel, roi, channels) + workBytes<uint8_t>(roi, window, channels)
+        : type == DATATYPE_32F ? bandBytes(kernel, roi, 4 * channels) + workBytes<float>(roi, window, channels)
+                               : bandBytes(kernel, roi, 2 * channels) + workBytes<int16_t>(roi, window, channels);
     constexpr uint64_t enlarging = 0x08000000;
-    return ownGetFeature(enlarging) ? std::max(ordinary, 64 * ((kw + 3) / 4) * kh) : ordinary;
+    return ownGetFeature(enlarging) ? std::max(ordinary + 63, 64 * WideLen((window.width + 3) / 4) * window.height)
+                                    : ordinary + 63;
 }
 
 StatusCode ownpi_FilterBorderGetSize(ImageSize kernel, ImageSize roi, int type, int kernelType, int channels,
@@ -136,7 +143,6 @@ StatusCode ownpi_FilterBorderInit_16s(const int16_t* kernel, ImageSize size, int
     if (auto bad = firstOf({pointers(kernel, spec), zmv::size(size), refuse(!integers, STATUS_BAD_DATATYPE),
                             oneToFour(channels), rounding(roundMode), refuse(divisor == 0, STATUS_BAD_DIVISOR)}))
         return bad;
-    const RoundingControl control(RoundingControl::toNearestEven);
     if (!keepsIntegers(type, channels, size)) {
         const double factor = 1.0 / divisor;
         writeTaps(spec, headerFor(singlePath(type), size, channels, withoutHint(roundMode)), &FilterParts::floats,
@@ -202,7 +208,6 @@ StatusCode ownpi_FilterBorderSetMode(int hint, int offset, uint8_t* spec) {
         header.roundMode &= 3;
     else if (accurate)
         header.roundMode |= ROUND_HINT_ACCURATE;
-    const RoundingControl control(RoundingControl::toNearestEven);
     header.offset = offset;
     header.offsetScaled = float(int64_t(offset) * (path < single8u ? header.scale.divisor : 1));
     header.hint = hint;
@@ -214,9 +219,9 @@ StatusCode ownpi_FilterBorderSetMode(int hint, int offset, uint8_t* spec) {
 
 void doubleFilter(Image<const double> src, Image<double> dst, Roi roi, int borderType, const double* value,
                   RealTaps<double> taps, Window window, Scratch scratch) {
-    eachPartOfKernel(taps, window, [&]<class Filter>(Filter filter, Window part) {
+    eachPartOfKernel(taps, window, [&]<class Filter>(RealTaps<double> rows, Window part) {
         const Bands<double, 1> bands(src, roi, C1, part, borderType, value, false);
-        SmallWindow<double, 1, Filter>(bands, dst, roi, part, longestStrip).run(filter, scratch);
+        walk<Filter>(bands, dst, roi, part, scratch, rows);
     });
 }
 
@@ -237,24 +242,20 @@ StatusCode ownpi_FilterBorder(Image<const T> src, Image<T> dst, Roi roi, int bor
                      window, scratch);
     } else {
         const Bands<T, n> bands(src, roi, layout, window, borderType, value, false);
-        if constexpr (std::is_same_v<T, float>) {
-            FloatFilter<n> filter({parts.floats.in(object), window.width, window.height, n});
-            SmallWindow<T, n, FloatFilter<n>>(bands, dst, roi, window, longestStrip).run(filter, scratch);
-        } else {
-            const RoundingControl control(RoundingControl::toNearestEven);
-            if constexpr (sizeof(T) == 1 || (std::is_signed_v<T> && n == 1))
-                if (header.path <= integer16s) {
-                    const Quotient quotient(header.scale.divisor, unsigned(withoutHint(int(header.roundMode))),
-                                            header.offset, std::numeric_limits<T>::min(),
-                                            std::numeric_limits<T>::max());
-                    integerFilter<T, n>(bands, dst, roi, window, header, object, quotient, scratch);
-                    return STATUS_OK;
-                }
-            RoundedFilter<T, n> filter({parts.floats.in(object), window.width, window.height, n}, header.roundMode,
-                                       header.offsetScaled, scratch);
-            SmallWindow<T, n, RoundedFilter<T, n>>(bands, dst, roi, window, RoundedFilter<T, n>::Rows::longest)
-                .run(filter, scratch);
-        }
+        const RealTaps<float> taps{parts.floats.in(object), window.width, window.height, n};
+        if constexpr (std::is_same_v<T, float>)
+            walk<FloatFilter>(bands, dst, roi, window, scratch, taps);
+        else
+            toNearest([&] {
+                if constexpr (sizeof(T) == 1 || (std::is_signed_v<T> && n == 1))
+                    if (header.path <= integer16s) {
+                        using Limits = std::numeric_limits<T>;
+                        const Quotient quotient(header.scale.divisor, unsigned(withoutHint(int(header.roundMode))),
+                                                header.offset, Limits::min(), Limits::max());
+                        return integerFilter<T, n>(bands, dst, roi, window, header, object, quotient, scratch);
+                    }
+                walk<RoundedFilter<T>>(bands, dst, roi, window, scratch, taps, header.roundMode, header.offsetScaled);
+            });
     }
     return STATUS_OK;
 }
@@ -285,11 +286,13 @@ StatusCode ownpi_FilterGetBufSize(ImageSize kernel, int roiWidth, int* bytes) {
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "filter/convolve.def"
-FILTER_SIZE_FAMILY
 FILTER_INIT_FAMILY
 FILTER_MODE_FAMILY
+#undef ENTRY_OF
+#define ENTRY_OF ZMV_DEFINE
+FILTER_SIZE_FAMILY
 FILTER_FAMILY
 FILTER_64F_SIZE_FAMILY
 FILTER_64F_FAMILY

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "kernels/rounding.h"
+#include "kernels/simd_convert.h"
 #include "kernels/smallwindow.h"
 
 namespace zmv {
@@ -113,14 +114,15 @@ class Weigher {
 inline constexpr auto nothing = [](int, Len, int) {};
 
 // Images of floats, in their own rows.
-template <int n>
 class FloatFilter {
   public:
     using Result = float;
+    using Memory = NoMemory;
     static constexpr int rows = 2, step = lanes<float>;
-    explicit FloatFilter(RealTaps<float> taps) : taps_(taps) {}
+    static constexpr Len longest = longestStrip;
+    FloatFilter(Memory, RealTaps<float> taps) : taps_(taps) {}
 
-    void operator()(const float* const* row, float* const* dst, Len count) const {
+    __attribute__((noinline)) void operator()(const float* const* row, float* const* dst, Len count) const {
         Weigher<float, rows, true>(row, taps_).run(0, count, nothing, [&](int r, Len x, Vec<float> sum, int k) {
             storeUpTo(dst[r] + x, sum, k);
         });
@@ -136,12 +138,12 @@ template <bool started>
 class DoubleFilter {
   public:
     using Result = double;
+    using Memory = NoMemory;
     static constexpr int rows = 1, step = lanes<double>;
-    static constexpr bool exact = true;
-    static constexpr Len partRows = 32;
-    explicit DoubleFilter(RealTaps<double> taps) : taps_(taps) {}
+    static constexpr Len longest = longestStrip, mostRows = 32;
+    DoubleFilter(Memory, RealTaps<double> taps) : taps_(taps) {}
 
-    void operator()(const double* const* row, double* const* dst, Len count) const {
+    __attribute__((noinline)) void operator()(const double* const* row, double* const* dst, Len count) const {
         double* const to = dst[0];
         Weigher<double, rows, true, started>(row, taps_)
             .run(
@@ -152,20 +154,19 @@ class DoubleFilter {
   private:
     RealTaps<double> taps_;
 };
-// run(filter, window): for each part of a kernel.
-template <class Run>
-void eachPartOfKernel(RealTaps<double> taps, Window window, Run run) {
-    constexpr Len most = DoubleFilter<false>::partRows;
-    for (Len from = 0; from < window.height; from += most) {
-        Window part = window;
-        part.height = std::min(most, window.height - from);
-        part.top = window.top - from;
-        part.bottom = part.height - 1 - part.top;
-        const RealTaps<double> rows{taps.row(from), taps.width, part.height, 1, taps.next};
+// part(filter, taps, window): for each part of a kernel.
+template <class Part>
+void eachPartOfKernel(RealTaps<double> taps, Window window, Part part) {
+    for (Len from = 0; from < window.height; from += DoubleFilter<false>::mostRows) {
+        Window rows = window;
+        rows.height = std::min(DoubleFilter<false>::mostRows, window.height - from);
+        rows.top = window.top - from;
+        rows.bottom = rows.height - 1 - rows.top;
+        const RealTaps<double> of{taps.row(from), taps.width, rows.height, 1, taps.next};
         if (from == 0)
-            run(DoubleFilter<false>(rows), part);
+            part.template operator()<DoubleFilter<false>>(of, rows);
         else
-            run(DoubleFilter<true>(rows), part);
+            part.template operator()<DoubleFilter<true>>(of, rows);
     }
 }
 
@@ -203,19 +204,21 @@ class Rounding {
 };
 
 // Rows of integers as real numbers R, each made once, in a ring.
-template <class R, class T, int n, int rows>
+template <class R, class T, int rows>
 class RealRows {
   public:
     static constexpr Len longest = 4096 / sizeof(R);  // of a strip, so that the ring stays in the nearest caches
 
-    static constexpr WideLen bytes(WideLen width, WideLen height, int vector) {  // of a window in elements
-        return ringRows(height) * (WideLen(sizeof(R*)) + rowLength(width, vector) * WideLen(sizeof(R))) + 7;
-    }
-    RealRows(Len width, Len height, Scratch& scratch) : reach_((width - 1) * n), kept_(height - 1) {
-        const Len count = Len(ringRows(height)), length = Len(rowLength(width * n, vectorBytes));
-        ring_ = scratch.take<R*, alignof(R*)>(count);
-        R* const memory = scratch.take<R>(count * length);
-        for (Len i = 0; i < count; ++i) ring_[i] = memory + i * length;
+    struct Memory {
+        R **ring, *elements;
+        constexpr Memory(Scratch& s, Roi, Window window, int n)
+            : ring(s.take<R*, alignof(R*)>(ringRows(window.height))),
+              elements(s.take<R>(WideLen(ringRows(window.height)) * rowLength(window.width * n))) {}
+    };
+    RealRows(const Memory& memory, RealTaps<R> taps)
+        : reach_((taps.width - 1) * taps.distance), kept_(taps.height - 1), ring_(memory.ring) {
+        const Len length = rowLength(taps.width * taps.distance);
+        for (Len i = 0; i < ringRows(taps.height); ++i) ring_[i] = memory.elements + i * length;
     }
     void start(const T* const* above, Len count) const {
         for (Len i = 0; i < kept_; ++i) convert(ring_[rows + i], above[i], count);
@@ -228,9 +231,9 @@ class RealRows {
     }
 
   private:
-    static constexpr WideLen ringRows(WideLen height) { return height - 1 + rows; }
+    static constexpr Len ringRows(Len height) { return height - 1 + rows; }
     // A strip, or a region that is copied as a whole, with what windows take beyond.
-    static constexpr WideLen rowLength(WideLen width, int vector) { return longest + 16 * vector + 4 * width; }
+    static constexpr Len rowLength(Len width) { return longest + 16 * largestVector + 4 * width; }
     void convert(R* to, const T* from, Len count) const {
         eachVectorOf<lanes<R>>(count + reach_, [&](Len, Len x, int k) {
             store(to + x, k == lanes<R> ? loadWiden<R>(from + x) : loadWidenPart<R>(from + x, k));
@@ -239,38 +242,30 @@ class RealRows {
     Len reach_, kept_;
     R** ring_;
 };
-// part(from, to): stretches of a row whose sums fit on the stack.  None is shorter than a vector of results, unless
-// there are no more: some are worked twice instead.
-template <class T, class Part>
-void eachStretch(Len count, Part part) {
-    constexpr Len most = 512;
-    for (Len from = 0, to; from < count; from = to) {
-        to = std::min(from + most, count);
-        if (to - from < lanes<T>) from = std::max<Len>(0, to - lanes<T>);
-        part(from, to);
-    }
-}
+constexpr Len stretch = 512;  // elements whose sums are kept on the stack
 template <class R, class T>
-using StretchSums = R[512 + lanes<T>];
+using StretchSums = R[stretch + lanes<T>];
 
 // Images of integers with taps in single precision.
-template <class T, int n>
+template <class T>
 class RoundedFilter {
   public:
     using Result = T;
     static constexpr int rows = 2, step = lanes<T>;
-    using Rows = RealRows<float, T, n, rows>;
-    RoundedFilter(RealTaps<float> taps, unsigned roundMode, float offset, Scratch& scratch)
-        : taps_(taps), rounding_(roundMode), offset_(offset), source_(taps.width, taps.height, scratch) {}
+    using Rows = RealRows<float, T, rows>;
+    using Memory = typename Rows::Memory;
+    static constexpr Len longest = Rows::longest;
+    RoundedFilter(const Memory& memory, RealTaps<float> taps, unsigned roundMode, float offset)
+        : taps_(taps), rounding_(roundMode), offset_(offset), source_(memory, taps) {}
 
     void start(const T* const* above, Len count) const { source_.start(above, count); }
-    void operator()(const T* const* row, T* const* dst, Len count) const {
+    __attribute__((noinline)) void operator()(const T* const* row, T* const* dst, Len count) const {
         const Weigher<float, rows, false> weigher(source_.next(row, count), taps_);
-        eachStretch<T>(count, [&](Len from, Len to) {
+        eachStretchOf<stretch, step>(count, [&](Len from, Len m) {
             StretchSums<float, T> sums[rows];
-            weigher.run(from, to, nothing,
+            weigher.run(from, from + m, nothing,
                         [&](int r, Len x, Vec<float> sum, int) { store(sums[r] + x - from, sum + offset_); });
-            for (int r = rows - 1; r >= 0; --r) rounding_(dst[r] + from, sums[r], to - from);
+            for (int r = rows - 1; r >= 0; --r) rounding_(dst[r] + from, sums[r], m);
         });
     }
 

@@ -84,6 +84,7 @@ class Bands {
     Row row(Len y, Len finished) const {
         if (y < 0 ? !(word_ & BORDER_IN_MEM_TOP) : y >= roi_.height && !(word_ & BORDER_IN_MEM_BOTTOM)) {
             if (constant()) {
+                if (!memory_.constantRow) return {};  // for callers who lay the constant out themselves
                 const T* const row = memory_.constantRow + window_.left * n;
                 return {row, row};
             }

@@ -8,8 +8,10 @@
 //
 //     struct Rule {
 //         using Result = uint8_t;
+//         using Memory = NoMemory;                      // what it keeps in the work buffer
 //         static constexpr int rows = 2;                // of results in a block
 //         static constexpr int step = lanes<uint8_t>;   // elements of a vector
+//         static constexpr Len longest = longestStrip;  // elements of a row that are worked at a time
 //         void start(const T* const* above, Len count);  // may be left out: the rows before those of the first block
 //         void operator()(const T* const* rows, Result* const* dst, Len count);
 //     };
@@ -20,8 +22,13 @@
 // vectors of `step` that it may read in full, and stores row r after row r + 1: behind the last row of the region the
 // results of the last one stand for those that are too many.
 //
-// A rule with `static constexpr bool exact = true` and one row of results reads no more than its windows, and gets
-// strips that are no wider than they have to be, one row at a time: for work buffers that hold no more than that.
+// A rule with `static constexpr Len mostRows = 32` and one row of results has windows of at most so many rows, reads no
+// more than them, and gets strips that are no wider than they have to be, one row at a time: for work buffers that hold
+// no more than that.
+//
+//     walk<Rule>(bands, dst, results, window, scratch, arguments...)
+//
+// makes a Rule(memory, arguments...) and takes it over all results, in scratchBytes<WindowMemory<T, Rule>>(..) bytes.
 #pragma once
 
 #include "core/spec.h"
@@ -39,17 +46,69 @@ ZMV_INLINE void eachVectorOf(Len count, Body body) {
     if (i * step < count) body(i, count - step, step);
 }
 
+// part(from, n): stretches of at most so many of the results that a rule is asked for, for what it keeps on the stack.
+// None but a short row is shorter than a vector: results may be made twice.
+template <Len most, int step, class Part>
+ZMV_INLINE void eachStretchOf(Len count, Part part) {
+    for (Len from = 0, n; from < count; from += n) {
+        n = std::min(most, count - from);
+        if (n < step && from > 0) from -= step - n, n = step;
+        part(from, n);
+    }
+}
+
 // Elements of a row that are worked at a time where a rule has no reason for another number: so many that the processor
 // fetches rows ahead, so few that the rows of a window stay in the nearest caches.
 constexpr Len longestStrip = 4096;
+
+// Work buffers are laid out for vectors of this size by every build, so that queries have one answer.
+constexpr Len largestVector = 64;
+struct NoMemory {
+    constexpr NoMemory(Scratch&, Roi, Window, int) {}
+};
+template <class T, class Rule>
+struct WindowMemory {
+    // Rows are worked in batches: what is copied is copied well before it is read, since a load that spans recent
+    // stores waits for them.
+    static constexpr bool exact = requires { Rule::mostRows; };
+    static constexpr int batch = exact ? 1 : 16;
+    static constexpr Len tableRows(Len height) { return height + batch; }
+    static constexpr Len ownRows() {  // of a table on the stack
+        if constexpr (exact) return tableRows(Rule::mostRows);
+        return 1;
+    }
+    static constexpr Len copiedRows(Len height) { return height - 1 + batch; }
+    // Rows of this many vectors are copied as a whole: that costs less than to walk three strips.
+    static constexpr int narrow = 8;
+
+    typename Rule::Memory rule;
+    const T** table = nullptr;
+    T* rows;
+    constexpr WindowMemory(Scratch& s, Roi results, Window window, int n) : rule(s, results, window, n) {
+        const Len width = window.width * n, step = Rule::step * largestVector / vectorBytes;
+        if constexpr (exact) {
+            const Len region = results.width * n, sides = std::max(window.left, window.right) * n;
+            const Len copied = region > width - n ? sides : region, beyond = width - n;
+            const Len constant = window.height > 1 ? std::min(region, Rule::longest + Rule::step) + beyond : 0;
+            rows = s.take<T>(std::max(WideLen(window.height) * (copied + beyond), WideLen(constant)));
+        } else {
+            // The longest one: a vector and two ends, each a vector or what a window takes, and what it takes beyond.
+            const Len copied =
+                std::max<Len>(narrow * largestVector / Len(sizeof(T)), step + 2 * std::max(width, step)) + width + step;
+            table = s.take<const T*, alignof(const T*)>(tableRows(window.height));
+            rows =
+                s.take<T>(std::max(WideLen(copiedRows(window.height)) * copied, WideLen(Rule::longest) + step + width));
+        }
+    }
+};
 
 template <class T, int n, class Rule>
 class SmallWindow {
   public:
     using D = typename Rule::Result;
-    // results: they start at the source's first pixel, and need not end with it.  longest: elements of a row that are
-    // worked at a time.
-    SmallWindow(const Bands<T, n>& bands, Image<D> dst, Roi results, Window window, Len longest)
+    using Memory = WindowMemory<T, Rule>;
+    // results: they start at the source's first pixel, and need not end with it.
+    SmallWindow(const Bands<T, n>& bands, Image<D> dst, Roi results, Window window, const Memory& memory)
         : bands_(bands),
           dst_(dst),
           end_(results.width * n),
@@ -58,57 +117,37 @@ class SmallWindow {
           behind_(window.right * n),
           top_(window.top),
           bottom_(window.bottom),
-          longest_(longest) {}
+          memory_(memory) {}
 
-    // What run() takes for a window of so many elements and rows; with vectors of 64 bytes, what it takes in any build.
-    static constexpr WideLen bytes(WideLen width, WideLen height, Len longest, int vector = vectorBytes) {
-        const Len step = Rule::step * vector / vectorBytes;
-        const WideLen copies = copiedRows(height) * (copiedRow(width, step, vector) + step);
-        return tableSize(height) * WideLen(sizeof(T*)) + 7 +
-               std::max<WideLen>(copies, longest + step + width) * WideLen(sizeof(T));
-    }
-
-    void run(Rule& rule, Scratch scratch) const {
+    void run(Rule& rule) const {
         Len left = std::clamp<Len>(bands_.firstColumn() * n + before_, 0, end_);
         Len right = std::clamp<Len>(bands_.endColumn() * n - behind_, 0, end_);
         if constexpr (!exact) {
             if (left > 0) left = std::max<Len>(left, Rule::step);
             if (right < end_) right = std::min<Len>(right, end_ - Rule::step);
         }
-        const bool copiedWhole = !exact && (left > 0 || right < end_) && end_ <= narrow * lanes<T>;
-        if (copiedWhole || right - left < (exact ? 1 : Rule::step)) return strip<true>(rule, 0, end_, scratch);
-        if (left > 0) strip<true>(rule, 0, left, scratch);
+        const bool copiedWhole = !exact && (left > 0 || right < end_) && end_ <= Memory::narrow * lanes<T>;
+        if (copiedWhole || right - left < (exact ? 1 : Rule::step)) return strip<true>(rule, 0, end_);
+        if (left > 0) strip<true>(rule, 0, left);
         for (Len from = left, to; from < right; from = to) {
-            to = right - from < longest_ + Rule::step ? right : from + longest_;
-            strip<false>(rule, from, to, scratch);
+            to = right - from < Rule::longest + Rule::step ? right : from + Rule::longest;
+            strip<false>(rule, from, to);
         }
-        if (right < end_) strip<true>(rule, right, end_, scratch);
+        if (right < end_) strip<true>(rule, right, end_);
     }
 
   private:
-    // Rows are worked in batches: what is copied is copied well before it is read, since a load that spans recent
-    // stores waits for them.
-    static constexpr bool exact = requires { requires Rule::exact; };
-    static constexpr int batch = exact ? 1 : 16, slack = exact ? 0 : Rule::step;
-    static constexpr WideLen tableSize(WideLen height) { return height + batch; }
-    static constexpr WideLen copiedRows(WideLen height) { return height - 1 + batch; }
-    // Rows of this many vectors are copied as a whole: that costs less than to walk three strips.
-    static constexpr int narrow = 8;
-    // The longest one: a vector and two ends, each a vector or what a window takes, and what the window takes beyond.
-    static constexpr WideLen copiedRow(WideLen width, Len step, int vector) {
-        return std::max<WideLen>(narrow * vector / Len(sizeof(T)), step + 2 * std::max<WideLen>(width, step)) + width;
-    }
+    static constexpr bool exact = Memory::exact;
+    static constexpr int batch = Memory::batch;
+    static constexpr Len slack = exact ? 0 : Rule::step;
 
     template <bool copied>
-    void strip(Rule& rule, Len from, Len to, Scratch scratch) const {
+    void strip(Rule& rule, Len from, Len to) const {
         const Len first = from - before_, length = to + behind_ - first, rowLength = length + slack;
-        const Len kept = top_ + bottom_, slots = Len(copiedRows(kept + 1));
-        constexpr Len few = 48;
-        const T* ours[few];
-        const auto table = Len(tableSize(kept + 1)) <= few
-                               ? ours
-                               : scratch.take<const T*, alignof(const T*)>(Len(tableSize(kept + 1)));
-        T* const memory = scratch.take<T>(0);
+        const Len kept = top_ + bottom_, slots = Memory::copiedRows(kept + 1);
+        const T* ours[Memory::ownRows()];
+        const T** const table = exact ? ours : memory_.table;
+        T* const memory = memory_.rows;
         const Ends ends(bands_, first, first + length);
         bool constantIsLaidOut = false;
         Len slot = 0;
@@ -192,7 +231,20 @@ class SmallWindow {
     const Bands<T, n>& bands_;
     Image<D> dst_;
     Len end_, height_;  // of the results
-    Len before_, behind_, top_, bottom_, longest_;
+    Len before_, behind_, top_, bottom_;
+    const Memory& memory_;
 };
+
+template <class Rule, class T, int n, class... Args>
+void walk(const Bands<T, n>& bands, Image<typename Rule::Result> dst, Roi results, Window window,
+          const WindowMemory<T, Rule>& memory, const Args&... args) {
+    Rule rule(memory.rule, args...);
+    SmallWindow<T, n, Rule>(bands, dst, results, window, memory).run(rule);
+}
+template <class Rule, class T, int n, class... Args>
+void walk(const Bands<T, n>& bands, Image<typename Rule::Result> dst, Roi results, Window window, Scratch scratch,
+          const Args&... args) {
+    walk<Rule>(bands, dst, results, window, WindowMemory<T, Rule>(scratch, results, window, n), args...);
+}
 
 }  // namespace zmv
