@@ -717,10 +717,10 @@ ZMV_API StatusCode zmviSumWindowColumn_16s32f_C1R(const int16_t* src, int srcSte
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int maskSize, int anchor);
 
-/* zmviFilterBorderGetSize: The sizes in bytes of the spec object and of the work buffer of zmviFilterBorder, for images
-   of dataType and
-   numChannels (1 to 4, two counting as one; DATATYPE_64F: 1) and a kernel of kernelType, DATATYPE_16S or _32F (of 64f
-   images DATATYPE_64F).  A block that is large enough for one kernel type is so for the others.
+/* zmviFilterBorderGetSize: The sizes in bytes of the spec object and of the work buffer of zmviFilterBorder.
+   For images of dataType and numChannels (1 to 4, two counting as one; DATATYPE_64F: 1) and a kernel of kernelType,
+   DATATYPE_16S or _32F (of 64f images DATATYPE_64F).  A block that is large enough for one kernel type is so for the
+   others.
    Checked in this order.  STATUS_BAD_SIZE: width or height of dstRoiSize below 1.  STATUS_BAD_DATATYPE: dataType is not
    DATATYPE_8U, _16U, _16S, _32F or _64F, then another kernelType (of 16s images whose kernels stay integers
    DATATYPE_64F passes, though no kernel has it).  STATUS_BAD_NUM_CHANNELS: numChannels is not 1, 2, 3 or 4.
@@ -729,9 +729,9 @@ ZMV_API StatusCode zmviSumWindowColumn_16s32f_C4R(const int16_t* src, int srcSte
    src/filter/pifilterb.cpp */
 ZMV_API StatusCode zmviFilterBorderGetSize(ImageSize kernelSize, ImageSize dstRoiSize, int dataType, int kernelType, int numChannels, int* pSpecSize, int* pBufferSize);
 
-/* zmviFilterBorderInit: Makes the spec object of zmviFilterBorder in pSpec, a block at any alignment: it starts at the
-   next 64-byte
-   boundary, and may be copied to another block as far from one.  The kernel, row by row, is that of a convolution:
+/* zmviFilterBorderInit: Makes the spec object of zmviFilterBorder.
+   pSpec is a block at any alignment: the object starts at its next 64-byte boundary, and may be copied to another block
+   as far from one.  The kernel, row by row, is that of a convolution:
    pKernel[kernelSize.height / 2 * width + width / 2] is the tap of the pixel itself.
      _16s  integer taps over divisor, for 8u, 16u and 16s images.  They stay integers for 8u images and for 16s
            ones of one channel and kernels at least 3 wide and 2 high; else they become tap * (1.0 / divisor)
@@ -748,16 +748,16 @@ ZMV_API StatusCode zmviFilterBorderInit_16s(const int16_t* pKernel, ImageSize ke
 ZMV_API StatusCode zmviFilterBorderInit_32f(const float* pKernel, ImageSize kernelSize, int dataType, int numChannels, int roundMode, uint8_t* pSpec);
 ZMV_API StatusCode zmviFilterBorderInit_64f(const double* pKernel, ImageSize kernelSize, int dataType, int numChannels, int roundMode, uint8_t* pSpec);
 
-/* zmviFilterBorderSetMode: Changes a spec object of zmviFilterBorder: offset is added to results of 8u and 16u images;
-   hint, HINT_ACCURATE or
-   any other number, is kept and changes no result.
+/* zmviFilterBorderSetMode: Changes a spec object of zmviFilterBorder.
+   offset is added to results of 8u and 16u images; hint, HINT_ACCURATE or any other number, is kept and changes no
+   result.
    Checked in this order.  STATUS_NULL_POINTER: pSpec is null.  STATUS_BAD_ARGUMENT: an offset other than zero for 16s,
    32f or 64f images; the object stays as it was.
    src/filter/pifilterb.cpp */
 ZMV_API StatusCode zmviFilterBorderSetMode(int hint, int offset, uint8_t* pSpec);
 
-/* zmviFilterBorder: The pixels round each pixel, weighted by the kernel of a spec object and added up: with kernel K, w
-   wide and h high,
+/* zmviFilterBorder: The pixels round each pixel, weighted by the kernel of a spec object and added up.
+   With kernel K, w wide and h high,
      dst(x, y) = sum of K[i][j] * src(x + w / 2 - j, y + h / 2 - i)
    Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
    channel), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
@@ -792,9 +792,9 @@ ZMV_API StatusCode zmviFilterBorder_64f_C1R(const double* src, int srcStep, doub
    src/filter/pifilterb.cpp */
 ZMV_API StatusCode zmviFilterGetBufSize_64f_C1R(ImageSize kernelSize, int roiWidth, int* pSize);
 
-/* zmviFilter: dst(x, y) = sum of K[i][j] * src(x + anchor.x - j, y + anchor.y - i), all read from the caller's memory,
-   in the
-   order and with the bits of zmviFilterBorder.  Any anchor is taken: the caller answers for what is readable.
+/* zmviFilter: The pixels round each pixel, weighted by a kernel and added up, in double precision.
+   dst(x, y) = sum of K[i][j] * src(x + anchor.x - j, y + anchor.y - i), all read from the caller's memory, in the order
+   and with the bits of zmviFilterBorder.  Any anchor is taken: the caller answers for what is readable.
    buffer is not used and may be null.
    The images must not overlap.
    buffer has the size that zmviFilterGetBufSize reports, at any alignment.
@@ -812,8 +812,8 @@ ZMV_API StatusCode zmviFilter_64f_C1R(const double* src, int srcStep, double* ds
    src/filter/piconvolvefull.cpp */
 ZMV_API StatusCode zmviConvGetBufferSize(ImageSize src1Size, ImageSize src2Size, int dataType, int numChannels, int algType, int* pBufferSize);
 
-/* zmviConv: The convolution of two images, channel by channel: dst(x, y) = sum of src1(x - j, y - i) * src2(j, i), over
-   divisor.
+/* zmviConv: The convolution of two images, channel by channel.
+   dst(x, y) = sum of src1(x - j, y - i) * src2(j, i), over divisor.
    algType is a method and a shape; its bits 8 to 15 and 24 to 31 are ignored.
      CONV_SHAPE_FULL   all of it, width1 + width2 - 1 by height1 + height2 - 1; pixels outside are zero and take part
      CONV_SHAPE_VALID  the part in which the smaller image lies inside the larger: the difference of sizes plus 1
