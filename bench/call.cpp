@@ -170,7 +170,9 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                                                : "roiSize");
     if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
-    const int64_t row = size.width * pixel, step = row + setting.padding;
+    // Steps count what is read left and right where a kernel is an argument.
+    const int64_t row = size.width * pixel,
+                  step = row + setting.padding + (has("pKernel") && isRead ? (kernelSide() - 1) * pixel : 0);
     // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
     const int64_t margin = has("anchor") ? kernelSide() + kernelSide() / setting.width + 1 : 0;
     Memory& block = allocate(step * (size.height + 2 * margin));

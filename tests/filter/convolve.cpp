@@ -186,6 +186,7 @@ void arrangeFilter(Case& c) {
     int word = c.mode == Mode::controls ? int(BORDER_CONST) : rules[c.rng.below(3)];
     if (c.rng.oneIn(2)) word |= 16 * c.rng.below(16);
     if (c.rng.oneIn(12) && c.mode != Mode::controls) word = BORDER_IN_MEM;
+    c.mask = {kw, kh};
     const Reach reach(kw, kh);
     const auto readable = [&](int flag, int64_t pixels) { return word & flag ? pixels : 0; };
     c.place("src", w, h,
@@ -206,7 +207,8 @@ void arrangeFilter(Case& c) {
     const int code = typeCodes.at(type);
     FIND(c.library, zmviFilterBorderGetSize)
     ({kw, kh}, {int(w), int(h)}, code, code == DATATYPE_64F ? code : DATATYPE_32F, channelsOf(c), &unused, &bytes);
-    c.placeBuffer("buffer", bytes);
+    // A tile may ask for more than the whole: for no more than all of its pixels.
+    c.placeBuffer("buffer", bytes + (c.mode == Mode::tiles ? (kw + w) * (kh + h) * 8 * channelsOf(c) : 0));
     const int none[] = {0, 2, 4, 15, 0x30, 0xf2, 0x101, -1, 241};
     if (c.mode == Mode::usual && c.rng.oneIn(20))
         c.arg("borderType") = none[c.rng.below(8)], c.expected = STATUS_BAD_BORDER;

@@ -43,6 +43,7 @@ class Case {
     int64_t width, height;     // suggested by the seed: widths go round every register size
     bool allChannels = false;  // of two layouts of different channel counts: every channel takes part, not one
     bool rowsApart = false;    // images placed from now on have rows that do not overlap
+    Slot mask;                 // that results depend on, where no argument tells
     int misalignment = 0;      // of the work buffer, to 64 bytes
 
     Slot& arg(const std::string& name);

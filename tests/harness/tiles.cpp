@@ -13,9 +13,11 @@ using zmv::Reach;
 
 bool isImage(const Parameter& p) { return p.role == Role::image || p.role == Role::planes || p.role == Role::mask; }
 
+const char* regionOf(const Member& m) { return m.find("dstRoiSize") ? "dstRoiSize" : "roiSize"; }
+
 // How far a mask reaches round its pixel, at most.
 int64_t reachOf(Case& c, int64_t Slot::*side) {
-    if (!c.has("maskSize")) return 0;
+    if (!c.has("maskSize")) return c.mask.*side;
     const Slot mask = c.arg("maskSize");
     return c.member.find("maskSize")->type.starts_with("Image") ? mask.*side : mask.a;
 }
@@ -39,7 +41,7 @@ std::vector<Slot> tile(Case& c, int64_t x, int64_t y, int64_t w, int64_t h,
     std::vector<Slot> args = c.args();
     for (size_t i = 0; i < args.size(); ++i) {
         const Parameter& p = c.member.params[i];
-        if (p.name == "roiSize") args[i] = {w, h};
+        if (p.name == regionOf(c.member)) args[i] = {w, h};
         if (p.name == "borderType")
             args[i].a |= (x > 0 ? BORDER_IN_MEM_LEFT : 0) | (y > 0 ? BORDER_IN_MEM_TOP : 0) |
                          (x + w < c.width ? BORDER_IN_MEM_RIGHT : 0) | (y + h < c.height ? BORDER_IN_MEM_BOTTOM : 0);
@@ -101,14 +103,15 @@ bool hasTiles(const Member& m) {
     const bool images =
         std::any_of(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.written && isImage(p); });
     const bool inside = facts.reach == Reach::none || (facts.reach == Reach::anchor && !m.inPlace);
-    return m.find("roiSize") && (images ? facts.tiles && inside : facts.combine != Combine::no);
+    return m.find(regionOf(m)) && (images ? facts.tiles && inside : facts.combine != Combine::no);
 }
 
 std::string runTiles(const Member& m, uint64_t seed) {
     Case c(m, builds()[seed % builds().size()], seed, Mode::tiles);
     m.family->arrange(c);
-    if (c.arg("roiSize").a < 1 || c.arg("roiSize").b < 1) return {};
-    c.width = c.arg("roiSize").a, c.height = c.arg("roiSize").b;
+    const Slot region = c.arg(regionOf(m));
+    if (region.a < 1 || region.b < 1) return {};
+    c.width = region.a, c.height = region.b;
     const auto result =
         std::find_if(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.role == Role::result; });
     const Combine how = m.facts().combine;
