@@ -77,6 +77,9 @@ typedef struct ImagePointL {
 typedef struct ImageRect {
     int x, y, width, height;
 } ImageRect;
+typedef struct ImageRectL {
+    int64_t x, y, width, height;
+} ImageRectL;
 
 /* Complex elements (16sc, 32sc, 32fc). */
 typedef struct Complex16s {
@@ -92,8 +95,8 @@ typedef struct Complex32f {
 /* Element types as arguments of size queries. */
 enum { DATATYPE_8U = 1, DATATYPE_16U = 5, DATATYPE_16S = 7, DATATYPE_32F = 13, DATATYPE_64F = 19 };
 
-/* How a resized image takes its pixels from the source's. */
-enum { INTERP_NEAREST = 1, INTERP_LINEAR = 2, INTERP_CUBIC = 6, INTERP_SUPER = 8, INTERP_LANCZOS = 16 };
+/* The masks of filters that have one shape: columns, then rows. */
+enum { MASK_3X3 = 33, MASK_5X5 = 55 };
 
 /* How a real number becomes an integer.  The financial mode adds one half, then cuts down: zmviDiv_Round to the integer
    below, zmviConvert toward zero. */
@@ -107,6 +110,18 @@ enum { HINT_ACCURATE = 2 };
 
 /* Which pixels a threshold changes: those below it, or those above. */
 enum { CMP_LESS = 0, CMP_GREATER = 4 };
+
+/* How a value between pixels, or between the levels of a table, is made.  Resizing also takes the mean of an area;
+   remap the second cubic, and the flag that lets edges fade in. */
+enum {
+    INTERP_NEAREST = 1,
+    INTERP_LINEAR = 2,
+    INTERP_CUBIC_ALT = 4,
+    INTERP_CUBIC = 6,
+    INTERP_SUPER = 8,
+    INTERP_LANCZOS = 16,
+    INTERP_SMOOTH_EDGE = -2147483647 - 1 /* the top bit */
+};
 
 /* What compositing shows of image A and of image B, each with its alpha: A over B; A inside of B; A outside of B; A
    inside of B, over B; each outside of the other; the sum of both.  _PREMUL: colours come multiplied by their alphas. */
@@ -140,6 +155,10 @@ enum {
     BORDER_IN_MEM_RIGHT = 128,
     BORDER_IN_MEM = 240
 };
+
+/* What an initialisation of the resize families makes, in a block of the caller's: any alignment will do.  A copy is as
+   good, at an address that leaves the same remainder when divided by 64. */
+typedef struct ResizeSpec ResizeSpec;
 
 /* What zmviGetLibVersion points to.  The record and its texts are constant and never freed. */
 typedef struct LibraryVersion {

@@ -31,6 +31,9 @@ inline Len borderAt(int word, Len i, Len n) {
     return borderRule(word) == BORDER_MIRROR ? MirrorRule::at(i, n) : ReplicateRule::at(i, n);
 }
 
+// The word without a rule that no side needs, and whose constant may be missing.
+constexpr int neededBorder(int word) { return (word & BORDER_IN_MEM) == BORDER_IN_MEM ? int(BORDER_IN_MEM) : word; }
+
 // The checks that users of border words share.
 inline StatusCode unmirroredBorder(int word) {
     const int rule = borderRule(word);

@@ -288,8 +288,8 @@ requires std::is_same_v<Element<V>, uint8_t> ZMV_INLINE Vec<uint16_t, sizeof(V)>
     if constexpr (sizeof(V) == 16) return ((Sums)v & 255) + ((Sums)v >> 8);
 }
 
-// a + b and a * b of floating-point lanes with a in the first place, whose NaN goes before that of b: operators would
-// let the compiler choose, and not in all builds alike.
+// a + b, a - b and a * b of floating-point lanes with a in the first place, whose NaN goes before that of b: operators
+// would let the compiler choose, and not in all builds alike.
 #if defined(__AVX__)
 #define ZMV_IN_ORDER(op, a, b)                                                                                         \
     V result;                                                                                                          \
@@ -310,6 +310,11 @@ template <class V>
 ZMV_INLINE V addInOrder(V a, V b) {
     static_assert(std::is_floating_point_v<Element<V>>);
     ZMV_IN_ORDER("add", a, b)
+}
+template <class V>
+ZMV_INLINE V subInOrder(V a, V b) {
+    static_assert(std::is_floating_point_v<Element<V>>);
+    ZMV_IN_ORDER("sub", a, b)
 }
 template <class V>
 ZMV_INLINE V mulInOrder(V a, V b) {
