@@ -3490,6 +3490,111 @@ ZMV_API StatusCode zmviLUTPalette_8u_AC4R(const uint8_t* src, int srcStep, uint8
 ZMV_API StatusCode zmviLUTPalette_8u24u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* pTable, int nBitSize);
 ZMV_API StatusCode zmviLUTPalette_8u32u_C1R(const uint8_t* src, int srcStep, uint32_t* dst, int dstStep, ImageSize roiSize, const uint32_t* pTable, int nBitSize);
 
+/* zmviGetRotateTransform: The matrix of a rotation: [[cos, sin, xShift], [-sin, cos, yShift]].
+   The angle is in degrees, any number of turns; multiples of 90 give exact results, others sine and cosine within one
+   unit in the last place, the same on every processor.  The caller's control word has no influence.
+   Checked in this order.  STATUS_OUT_OF_RANGE: the angle is infinite or NaN.  STATUS_NULL_POINTER: coeffs is null.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetRotateTransform(double angle, double xShift, double yShift, double coeffs[2][3]);
+ZMV_API StatusCode zmviGetRotateTransform_L(double angle, double xShift, double yShift, double coeffs[2][3]);
+
+/* zmviGetRotateShift: The shift by which zmviGetRotateTransform turns about (xCenter, yCenter).
+   The angle is in degrees, any number of turns; multiples of 90 give exact results, others sine and cosine within one
+   unit in the last place, the same on every processor.  The caller's control word has no influence.
+   An angle that is infinite or NaN gives NaN.
+   STATUS_NULL_POINTER: xShift or yShift is null.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetRotateShift(double xCenter, double yCenter, double angle, double* xShift, double* yShift);
+ZMV_API StatusCode zmviGetRotateShift_L(double xCenter, double yCenter, double angle, double* xShift, double* yShift);
+
+/* zmviGetAffineTransform: The matrix that takes the corners of srcRoi to those of a quadrangle.
+   Where the fourth does not make a parallelogram, it is that of the first three.
+   coeffs: [[c00, c01, c02], [c10, c11, c12]] takes (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_QUAD: a corner is not finite, or the corners do not all turn
+   the same way.  STATUS_BAD_RECT: width or height below 2.
+   STATUS_WARN_NOT_PARALLELOGRAM: the quadrangle is no parallelogram.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetAffineTransform(ImageRect srcRoi, const double quad[4][2], double coeffs[2][3]);
+ZMV_API StatusCode zmviGetAffineTransform_L(ImageRectL srcRoi, const double quad[4][2], double coeffs[2][3]);
+
+/* zmviGetAffineQuad: The quadrangle that a matrix makes of srcRoi.
+   coeffs: [[c00, c01, c02], [c10, c11, c12]] takes (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetAffineQuad(ImageRect srcRoi, double quad[4][2], const double coeffs[2][3]);
+ZMV_API StatusCode zmviGetAffineQuad_L(ImageRectL srcRoi, double quad[4][2], const double coeffs[2][3]);
+
+/* zmviGetAffineBound: The smallest upright rectangle round the quadrangle of zmviGetAffineQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].  A corner that is NaN makes its axis NaN.
+   coeffs: [[c00, c01, c02], [c10, c11, c12]] takes (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   bound and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: bound or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetAffineBound(ImageRect srcRoi, double bound[2][2], const double coeffs[2][3]);
+ZMV_API StatusCode zmviGetAffineBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[2][3]);
+
+/* zmviGetAffineSrcRoi: The smallest rectangle of source pixels that holds what a matrix takes to pixel centres of
+   dstRoi.
+   It is what warping dstRoi reads for nearest and linear values; wider kernels add their radius.
+   coeffs: [[c00, c01, c02], [c10, c11, c12]] takes (x, y) to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or srcRoi is null.  STATUS_BAD_SIZE: width or height of srcSize
+   below 1, then width or height of dstRoi below 1.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant
+   is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: dstRoi comes from nowhere in the source; nothing is written.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetAffineSrcRoi(ImageSize srcSize, const double coeffs[2][3], ImageRect dstRoi, ImageRect* srcRoi);
+
+/* zmviRemap: dst(i, j) = src(pxMap(i, j), pyMap(i, j)): two maps say where pixels come from.
+   Maps hold floats, double for 64f, of the size of dst; coordinates count from the origin of the whole image of
+   srcSize.  srcRoi is the part of it that is looked at: pixels beyond it count as the nearest one in it, and points
+   beyond its outermost pixel centres, NaN and infinity leave dst as it was.
+   interpolation: INTERP_NEAREST (halves go up), INTERP_LINEAR, INTERP_CUBIC (Catmull and Rom), INTERP_CUBIC_ALT (the
+   polynomial through four pixels, Lagrange), INTERP_LANCZOS (three lobes); of an image narrower or lower than 6 pixels
+   Lanczos becomes INTERP_CUBIC_ALT, than 4 every other but nearest becomes linear, of one pixel all become nearest.
+   With INTERP_SMOOTH_EDGE added, points up to one pixel outside blend the value at the edge with that of dst, by their
+   distance.
+   Values are formed in the maps' type, rows first, every operation rounded once; integers are then rounded to nearest,
+   ties to even, saturated, whatever the caller's control word; 32f and 64f follow it.  A NaN reaches every result of
+   whose kernel it is a pixel.  AC4 leaves the fourth channel as it was.
+   Steps need not be multiples of the element size.  dst must not overlap the maps either.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pxMap or pyMap is null.  STATUS_BAD_SIZE: a size below 1, then
+   width or height of srcRoi below 1, then x or y of srcRoi is negative.  STATUS_BAD_INTERPOLATION: no such
+   interpolation.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the image; nothing is written.
+   src/geometry/piremap.cpp */
+ZMV_API StatusCode zmviRemap_8u_C1R(const uint8_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_8u_C3R(const uint8_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_8u_C4R(const uint8_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_8u_AC4R(const uint8_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint8_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16u_C1R(const uint16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16u_C3R(const uint16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16u_C4R(const uint16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16u_AC4R(const uint16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, uint16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16s_C1R(const int16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16s_C3R(const int16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16s_C4R(const int16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_16s_AC4R(const int16_t* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, int16_t* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_32f_C1R(const float* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, float* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_32f_C3R(const float* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, float* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_32f_C4R(const float* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, float* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_32f_AC4R(const float* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const float* pxMap, int xMapStep, const float* pyMap, int yMapStep, float* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_64f_C1R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_64f_C3R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_64f_C4R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+ZMV_API StatusCode zmviRemap_64f_AC4R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+
 #ifdef __cplusplus
 }
 #endif

@@ -15,6 +15,7 @@ using zmv::Refusal;
 
 enum class Element { none, u1, u8, s8, u16, s16, u32, s32, s64, u64, f32, f64, sc16, sc32, fc32 };
 int bytesOf(Element);
+std::string stepOf(const std::string& image);  // the name of its step
 inline bool isReal(Element e) { return e == Element::f32 || e == Element::f64; }
 
 // What an argument is to its function.

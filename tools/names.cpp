@@ -94,8 +94,7 @@ constexpr RoleRow roles[] = {
     {Role::number, value, "numChannels", "", 1},
     {Role::number, value, "top left", "", 16},
     {Role::number, value, "nBitSize", "", 8},
-    {Role::number, value,
-     "channel dstBitOffset srcBitOffset divisor numLobes seed sigma weight xOrder yOrder"},
+    {Role::number, value, "channel dstBitOffset srcBitOffset divisor numLobes seed sigma weight xOrder yOrder"},
     {Role::number, value, "B C angle shiftX shiftY xCenter yCenter xShift yShift"},
     {Role::table, read, "dstOrder nLevels lowerLevel upperLevel pTable coeffs quad"},
     {Role::table, pointers, "pTables pValues"},
@@ -148,6 +147,7 @@ Parameter parameter(std::string text, const std::string& member) {
     if (parts.size() != 2) throw std::runtime_error(member + ": what is " + text + "?");
     p.type = parts[0], p.name = parts[1];
     p.element = elementOf(p.type);
+    if (p.pointer && p.type == "ImageRect") p.element = Element::s32;  // four of them
     p.written = p.pointer && text.rfind("const ", 0) != 0;
     assignRole(p, member);
     return p;
@@ -199,6 +199,11 @@ int bytesOf(Element element) {
     for (const Code& c : codes)
         if (c.element == element) return c.bytes;
     return 0;
+}
+
+std::string stepOf(const std::string& image) {
+    const bool map = image == "pxMap" || image == "pyMap";
+    return (map ? image.substr(1) : image) + "Step";
 }
 
 const char* nameOf(Role role) {

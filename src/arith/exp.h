@@ -5,20 +5,13 @@
 #include <algorithm>
 #include <array>
 
+#include "kernels/polynomial.h"
 #include "kernels/simd_convert.h"
 
 namespace zmv {
 
 // ln 2 in two parts: the first has 33 bits, so that its products with the powers of two of all 16-bit pixels are exact.
 constexpr double ln2 = 0x1.62e42fefp-1, ln2Rest = 0x1.473de6af278edp-34;
-
-// sum of c[k] x^k, the highest power first.
-template <size_t n>
-ZMV_INLINE Vec<double> polynomial(const std::array<double, n>& c, Vec<double> x) {
-    Vec<double> sum = fill(c[n - 1]);
-    for (size_t k = n - 1; k-- > 0;) sum = sum * x + c[k];
-    return sum;
-}
 
 // e^x * 2^-factor.
 struct Exp {

@@ -104,6 +104,9 @@ constexpr Refusal nullEntries(const char* arguments) { return {STATUS_NULL_POINT
 constexpr Refusal sizes(const char* arguments = "", StatusCode status = STATUS_BAD_SIZE) {
     return {status, Bad::size, arguments};
 }
+constexpr Refusal negatives(const char* arguments, const char* words) {
+    return {STATUS_BAD_SIZE, Bad::negative, arguments, words};
+}
 constexpr Refusal masks() { return sizes("maskSize", STATUS_BAD_MASK_SIZE); }
 constexpr Refusal steps() { return {STATUS_BAD_STEP, Bad::step}; }
 constexpr Refusal rowSteps() { return {STATUS_BAD_STEP, Bad::rowStep}; }

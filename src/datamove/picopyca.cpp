@@ -1,7 +1,7 @@
 // zmviCopy and zmviDup: copies between all layouts.
 #include "core/streaming.h"
 #include "datamove/channels.h"
-#include "datamove/masked.h"
+#include "kernels/masked.h"
 
 namespace zmv {
 namespace {

@@ -1,6 +1,6 @@
 // zmviSet: a constant into every pixel, every pixel of a mask, or one channel.
 #include "core/streaming.h"
-#include "datamove/masked.h"
+#include "kernels/masked.h"
 
 namespace zmv {
 namespace {

@@ -23,7 +23,8 @@ struct Prototype {
 };
 
 inline std::vector<Prototype> readPrototypes() {
-    const std::regex function("ZMV_API (.*?[* ])(\\w+)\\((.*)\\);"), parameter("(.*[* ])(\\w+)(?:\\[(\\d)\\])?");
+    const std::regex function("ZMV_API (.*?[* ])(\\w+)\\((.*)\\);"),
+        parameter("(.*[* ])(\\w+)(?:\\[(\\d)\\])?(?:\\[\\d\\])?");
     const auto typeOf = [](std::string text) {  // without the blank that separates it from the name
         if (text.back() == ' ') text.pop_back();
         return text;

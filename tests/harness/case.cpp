@@ -175,7 +175,7 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
     i.own = p->planes ? i.planes : one ? 1 : i.channels;
     const int64_t channel = one && i.channels > 1 ? rng.below(i.channels) * bytes : 0;
 
-    const std::string stepName = name + "Step";
+    const std::string stepName = catalog::stepOf(name);
     const int64_t rowBytes = (readable.left + w + readable.right) * pixel;
     i.step = has(stepName) ? chooseStep(rowBytes, p->written) : rowBytes;
     const int64_t top = -readable.top * i.step, bottom = (h - 1 + readable.bottom) * i.step;

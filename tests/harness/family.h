@@ -17,7 +17,15 @@ void arrangeByRoles(Case& c);
 // One way to break a precondition: a value for an argument, or for one part of it.
 struct Break {
     std::string argument;
-    enum Part { whole, width, height, plane, element } part;
+    enum Part {
+        whole,
+        width,
+        height,
+        rectWidth,
+        rectHeight,
+        plane,
+        element
+    } part;  // a point's x and y are the first two
     int64_t value;
     int index = 0;  // which plane is null; which element of a constant or an array gets the value
 };

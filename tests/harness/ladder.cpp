@@ -52,7 +52,11 @@ std::vector<Break> breaksOf(Case& c, const Refusal& refusal, const Parameter& p)
             planes();
             break;
         case Bad::size:
-            numbers({0, -1, INT_MIN});
+            if (p.role != Role::rectangle)
+                numbers({0, -1, INT_MIN});
+            else
+                for (const int64_t value : {0, -1, INT_MIN})
+                    add(Break::rectWidth, value), add(Break::rectHeight, value);
             break;
         case Bad::negative:
             numbers({-1, INT_MIN});
@@ -135,6 +139,12 @@ void apply(const Break& b, Case& c) {
             break;
         case Break::height:
             c.arg(b.argument).b = value;
+            break;
+        case Break::rectWidth:
+            c.arg(b.argument).c = value;
+            break;
+        case Break::rectHeight:
+            c.arg(b.argument).d = value;
             break;
         case Break::element: {
             const Image& image = c.image(b.argument);

@@ -32,6 +32,14 @@ template <>
 struct Argument<ImageSizeL> : PairArgument<ImageSizeL, int64_t> {};
 template <>
 struct Argument<ImagePoint> : PairArgument<ImagePoint, int> {};
+template <>
+struct Argument<ImageRect> {
+    static ImageRect of(const Slot& s) { return {int(s.a), int(s.b), int(s.c), int(s.d)}; }
+};
+template <>
+struct Argument<ImageRectL> {
+    static ImageRectL of(const Slot& s) { return {s.a, s.b, s.c, s.d}; }
+};
 
 template <class R, class... P>
 struct Shape {

@@ -8,11 +8,12 @@
 namespace test {
 
 // One argument of a call: a pointer or an integer in a, a floating-point value by its bits in a, a size or point in
-// a and b.
+// a and b, a rectangle in all four.
 struct Slot {
-    int64_t a = 0, b = 0;
+    int64_t a = 0, b = 0, c = 0, d = 0;
     Slot() = default;
-    Slot(int64_t first, int64_t second = 0) : a(first), b(second) {}
+    Slot(int64_t first, int64_t second = 0, int64_t third = 0, int64_t fourth = 0)
+        : a(first), b(second), c(third), d(fourth) {}
     Slot(const void* p) : a(reinterpret_cast<int64_t>(p)) {}
 };
 

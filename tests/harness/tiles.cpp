@@ -12,6 +12,11 @@ using zmv::Place;
 using zmv::Reach;
 
 bool isImage(const Parameter& p) { return p.role == Role::image || p.role == Role::planes || p.role == Role::mask; }
+// Where maps say what is read, they are cut with the destination, and the source is the whole.
+bool hasMaps(const Member& m) { return m.find("pxMap"); }
+bool isCut(const Member& m, const Parameter& p) {
+    return hasMaps(m) ? p.role == Role::map || p.name == "dst" : isImage(p);
+}
 
 const char* regionOf(const Member& m) { return m.find("dstRoiSize") ? "dstRoiSize" : "roiSize"; }
 
@@ -45,7 +50,7 @@ std::vector<Slot> tile(Case& c, int64_t x, int64_t y, int64_t w, int64_t h,
         if (p.name == "borderType")
             args[i].a |= (x > 0 ? BORDER_IN_MEM_LEFT : 0) | (y > 0 ? BORDER_IN_MEM_TOP : 0) |
                          (x + w < c.width ? BORDER_IN_MEM_RIGHT : 0) | (y + h < c.height ? BORDER_IN_MEM_BOTTOM : 0);
-        if (!isImage(p)) continue;
+        if (!isCut(c.member, p)) continue;
         const Image& image = c.image(p.name);
         const int64_t beyond = y * image.step + x * image.channels * bytesOf(image.element);
         if (p.planes) {
@@ -102,7 +107,7 @@ bool hasTiles(const Member& m) {
     const Facts& facts = m.facts();
     const bool images =
         std::any_of(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.written && isImage(p); });
-    const bool inside = facts.reach == Reach::none || (facts.reach == Reach::anchor && !m.inPlace);
+    const bool inside = facts.reach == Reach::none || hasMaps(m) || (facts.reach == Reach::anchor && !m.inPlace);
     return m.find(regionOf(m)) && (images ? facts.tiles && inside : facts.combine != Combine::no);
 }
 

@@ -1,4 +1,4 @@
-// Writing the pixels that a mask selects: shared by masked copies and masked fills.
+// Writing some pixels of a block and leaving the others.
 #pragma once
 
 #include "kernels/rows.h"
@@ -6,12 +6,24 @@
 
 namespace zmv {
 
-// A block of lanes<T> pixels; source() gives their new values, loaded only when the block has a pixel to write.
+// The masks of several vectors as that of one of T.
+template <class T, class V, size_t n>
+ZMV_INLINE Vec<T> joinedMasks(const std::array<V, n>& masks) {
+    if constexpr (n == 1) {
+        return (Vec<T>)masks[0];
+    } else {
+        std::array<decltype(asSigned(masks[0])), n> signs;
+        for (size_t i = 0; i < n; ++i) signs[i] = asSigned(masks[i]);
+        return asUnsigned(joined<std::make_signed_t<T>>(signs));
+    }
+}
+
+// A block of lanes<T> pixels, each written where its lane of chosen is all ones; source() gives their new values, asked
+// for only when the block has a pixel to write.
 template <Layout layout, class T, class Source>
-ZMV_INLINE void writeMaskedBlock(T* dst, const uint8_t* mask, const Source& source) {
+ZMV_INLINE void writeChosen(T* dst, Vec<T> chosen, const Source& source) {
     using V = Vec<T>;
     constexpr int n = layout.channels;
-    const V chosen = (V)(loadWiden<T>(mask) != 0);
     if (allZero(chosen)) return;
     if (!layout.alpha && allZero(~chosen)) return storePixels<n>(dst, source());
     Block<V, n> write;
@@ -22,6 +34,10 @@ ZMV_INLINE void writeMaskedBlock(T* dst, const uint8_t* mask, const Source& sour
     const auto old = loadPixels<n>(dst);
     for (int i = 0; i < n; ++i) pixels[i] = select(write[i], pixels[i], old[i]);
     storePixels<n>(dst, pixels);
+}
+template <Layout layout, class T, class Source>
+ZMV_INLINE void writeMaskedBlock(T* dst, const uint8_t* mask, const Source& source) {
+    writeChosen<layout>(dst, (Vec<T>)(loadWiden<T>(mask) != 0), source);
 }
 
 // Rows of masked writes; rowSource(y) gives source(x), the block of pixels at x, and source(x, count), a block

@@ -1,0 +1,111 @@
+// zmviGetRotateTransform and its neighbours: matrices of affine maps, and what they do to rectangles.
+#include "geometry/pigeom.h"
+#include "kernels/rounding.h"
+
+namespace zmv {
+namespace {
+
+// The angle between 0 and 360; one that leaves no place for its fraction, or its degrees, counts as 0.
+double reduced(double angle) {
+    double a = angle - withoutFraction(angle * 0.002777777777777778) * 360;
+    if (a < 0) a += 360;
+    return a < 0 || a > 360 ? 0 : a;
+}
+Direction directionOfDegrees(double reducedAngle) { return directionOf(reducedAngle * 0.017453292519943295); }
+
+template <class Rect>
+StatusCode rectangle(Rect r) {
+    return refuse(r.x < 0 || r.y < 0 || r.width < 1 || r.height < 1, STATUS_BAD_SIZE);
+}
+
+StatusCode ownpi_GetRotateTransform(double angle, double xShift, double yShift, double (*coeffs)[3]) {
+    if (auto bad = firstOf({refuse(!isFinite(angle), STATUS_OUT_OF_RANGE), pointers(coeffs)})) return bad;
+    const double a = reduced(angle);
+    Direction d{0, 1};
+    if (a == 90)
+        d = {1, 0};
+    else if (a == 180)
+        d = {0, -1};
+    else if (a == 270)
+        d = {-1, 0};
+    else if (a != 0)
+        d = directionOfDegrees(a);
+    // No coefficient is -0.
+    AffineMap{d.cosine, d.sine, xShift, 0 - d.sine, d.cosine, yShift}.to(coeffs);
+    return STATUS_OK;
+}
+
+// The shift that keeps a point where it is when the plane turns.
+StatusCode ownpi_GetRotateShift(double x, double y, double angle, double* xShift, double* yShift) {
+    if (auto bad = pointers(xShift, yShift)) return bad;
+    const double a = reduced(angle);
+    Point shift{0, 0};
+    if (a == 90) {
+        shift = {x - y, y + x};
+    } else if (a == 180) {
+        shift = {2 * x, 2 * y};
+    } else if (a == 270) {
+        shift = {y + x, y - x};
+    } else if (a != 0) {
+        const auto [s, c] = directionOfDegrees(a);
+        shift = {x - (s * y + c * x), y - y * c + s * x};
+    }
+    putNumber(xShift, shift.x), putNumber(yShift, shift.y);
+    return STATUS_OK;
+}
+
+template <class Rect>
+StatusCode ownpi_GetAffineTransformOf(Rect from, const double (*quad)[2], double (*coeffs)[3]) {
+    if (auto bad = firstOf({pointers(quad, coeffs), rectangle(from)})) return bad;
+    const Quad to = Quad::from(quad);
+    if (!ownpi_CheckQuad(to)) return STATUS_BAD_QUAD;
+    const StatusCode status = isParallelogram(to) ? STATUS_OK : STATUS_WARN_NOT_PARALLELOGRAM;
+    if (from.width < 2 || from.height < 2) return STATUS_BAD_RECT;
+    ownpi_GetAffineTransform(Corners(from), to).to(coeffs);
+    return status;
+}
+
+template <class Rect>
+StatusCode ownpi_GetAffineQuad(Rect from, double (*quad)[2], const double (*coeffs)[3]) {
+    if (auto bad = firstOf({pointers(quad, coeffs), rectangle(from)})) return bad;
+    const Quad image(AffineMap::from(coeffs), Corners(from));
+    image.to(quad);
+    return ownpi_CheckQuad(image) ? STATUS_OK : STATUS_BAD_COEFFS;
+}
+
+template <class Rect>
+StatusCode ownpi_GetAffineBound(Rect from, double (*bound)[2], const double (*coeffs)[3]) {
+    double quad[4][2];
+    const StatusCode status = bound ? ownpi_GetAffineQuad(from, quad, coeffs) : StatusCode(STATUS_NULL_POINTER);
+    if (status != STATUS_OK && status != STATUS_BAD_COEFFS) return status;
+    const auto [least, greatest] = ownpi_GetQuadrangleBound(Quad::from(quad));
+    const double all[] = {least.x, least.y, greatest.x, greatest.y};
+    for (int i = 0; i < 4; ++i) putNumber(&bound[i / 2][i % 2], all[i]);
+    return status;
+}
+
+StatusCode ownpi_GetAffineSrcRoi(ImageSize srcSize, const double (*coeffs)[3], ImageRect to, ImageRect* srcRoi) {
+    if (auto bad = firstOf({pointers(coeffs, srcRoi), size(srcSize), size(Roi(to.width, to.height))})) return bad;
+    const AffineMap map = AffineMap::from(coeffs);
+    const double d = map.determinant();
+    if (!map.finite() || !isFinite(d) || d == 0) return STATUS_BAD_COEFFS;
+    const PixelRange range = ownpi_WarpAffineRect(srcSize, map, Corners(to));
+    if (range.empty()) return STATUS_WARN_NO_INTERSECTION;
+    const auto whole = [](double from, double to) { return int(to - from) + 1; };
+    put(srcRoi,
+        ImageRect{int(range.left), int(range.top), whole(range.left, range.right), whole(range.top, range.bottom)});
+    return STATUS_OK;
+}
+
+}  // namespace
+}  // namespace zmv
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
+#include "geometry/affine.def"
+ROTATE_TRANSFORM_FAMILY
+ROTATE_SHIFT_FAMILY
+AFFINE_TRANSFORM_FAMILY
+AFFINE_QUAD_FAMILY
+AFFINE_BOUND_FAMILY
+AFFINE_SRC_ROI_FAMILY
