@@ -24,6 +24,7 @@ test::Slot Call::argument(const catalog::Parameter& p) {
         const ImageSizeL size = area(p.name);
         return {size.width, size.height};
     }
+    if (p.role == catalog::Role::rectangle) return {0, 0, setting.width, setting.height};
     const double value = number(p.name);
     test::Slot slot{int64_t(value), int64_t(value)};  // a point has it twice
     const auto single = float(value);
@@ -60,7 +61,8 @@ ImageSizeL Call::area(const std::string& name) const {
     if (name == "kernelSize") return {kernelSide(), kernelSide()};
     if (name == "src2Size")
         return {std::min<int64_t>(kernelSide(), setting.width), std::min<int64_t>(kernelSide(), setting.height)};
-    if (name == "src1Size" || (name == "dstRoiSize" && !has("srcRoiSize"))) return {setting.width, setting.height};
+    const bool asSource = name == "dstRoiSize" && !has("srcRoiSize");
+    if (name == "srcSize" || name == "src1Size" || asSource) return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
     if (name == "maskSize") return {setting.mask, setting.mask};
     if (name == "blockSize") return {16, 16};
@@ -91,7 +93,9 @@ double Call::number(const std::string& name) const {
         const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
         return three ? 3 : std::max(1, fromChannels);
     }
-    if (name == "interpolation") return INTERP_LINEAR;
+    if (name == "interpolation") return has("pxMap") && setting.factor ? setting.factor : INTERP_LINEAR;
+    if (name == "angle") return 31;
+    if (name == "xCenter" || name == "yCenter" || name == "xShift" || name == "yShift") return 100;
     if (name == "nBitSize") return 8;
     if (name == "mVal") return 1.25;
     if (name == "aVal" || name == "vMin") return 0;
@@ -116,7 +120,31 @@ double Call::number(const std::string& name) const {
     unknown(name);
 }
 
+// Coordinates of an image that is turned by some degrees about its middle.
+template <class T>
+uint8_t* Call::map(const std::string& name) {
+    uint8_t* const first = image(name, sizeof(T));
+    const double sine = 0.0871557427476582, cosine = 0.9961946980917455;
+    const double middleX = double(setting.width) / 2, middleY = double(setting.height) / 2;
+    for (int64_t y = 0; y < setting.height; ++y)
+        for (int64_t x = 0; x < setting.width; ++x) {
+            const double dx = double(x) - middleX, dy = double(y) - middleY;
+            const auto at = T(name == "pxMap" ? cosine * dx - sine * dy + middleX : sine * dx + cosine * dy + middleY);
+            std::memcpy(first + y * steps.at(catalog::stepOf(name)) + x * int64_t(sizeof(T)), &at, sizeof at);
+        }
+    return first;
+}
+
 void* Call::pointer(const std::string& name, int64_t element) {
+    if (name == "pxMap" || name == "pyMap") return element == 4 ? map<float>(name) : map<double>(name);
+    if (name == "coeffs" || name == "quad") {
+        static const double coeffs[] = {0, 1, 2, -1, 0, 30}, square[] = {0, 0, 1, 0, 1, 1, 0, 1};
+        Memory& block = allocate(sizeof square);
+        name == "quad" ? std::memcpy(block.data(), square, sizeof square)
+                       : std::memcpy(block.data(), coeffs, sizeof coeffs);
+        return block.data();
+    }
+    if (name == "bound" || name == "xShift" || name == "yShift" || name == "srcRoi") return allocate(64).data();
     if (name == "src" || name == "src1" || name == "src2") return image(name, fromChannels * element);
     if (name == "dst" || name == "srcDst" || name == "dstMin" || name == "dstMax")
         return image(name, toChannels * element);
@@ -162,12 +190,13 @@ void* Call::planes(const std::string& name, int64_t element) {
 
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
 uint8_t* Call::image(const std::string& name, int64_t pixel) {
-    const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask",
+    const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask" || name.ends_with("Map"),
                bordered = has("dstRoiSize") && has("srcRoiSize");
     const bool convolved = has("src2Size");
-    ImageSizeL size = area(convolved           ? name == "src2" ? "src2Size" : "src1Size"
-                           : has("dstRoiSize") ? bordered && isRead ? "srcRoiSize" : "dstRoiSize"
-                                               : "roiSize");
+    ImageSizeL size = area(convolved                         ? name == "src2" ? "src2Size" : "src1Size"
+                           : has("srcSize") && name == "src" ? "srcSize"
+                           : has("dstRoiSize")               ? bordered && isRead ? "srcRoiSize" : "dstRoiSize"
+                                                             : "roiSize");
     if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
     // Steps count what is read left and right where a kernel is an argument.
@@ -190,7 +219,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     inPlace |= name == "srcDst";
     sources += isRead;
     (isRead ? readBytes : writtenBytes) += row * size.height;
-    steps[name + "Step"] = step;
+    steps[catalog::stepOf(name)] = step;
     shortestRow = std::min(shortestRow, row);
     if (name != "mask") pixels = size.width * size.height;  // the destination comes last
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;

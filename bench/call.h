@@ -23,7 +23,7 @@ struct Build {
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
 // and the scale factor, the compositing operation, or 1 for a histogram of equal pixels and for a table of uneven
-// levels.  Of kernels see kernelSide().
+// levels, or the kernel of remap.  Of kernels see kernelSide().
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -71,10 +71,13 @@ class Call {
     void* pointer(const std::string& name, int64_t element);
     void* planes(const std::string& name, int64_t element);
     uint8_t* image(const std::string& name, int64_t pixel);
-    // Of a kernel, mask counts its side, and from 100 on its taps: 100 more for real ones, 200 for a column times a row.
+    // Of a kernel, mask counts its side, and from 100 on its taps: 100 more for real ones, 200 for a column times a
+    // row.
     int kernelSide() const { return setting.mask % 100; }
     bool wholeTaps() const { return (type == "8u" || type == "16s") && setting.mask / 100 != 1; }
     void* kernel(int64_t element);
+    template <class T>
+    uint8_t* map(const std::string& name);
     void* workBuffer();
     void* specObject();
     // Of a histogram: evenly spaced numbers, one a level.
