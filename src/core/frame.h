@@ -7,7 +7,7 @@
 #include <type_traits>
 
 #include "core/members.h"
-#include "zmvip.h"
+#include "zmvip_types.h"
 
 #define ZMV_STR_(x) #x
 #define ZMV_STR(x) ZMV_STR_(x)
@@ -18,7 +18,8 @@
 #define ZMV_OWN(name) ZMV_JOIN(ZMV_BUILD, name)
 
 // Stamps a row of the members: the implementation under the build's name, and the public name at the same address.
-// The public header declares the name too, so that a prototype that differs from it does not compile.
+// Modules do not see the public header: each new family would compile them all anew.  That it declares what the rows
+// define is asserted where both are seen (tests/harness/thunks.cpp).
 #define ZMV_DEFINE(result, name, params, call)                                                                         \
     extern "C" result ZMV_OWN(name) params { return call; }                                                            \
     extern "C" ZMV_API __attribute__((alias(ZMV_STR(ZMV_OWN(name))))) decltype(ZMV_OWN(name)) name;

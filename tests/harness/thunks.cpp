@@ -69,11 +69,16 @@ constexpr Thunk thunkOf(R (*)(P...)) {
     return Shape<Passed<R>, Passed<P>...>::call;
 }
 
-constexpr Thunk table[] = {
+// The public header declares what the rows define.
 #define FAMILY(name, module, facts, text, members) members
+#define ENTRY_OF(result, name, params, call) static_assert(std::is_same_v<decltype(::name), result params>);
+#define CONSTANT(name, value)
+#include "families.def"
+#undef ENTRY_OF
+
+constexpr Thunk table[] = {
 #define ENTRY_OF(result, name, params, call) THUNK(result, params)
 #define THUNK(result, params) thunkOf(static_cast<result(*) params>(nullptr)),
-#define CONSTANT(name, value)
 #include "families.def"
 };
 
