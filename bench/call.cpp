@@ -10,6 +10,7 @@ Call::Call(const Member& theMember, const Setting& theSetting, const Build& theB
     const catalog::Member& named = setting.about.empty() ? *member.parts : *findMember(setting.about).parts;
     const size_t letters = named.types.find_first_not_of("0123456789");
     if (letters != std::string::npos) type = named.types.substr(0, named.types.find_first_not_of("usfc", letters));
+    toType = named.types.length() > type.length() ? named.types.substr(type.length()) : type;
     fromChannels = named.from.channels;
     toChannels = named.to.channels;
     // In order: the step of an image is known once its pointer is.
@@ -54,6 +55,19 @@ void Call::unknown(const std::string& name) const {
 
 bool Call::has(const std::string& name) const { return member.parts->find(name); }
 
+const zmv::Facts& Call::facts() const {
+    for (const catalog::Family& family : catalog::families())
+        for (const catalog::Member& m : family.members)
+            if (m.name == member.name) return family.facts;
+    throw std::runtime_error(std::string(member.name) + " has no family");
+}
+bool Call::accepts(const std::string& option, int64_t value) const {
+    for (const zmv::Refusal& refusal : facts().refusals)
+        if (refusal.bad == zmv::Bad::option && refusal.arguments == option)
+            return std::find(refusal.values.begin(), refusal.values.end(), value) != refusal.values.end();
+    return false;
+}
+
 ImageSizeL Call::area(const std::string& name) const {
     const bool turnsInPlace = std::string(member.name).rfind("zmviTranspose_", 0) == 0 && has("roiSize");
     if (turnsInPlace) return {setting.height, setting.height};
@@ -88,7 +102,10 @@ double Call::number(const std::string& name) const {
     if (name == "algType") return CONV_METHOD_AUTO | CONV_SHAPE_FULL;
     if (name == "offset") return 0;
     if (name == "dataType" && std::string(member.name).ends_with("Init_64f")) return DATATYPE_64F;
-    if (name == "dataType") return codes.at(type);
+    if (name.ends_with("DataType") && setting.about.empty()) return DATATYPE_16S;  // a pair that all queries take
+    if (name == "dataType" || name == "srcDataType") return codes.at(type);
+    if (name == "dstDataType") return codes.at(toType);
+    if (name == "mask") return setting.mask == 5 && accepts("mask", MASK_5X5) ? MASK_5X5 : MASK_3X3;
     if (name == "numChannels") {
         const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
         return three ? 3 : std::max(1, fromChannels);
@@ -199,11 +216,12 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                                                              : "roiSize");
     if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
-    // Steps count what is read left and right where a kernel is an argument.
-    const int64_t row = size.width * pixel,
-                  step = row + setting.padding + (has("pKernel") && isRead ? (kernelSide() - 1) * pixel : 0);
-    // Members with an anchor read round the region; so many rows also cover what lies left and right of it.
-    const int64_t margin = has("anchor") ? kernelSide() + kernelSide() / setting.width + 1 : 0;
+    const bool framed = isRead && facts().reach == zmv::Reach::fixed && !has("borderType") && !has("blockSize");
+    // Steps count what is read left and right where a kernel is an argument, or a frame is read.
+    const int64_t beyond = has("pKernel") && isRead ? kernelSide() - 1 : framed ? 4 : 0;
+    const int64_t row = size.width * pixel, step = row + setting.padding + beyond * pixel;
+    // Members with an anchor or a frame read round the region; so many rows also cover what lies left and right of it.
+    const int64_t margin = has("anchor") || framed ? kernelSide() + kernelSide() / setting.width + 1 : 0;
     Memory& block = allocate(step * (size.height + 2 * margin));
     for (Line& line : block)
         for (uint32_t& word : line.words)

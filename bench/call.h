@@ -95,13 +95,15 @@ class Call {
     }
     Memory& allocate(int64_t size);
     bool has(const std::string& name) const;
+    const zmv::Facts& facts() const;
+    bool accepts(const std::string& option, int64_t value) const;  // as the facts list its values
     [[noreturn]] void unknown(const std::string& name) const;
 
     const Member& member;
     const Setting setting;
     const Build& build;
     std::vector<test::Slot> slots;
-    std::string type = "8u";               // of the source
+    std::string type = "8u", toType;       // of the source and of the destination
     int fromChannels = 1, toChannels = 1;  // of the source and of the destination, or the number of planes
     std::map<std::string, int64_t> steps;
     std::deque<std::vector<void*>> planePointers;

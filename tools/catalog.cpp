@@ -162,6 +162,8 @@ std::string words(const Family& family, const Refusal& refusal) {
             return stepWords(family, names);
         case Bad::rowStep:
             return joined(names) + " is less than the bytes of a row";
+        case Bad::partStep:
+            return joined(names) + " is no multiple of the element's size";
         case Bad::anchor:
             return "anchor lies outside the mask";
         case Bad::borderWord:
@@ -178,8 +180,11 @@ std::string Family::banner() const {
     const bool stepped = any([](const Member& m) {
         return std::any_of(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.role == Role::step; });
     });
+    const bool aligned = std::any_of(facts.refusals.begin(), facts.refusals.end(),
+                                     [](const Refusal& refusal) { return refusal.bad == zmv::Bad::partStep; });
     if (stepped && facts.steps == zmv::Steps::any)
-        add("Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.");
+        add(std::string("Any step is accepted, zero and negative ones too") +
+            (aligned ? "; srcStep" : ", and") + " need not be a multiple of the element size.");
     if (stepped && facts.steps == zmv::Steps::nonzero) add("Any step but zero is accepted, negative ones too.");
     const bool forms = any([](const Member& m) { return m.inPlace; });
     const std::string rest = "; other overlap is undefined.";

@@ -34,6 +34,7 @@ enum class Bad {
     negative,    // a number
     step,        // one that is not accepted
     rowStep,     // less than the bytes of a row
+    partStep,    // no multiple of the element's size
     option,      // none of the values
     borderWord,  // none of the values, with flags or without
     element,     // one of these values among those of a constant or an array
@@ -110,6 +111,9 @@ constexpr Refusal negatives(const char* arguments, const char* words) {
 constexpr Refusal masks() { return sizes("maskSize", STATUS_BAD_MASK_SIZE); }
 constexpr Refusal steps() { return {STATUS_BAD_STEP, Bad::step}; }
 constexpr Refusal rowSteps() { return {STATUS_BAD_STEP, Bad::rowStep}; }
+constexpr Refusal unalignedStep(const char* argument) {
+    return {STATUS_BAD_STEP_ALIGNMENT, Bad::partStep, argument};
+}
 constexpr Refusal option(const char* argument, StatusCode status, List<int64_t, 16> accepted, const char* words = "") {
     return {status, Bad::option, argument, words, accepted};
 }

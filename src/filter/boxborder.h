@@ -98,13 +98,10 @@ void floatWindows(Bands<float, n>& bands, Image<float> dst, Roi roi, Layout layo
     }
 }
 
+// What has passed the checks.
 template <class Output, Layout layout, class T, class D>
-StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize mask, int borderType, const T* value,
-                           uint8_t* buffer) {
-    if (auto bad = firstOf({pointers(src.data, dst.data, buffer), steps(src.step, dst.step), size(roi), maskSize(mask),
-                            border(borderType), borderValue(borderType, value)}))
-        return bad;
-    const Window window(mask);
+void boxWindows(Image<const T> src, Image<D> dst, Roi roi, Window window, int borderType, const T* value,
+                uint8_t* buffer) {
     // Floats read each row once: with windows of one row, before it is overwritten.
     const bool inPlace =
         static_cast<const void*>(src.data) == dst.data && (window.height > 1 || !std::is_floating_point_v<T>);
@@ -116,6 +113,14 @@ StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize 
         else
             integerWindows(bands, dst, roi, layout, window, output, Scratch(buffer));
     });
+}
+template <class Output, Layout layout, class T, class D>
+StatusCode ownpi_BoxBorder(Image<const T> src, Image<D> dst, Roi roi, ImageSize mask, int borderType, const T* value,
+                           uint8_t* buffer) {
+    if (auto bad = firstOf({pointers(src.data, dst.data, buffer), steps(src.step, dst.step), size(roi), maskSize(mask),
+                            border(borderType), borderValue(borderType, value)}))
+        return bad;
+    boxWindows<Output, layout>(src, dst, roi, Window(mask), borderType, value, buffer);
     return STATUS_OK;
 }
 

@@ -1,7 +1,10 @@
 // zmviFilterBoxBorder: the mean of a window, with borders.  zmviFilterBox: the same from memory, in double precision.
+// zmviFilterHipassBorder: what is left of a pixel without the mean.
 #include <bit>
 
 #include "filter/boxborder.h"
+#include "filter/fixedmask.h"
+#include "kernels/pointwise.h"
 
 namespace zmv {
 namespace {
@@ -196,6 +199,30 @@ StatusCode ownpi_FilterBox(Image<const double> src, Image<double> dst, Roi roi, 
     return STATUS_OK;
 }
 
+struct Without {
+    template <class V>
+    ZMV_INLINE V operator()(V pixel, V mean) const {
+        if constexpr (std::is_floating_point_v<Element<V>>)
+            return subInOrder(pixel, mean);
+        else
+            return subSaturated(pixel, mean);
+    }
+};
+template <Layout layout, class T>
+StatusCode ownpi_HipassBorder(Image<const T> src, Image<T> dst, Roi roi, int code, int borderType, const T* value,
+                              uint8_t* buffer) {
+    if (auto bad = sameTypeChecks(src, dst, roi, code, true, borderType, value, buffer)) return bad;
+    Window window(maskOf(code));
+    // Or the compiler would know the area, and round its reciprocal to nearest whatever the caller's control word.
+    apart([&] { boxWindows<BoxMean<T, T>, layout>(src, dst, roi, window, neededBorder(borderType), value, buffer); });
+    pointwise(Without(), dst, roi, layout, false, src, Image<const T>(dst));
+    return STATUS_OK;
+}
+StatusCode ownpi_HipassGetBufferSize(ImageSize roi, int code, int from, int to, int channels, int* size) {
+    if (auto bad = sameTypeQuery(roi, code, true, from, to, channels, size)) return bad;
+    return answerSize(boxBufferSize(roi, maskOf(code), bytesOfType(from), channels), size);
+}
+
 }  // namespace
 }  // namespace zmv
 
@@ -205,3 +232,6 @@ using namespace zmv;
 BOX_BORDER_SIZE_FAMILY
 BOX_BORDER_FAMILY
 BOX_64F_FAMILY
+#include "filter/fixed.def"
+SAME_TYPE_SIZE_FAMILY(Hipass)
+SAME_TYPE_FAMILY(Hipass)

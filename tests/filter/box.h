@@ -51,7 +51,7 @@ template <class T>
 struct Extended {
     Case& c;
     const Image& src;
-    const int word = int(c.arg("borderType").a);
+    const int word = c.has("borderType") ? int(c.arg("borderType").a) : int(BORDER_IN_MEM);
     const Image* constant = c.hasImage("borderValue") ? &c.image("borderValue") : nullptr;
 
     T operator()(int64_t x, int64_t y, int channel) const {

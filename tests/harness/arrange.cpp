@@ -40,8 +40,7 @@ int64_t choice(Case& c, const Parameter& p) {
 }
 
 // What of a window lies beyond the region and has to be readable: all of it, or the sides that the border word names.
-Margins readableRound(Case& c) {
-    const int64_t columns = c.arg("maskSize").a, rows = c.arg("maskSize").b;
+Margins readableRound(Case& c, int64_t columns, int64_t rows) {
     if (c.has("anchor")) {
         const int64_t x = c.rng.below(int(columns)), y = c.rng.below(int(rows));
         c.arg("anchor") = {x, y};
@@ -52,8 +51,8 @@ Margins readableRound(Case& c) {
         if (refusal.bad == Bad::borderWord) word = refusal.values.items[c.rng.below(refusal.values.size())];
     if (c.rng.oneIn(2)) word |= 16 * c.rng.below(16);
     if (c.rng.oneIn(12)) word = BORDER_IN_MEM;
-    if (c.mode == Mode::controls) word = BORDER_CONST;  // so that every check can fail
-    c.arg("borderType") = word;
+    if (c.has("borderType") && c.mode == Mode::controls) word = BORDER_CONST;  // so that every check can fail
+    if (c.has("borderType")) c.arg("borderType") = word;
     const auto side = [&](int flag, int64_t pixels) { return word & flag ? pixels : 0; };
     return {side(BORDER_IN_MEM_LEFT, (columns - 1) / 2), side(BORDER_IN_MEM_RIGHT, columns / 2),
             side(BORDER_IN_MEM_TOP, (rows - 1) / 2), side(BORDER_IN_MEM_BOTTOM, rows / 2)};
@@ -87,7 +86,13 @@ void arrangeByRoles(Case& c) {
     Margins margins;
     if (c.has("maskSize")) {
         c.arg("maskSize") = {c.rng.between(1, 9), c.rng.between(1, c.mode == Mode::far ? 3 : 9)};
-        if (facts.reach == Reach::anchor) margins = readableRound(c);
+        if (facts.reach == Reach::anchor) margins = readableRound(c, c.arg("maskSize").a, c.arg("maskSize").b);
+    }
+    if (facts.reach == Reach::fixed && !c.has("blockSize")) {  // by a code of both sides
+        const Parameter* const code = c.member.find("mask");
+        if (code) c.arg("mask") = choice(c, *code);
+        const int64_t side = code ? c.arg("mask").a % 10 : 3;
+        margins = readableRound(c, side, side);
     }
     const int used = c.member.to.used();
     for (const Parameter& p : c.member.params) switch (p.role) {
@@ -117,7 +122,7 @@ void arrangeByRoles(Case& c) {
                 c.arg(p.name) = factorOf(c);
                 break;
             case Role::option:
-                c.arg(p.name) = choice(c, p);
+                if (p.name != "mask" || facts.reach != Reach::fixed) c.arg(p.name) = choice(c, p);
                 break;
             case Role::size:
                 if (p.name.ends_with("oiSize")) c.arg(p.name) = {c.width, c.height};

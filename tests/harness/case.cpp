@@ -178,6 +178,9 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
     const std::string stepName = catalog::stepOf(name);
     const int64_t rowBytes = (readable.left + w + readable.right) * pixel;
     i.step = has(stepName) ? chooseStep(rowBytes, p->written) : rowBytes;
+    for (const zmv::Refusal& refusal : member.facts().refusals)
+        if (refusal.bad == zmv::Bad::partStep && refusal.arguments == stepName)
+            i.step += (i.step < 0 ? -1 : 1) * ((bytes - std::abs(i.step) % bytes) % bytes);
     const int64_t top = -readable.top * i.step, bottom = (h - 1 + readable.bottom) * i.step;
     const int64_t low = std::min(top, bottom) - readable.left * pixel - channel;
     const int64_t high = std::max(top, bottom) + (w + readable.right) * pixel - channel;
@@ -252,6 +255,8 @@ int64_t Case::bufferSize(const std::string& reported) {
                             : p.role == Role::result  ? Slot(&other)
                             : has(p.name)             ? arg(p.name)
                             : p.name == "dataType"    ? codes.at(member.source)
+                            : p.name == "srcDataType" ? codes.at(member.source)
+                            : p.name == "dstDataType" ? codes.at(member.destination)
                             : p.name == "numChannels" ? member.to.channels
                                                       : throw query.name + ": what is " + p.name + "?");
         if (query.invoke(library.find(query.name), asked.data()) != STATUS_OK)

@@ -69,6 +69,11 @@ std::vector<Break> breaksOf(Case& c, const Refusal& refusal, const Parameter& p)
             numbers({0, -1, INT_MIN, image.width * image.channels * bytesOf(image.element) - 1});
             break;
         }
+        case Bad::partStep: {
+            const Image& image = c.image(p.name.substr(0, p.name.size() - 4));
+            for (int beyond = 1; beyond < bytesOf(image.element); ++beyond) numbers({image.step + beyond, -beyond});
+            break;
+        }
         case Bad::option:
             for (const int64_t code : codes)
                 if (!accepted(refusal, code)) add(Break::whole, code);

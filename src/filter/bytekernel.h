@@ -1,0 +1,59 @@
+// Kernels of bytes that are columns times rows, with all sums in registers: first along the rows, by products of pairs
+// of neighbours, which leave the sums of even and of odd pixels; then down the columns.
+#pragma once
+
+#include "filter/fixedkernel.h"
+
+namespace zmv {
+
+struct EvenOdd {
+    Vec<int16_t> even, odd;
+};
+// a * p[2 * i] + b * p[2 * i + 1] in lane i.
+template <int a, int b>
+ZMV_INLINE Vec<int16_t> pairSum(const uint8_t* p) {
+    return bytePairProducts(load(p), (Vec<int8_t>)fill(int16_t(uint8_t(a) | uint8_t(b) << 8)));
+}
+// The sums of windows that start at p, at p + 1 and so on.  The last weight is alone in its pair, with the neighbour
+// before it, so that nothing is read beyond the last window.
+template <class W>
+ZMV_INLINE EvenOdd alongRow(const uint8_t* p) {
+    EvenOdd sum{};
+    unrolled<W::pairs + 1>([&](auto pair) {
+        constexpr bool alone = pair == W::pairs;
+        constexpr int at = alone ? W::count - 2 : 2 * pair;
+        constexpr int a = alone ? 0 : W::at[at], b = W::at[at + 1];
+        if constexpr (a != 0 || b != 0) sum.even += pairSum<a, b>(p + at), sum.odd += pairSum<a, b>(p + at + 1);
+    });
+    return sum;
+}
+
+// The order of pixels, of their even and odd ones: the first half of them, or the second.
+template <int half>
+struct Alternately {
+    static constexpr int at(int i) { return i % 2 * lanes<int16_t> + (half * lanes<int16_t> + i) / 2; }
+};
+
+template <class Finish, class... Products>
+void byteKernel(const uint8_t* const* rows, int16_t* const* dst, Len count) {
+    constexpr int side = std::max({Products::Row::count...}), summed = kernelRows + side - 1;
+    eachVectorOf<lanes<uint8_t>>(count, [&](Len, Len x, int k) {
+        EvenOdd sums[sizeof...(Products)][summed];
+        unrolled<summed>([&](auto i) {
+            int product = 0;
+            (..., (sums[product++][i] = alongRow<typename Products::Row>(rows[i] + x)));
+        });
+        unrolled<kernelRows>([&](auto fromBelow) {
+            constexpr int r = kernelRows - 1 - fromBelow;
+            const auto results = [&]<size_t... p>(auto pixels, std::index_sequence<p...>) {
+                return Finish()(weighted<typename Products::Column>([&](int i) { return sums[p][r + i].*pixels; })...);
+            };
+            constexpr std::index_sequence_for<Products...> all;
+            const auto even = results(&EvenOdd::even, all), odd = results(&EvenOdd::odd, all);
+            putResults<false>(dst[r] + x,
+                              std::array{permute<Alternately<0>>(even, odd), permute<Alternately<1>>(even, odd)}, k);
+        });
+    });
+}
+
+}  // namespace zmv
