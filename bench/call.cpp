@@ -216,7 +216,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                                                              : "roiSize");
     if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
-    const bool framed = isRead && facts().reach == zmv::Reach::fixed && !has("borderType") && !has("blockSize");
+    const bool framed = isRead && facts().reach == zmv::Reach::anchor && !has("borderType") && !has("anchor");
     // Steps count what is read left and right where a kernel is an argument, or a frame is read.
     const int64_t beyond = has("pKernel") && isRead ? kernelSide() - 1 : framed ? 4 : 0;
     const int64_t row = size.width * pixel, step = row + setting.padding + beyond * pixel;

@@ -838,6 +838,428 @@ ZMV_API StatusCode zmviConv_32f_C1R(const float* src1, int src1Step, ImageSize s
 ZMV_API StatusCode zmviConv_32f_C3R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
 ZMV_API StatusCode zmviConv_32f_C4R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
 
+/* zmviFilterSobelHorizBorderGetBufferSize: For zmviFilterSobelHorizBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelHorizBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSobelHorizBorder: The change from row to row, positive where it gets brighter downward.
+   Column weights (-1 0 1) times row weights (1 2 1), or (-1 -2 0 2 1) times (1 4 6 4 1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSobelHorizBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelHorizBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelHorizBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelHorizBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterSobelVertBorderGetBufferSize: For zmviFilterSobelVertBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelVertBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSobelVertBorder: The change from column to column, positive where it gets brighter to the left.
+   Column weights (1 2 1) times row weights (1 0 -1), or (1 4 6 4 1) times (1 2 0 -2 -1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSobelVertBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelVertBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelVertBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelVertBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterSobelSecondHorizBorderGetBufferSize: For zmviFilterSobelSecondHorizBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondHorizBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSobelSecondHorizBorder: The second derivative down the columns.
+   Column weights (1 -2 1) times row weights (1 2 1), or (1 0 -2 0 1) times (1 4 6 4 1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSobelSecondHorizBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondHorizBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondHorizBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondHorizBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterSobelSecondVertBorderGetBufferSize: For zmviFilterSobelSecondVertBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondVertBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSobelSecondVertBorder: The second derivative along the rows.
+   Column weights (1 2 1) times row weights (1 -2 1), or (1 4 6 4 1) times (1 0 -2 0 1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSobelSecondVertBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondVertBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondVertBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondVertBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterSobelSecondCrossBorderGetBufferSize: For zmviFilterSobelSecondCrossBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondCrossBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSobelSecondCrossBorder: The derivative along both axes.
+   Column weights (-1 0 1) times row weights (1 0 -1), or (-1 -2 0 2 1) times (1 2 0 -2 -1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSobelSecondCrossBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobelSecondCrossBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondCrossBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSobelSecondCrossBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterScharrHorizBorderGetBufferSize: For zmviFilterScharrHorizBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterScharrHorizBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterScharrHorizBorder: The change from row to row: column weights (-1 0 1) times row weights (3 10 3).
+   mask: MASK_3X3.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST
+   (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterScharrHorizBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterScharrHorizBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterScharrHorizBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterScharrHorizBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterScharrVertBorderGetBufferSize: For zmviFilterScharrVertBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterScharrVertBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterScharrVertBorder: The change from column to column.
+   Column weights (3 10 3) times row weights (1 0 -1).
+   mask: MASK_3X3.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST
+   (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterScharrVertBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterScharrVertBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterScharrVertBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterScharrVertBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterPrewittHorizBorderGetBufferSize: For zmviFilterPrewittHorizBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterPrewittHorizBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterPrewittHorizBorder: The change from row to row.
+   Column weights (-1 0 1) times row weights (1 1 1), or (-2 -1 0 1 2) times (1 1 1 1 1).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterPrewittHorizBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterPrewittHorizBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterPrewittHorizBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterPrewittHorizBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterPrewittVertBorderGetBufferSize: For zmviFilterPrewittVertBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterPrewittVertBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterPrewittVertBorder: The change from column to column.
+   Column weights (1 1 1) times row weights (1 0 -1), or (1 1 1 1 1) times (2 1 0 -1 -2).
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or
+   BORDER_CONST (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterPrewittVertBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterPrewittVertBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterPrewittVertBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterPrewittVertBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterRobertsHorizBorderGetBufferSize: For zmviFilterRobertsHorizBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterRobertsHorizBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterRobertsHorizBorder: src(x + 1, y + 1) - src(x, y).
+   mask: MASK_3X3.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST
+   (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterRobertsHorizBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterRobertsHorizBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterRobertsHorizBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterRobertsHorizBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterRobertsVertBorderGetBufferSize: For zmviFilterRobertsVertBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not 8U and 16S,
+   16S and 16S, or 32F and 32F.  STATUS_BAD_CHANNELS: numChannels is not 1.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterRobertsVertBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterRobertsVertBorder: src(x, y + 1) - src(x + 1, y).
+   mask: MASK_3X3.  Pixels outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST
+   (borderValue), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   16s: saturated.  32f: the column of each pixel first, then along the row: weight * (outer pair) + weight * (next
+   pair) + weight * middle, a pair being its sum or difference, every step rounded as the caller's control word says.
+   Any step is accepted, zero and negative ones too; srcStep need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterRobertsVertBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP_ALIGNMENT: dstStep is no multiple of the element's size.  STATUS_BAD_MASK_SIZE: mask is none of
+   these.  STATUS_BAD_BORDER: borderType is none of these.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterRobertsVertBorder_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterRobertsVertBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterRobertsVertBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterSobel: The magnitude of the gradient: sqrt(H * H + V * V) of zmviFilterSobelHorizBorder and
+   zmviFilterSobelVertBorder.
+   mask: MASK_3X3 or MASK_5X5; one or two pixels round the region are read from memory.  8u16s: the nearest integer.
+   32f: each step rounded as the caller's control word says.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_STEP: a step is not positive.
+   src/filter/piderivative.cpp */
+ZMV_API StatusCode zmviFilterSobel_8u16s_C1R(const uint8_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterSobel_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask);
+
+/* zmviFilterLaplaceBorderGetBufferSize: For zmviFilterLaplaceBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not both 8U, 16S
+   or 32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647;
+   nothing is written.
+   src/filter/pilaplace.cpp */
+ZMV_API StatusCode zmviFilterLaplaceBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterLaplaceBorder: The Laplacian.  3x3: the four neighbours minus 4 times the middle.  5x5: the results of
+   zmviFilterSobelSecondHorizBorder and zmviFilterSobelSecondVertBorder, added, over 64.  32f 3x3: ((top + bottom) +
+   (left + right)) - 4 * middle.
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST
+   (borderValue: one value a channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from
+   memory, or BORDER_IN_MEM alone.
+   8u, 16s: the exact value, rounded to nearest, ties to even, and saturated.  32f: every step rounded as the caller's
+   control word says.  AC4 leaves the fourth channel as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterLaplaceBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER:
+   BORDER_CONST without borderValue, unless all four sides are in memory.
+   src/filter/pilaplace.cpp */
+ZMV_API StatusCode zmviFilterLaplaceBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterLaplaceBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviFilterHipassBorderGetBufferSize: For zmviFilterHipassBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not both 8U, 16S
+   or 32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647;
+   nothing is written.
+   src/filter/piblurn.cpp */
+ZMV_API StatusCode zmviFilterHipassBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterHipassBorder: High-pass: the pixel minus the mean that zmviFilterBoxBorder gives.
+   mask: MASK_3X3 or MASK_5X5.  Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST
+   (borderValue: one value a channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from
+   memory, or BORDER_IN_MEM alone.
+   8u, 16s: the exact value, rounded to nearest, ties to even, and saturated.  32f: every step rounded as the caller's
+   control word says.  AC4 leaves the fourth channel as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterHipassBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER:
+   BORDER_CONST without borderValue, unless all four sides are in memory.
+   src/filter/piblurn.cpp */
+ZMV_API StatusCode zmviFilterHipassBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterHipassBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviFilterSharpenBorderGetBufferSize: For zmviFilterSharpenBorder.
+   The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
+   count.  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_DATATYPE: srcDataType and dstDataType are not both 8U, 16S
+   or 32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647;
+   nothing is written.
+   src/filter/pilaplace.cpp */
+ZMV_API StatusCode zmviFilterSharpenBorderGetBufferSize(ImageSize roiSize, int mask, int srcDataType, int dstDataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterSharpenBorder: The pixel minus its 3x3 Laplacian.  32f: 5 * middle - ((top + bottom) + (left + right)).
+   mask: MASK_3X3.  Pixels outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue: one value
+   a channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM
+   alone.
+   8u, 16s: the exact value, rounded to nearest, ties to even, and saturated.  32f: every step rounded as the caller's
+   control word says.  AC4 leaves the fourth channel as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterSharpenBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER:
+   BORDER_CONST without borderValue, unless all four sides are in memory.
+   src/filter/pilaplace.cpp */
+ZMV_API StatusCode zmviFilterSharpenBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterSharpenBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
+
 /* zmviAdd: dst = src1 + src2.
    Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
    scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands

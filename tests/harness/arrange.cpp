@@ -88,11 +88,12 @@ void arrangeByRoles(Case& c) {
         c.arg("maskSize") = {c.rng.between(1, 9), c.rng.between(1, c.mode == Mode::far ? 3 : 9)};
         if (facts.reach == Reach::anchor) margins = readableRound(c, c.arg("maskSize").a, c.arg("maskSize").b);
     }
-    if (facts.reach == Reach::fixed && !c.has("blockSize")) {  // by a code of both sides
-        const Parameter* const code = c.member.find("mask");
-        if (code) c.arg("mask") = choice(c, *code);
-        const int64_t side = code ? c.arg("mask").a % 10 : 3;
-        margins = readableRound(c, side, side);
+    const Parameter* const code = c.member.find("mask");  // of both sides
+    const bool coded = code && code->role == Role::option;
+    if (coded) {
+        c.arg("mask") = choice(c, *code);
+        c.mask = {c.arg("mask").a % 10, c.arg("mask").a % 10};
+        if (facts.reach == Reach::anchor) margins = readableRound(c, c.mask.a, c.mask.b);
     }
     const int used = c.member.to.used();
     for (const Parameter& p : c.member.params) switch (p.role) {
@@ -122,7 +123,7 @@ void arrangeByRoles(Case& c) {
                 c.arg(p.name) = factorOf(c);
                 break;
             case Role::option:
-                if (p.name != "mask" || facts.reach != Reach::fixed) c.arg(p.name) = choice(c, p);
+                if (&p != code) c.arg(p.name) = choice(c, p);
                 break;
             case Role::size:
                 if (p.name.ends_with("oiSize")) c.arg(p.name) = {c.width, c.height};
