@@ -95,8 +95,8 @@ void boxRow(const uint8_t* src, uint8_t* dst, const A* line, Len pixels, Len mas
     if (sumsFit<uint8_t>(area, INT32_MAX)) {
         const Above<int32_t> rule(area, answers);
         RowSums<LineReader<A>, 1> rowSums({line}, mask);
-        for (Len x = 0; x < pixels; x += chunkPixels) {
-            const int count = int(std::min<Len>(chunkPixels, pixels - x));
+        for (Len x = 0; x < pixels; x += chunkElements) {
+            const int count = int(std::min<Len>(chunkElements, pixels - x));
             Chunk<uint32_t> sums;
             rowSums.next(sums, count);
             pointwiseRowIn<int32_t>(rule, dst + x, count, ReadySums{sums}, ImageRowIn<int32_t, uint8_t>{src + x});

@@ -43,7 +43,6 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
             bands.workIn(memory.bands);
             return Mean3x3<n>(bands, dst, roi).run(memory.line);
         }
-    const bool wide = !sumsFit<T>(window.area(), INT32_MAX) || !output.takesVectors();
     withColumnSums<T>(window, [&](auto zero) {
         using A = decltype(zero);
         eachLine<A>(bands, roi, window, scratch, [&](Len y, const A* line) {
@@ -51,8 +50,9 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
                 if (output.fitsShort() && !kept) return output.template putShortRow<n>(dst.row(y), line, roi.width);
             const auto put = [&](auto sums) { putRow(output, dst.row(y), sums, roi.width, n, kept); };
             const LineReader<A> reader{line};
-            if (wide) return put(WideRowSums(reader, window.width, n));
-            if constexpr (sizeof(A) < 8) put(RowSums<LineReader<A>, n>(reader, window.width));
+            if constexpr (sizeof(A) < 8)
+                if (output.takesVectors()) return put(RowSums<LineReader<A>, n>(reader, window.width));
+            put(WideRowSums(reader, window.width, n));
         });
     });
 }

@@ -31,25 +31,27 @@ constexpr bool memoryFits(ImageSize roi, ImageSize mask) {
 static_assert(fitsEverywhere(memoryFits));
 
 // Quotients of whole numbers up to `largest`, exactly, rounded down: products with the reciprocal in fixed point,
-// rounded up, whose error stays below one unit.  Where U has no such reciprocal, and for the divisor 1, the factor is
-// zero.
+// rounded up, whose error stays below one unit.  x * factor / 2^(bits of U + shift) is the quotient; where U has no
+// such reciprocal, and for the divisor 1, the factor is zero.
 template <class U>
 struct Reciprocal {
     U factor = 0;
     int shift = 0;
     Reciprocal() = default;
-    Reciprocal(uint64_t divisor, uint64_t largest) {
+    Reciprocal(uint64_t divisor, uint64_t largest, bool tryUnshifted = false) {
         using Wide = std::conditional_t<sizeof(U) == 8, unsigned __int128, uint64_t>;
         constexpr uint64_t most = std::numeric_limits<U>::max();
-        if (largest > most) return;
-        for (int n : {0, int(std::bit_width(divisor)) - 1}) {  // the quickest, and the finest
-            if (uint64_t(1) << n >= divisor) continue;
+        if (largest > most || divisor == 1) return;
+        const int finest = finestShift(divisor);
+        for (int n : {tryUnshifted ? 0 : finest, finest}) {
             const Wide one = Wide(1) << (8 * sizeof(U) + size_t(n)), up = roundedUp(one, divisor);
             if (up > most || (up * divisor - one) * largest >= one) continue;
             factor = U(up), shift = n;
             return;
         }
     }
+    // What makes the factor use all bits of U.
+    static int finestShift(uint64_t divisor) { return int(std::bit_width(divisor - 1)) - 1; }
 
   private:
     static uint64_t roundedUp(uint64_t dividend, uint64_t divisor) { return (dividend + divisor - 1) / divisor; }
@@ -70,16 +72,23 @@ struct Reciprocal {
 template <class T, class D>
 class BoxMean {
   public:
-    explicit BoxMean(Window window)
-        : area_(window.area()), plus_(offset * area_ + area_ / 2), vectors_(uint64_t(area_), largest()) {
-        if (!sumsFit<T>(area_, INT32_MAX) || !takesVectors()) any_ = {uint64_t(area_), largest()};
+    explicit BoxMean(Window window) : area_(window.area()), plus_(offset * area_ + area_ / 2) {
+        if (sumsFit<T>(window.height, INT32_MAX)) vectors_ = {uint64_t(area_), largest()};
+        if (!takesVectors()) any_ = {uint64_t(area_), largest()};
     }
     bool takesVectors() const { return area_ == 1 || vectors_.factor; }
 
     void put(D* dst, Vec<int32_t> sums) const {
         if (area_ == 1) return storeNarrow(dst, sums);
-        const auto positive = asUnsigned(sums) + uint32_t(plus_);
-        storeNarrow(dst, asSigned(mulHigh(positive, fill(vectors_.factor)) >> vectors_.shift) - int32_t(offset));
+        using Pairs = Vec<uint64_t>;
+        // Sums below 2^16 * area, moved up as far as they can be: their products have the mean from bit 47 on.
+        const auto moved = (asUnsigned(sums) + uint32_t(plus_)) << (15 - vectors_.shift);
+        const auto factor = fill(vectors_.factor);
+        // The means of even lanes in the lowest 16 bits, those of odd ones in the next.
+        const Pairs even = mulEven(moved, factor) >> 47,
+                    odd = mulEven((Vec<uint32_t>)((Pairs)moved >> 32), factor) >> 31 & 0xffff0000;
+        constexpr uint64_t back = offset | offset << 16;  // in 16 bits, as good as minus
+        storeNarrow(reinterpret_cast<uint32_t*>(dst), (even | odd) ^ back);
     }
     D one(int64_t sum) const {
         const auto product = (unsigned __int128)(any_.factor) * uint64_t(sum + plus_);
@@ -115,12 +124,15 @@ class BoxMean<uint8_t, uint8_t> {
   public:
     static constexpr bool isByteMean = true;
     explicit BoxMean(Window window)
-        : reciprocal_(1.0f / float(window.area())), windowWidth_(window.width), half_(uint16_t(window.area() / 2)) {
+        : takesVectors_(sumsFit<uint8_t>(window.area(), INT32_MAX)),
+          reciprocal_(1.0f / float(window.area())),
+          windowWidth_(window.width),
+          half_(uint16_t(window.area() / 2)) {
         const Len area = window.area();
         if (area % 2 == 1 && area <= 255 && windowWidth_ <= shortWidth)
-            short_ = {uint64_t(area), uint64_t(255 * area + area / 2)};
+            short_ = {uint64_t(area), uint64_t(255 * area + area / 2), true};
     }
-    static bool takesVectors() { return true; }
+    bool takesVectors() const { return takesVectors_; }
 
     void put(uint8_t* dst, Vec<int32_t> sums) const { storeNarrow(dst, truncate(toFloat(sums) * reciprocal_ + 0.5f)); }
     uint8_t one(int64_t sum) const { return uint8_t(float(sum) * reciprocal_ + 0.5f); }
@@ -155,6 +167,7 @@ class BoxMean<uint8_t, uint8_t> {
         }
     }
 
+    bool takesVectors_;
     float reciprocal_;
     Len windowWidth_;
     uint16_t half_;

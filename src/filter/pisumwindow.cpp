@@ -7,8 +7,8 @@ namespace {
 template <class T, class D>
 class WindowSum {
   public:
-    explicit WindowSum(Window) {}
-    static bool takesVectors() { return true; }
+    explicit WindowSum(Window window) : takesVectors_(sumsFit<T>(window.area(), INT32_MAX)) {}
+    bool takesVectors() const { return takesVectors_; }
     void put(D* dst, Vec<int32_t> sums) const {
         if constexpr (std::is_same_v<D, float>)
             store(dst, toFloat(sums));
@@ -21,6 +21,9 @@ class WindowSum {
         else
             return D(std::min<int64_t>(sum, INT32_MAX));
     }
+
+  private:
+    bool takesVectors_;
 };
 
 template <>
@@ -42,13 +45,13 @@ StatusCode ownpi_SumWindowRow(Image<const T> src, Image<float> dst, Roi roi, int
     if (auto bad = lineContract(src.data, dst.data, maskSize, anchor)) return bad;
     if (nothingToDo(roi)) return STATUS_OK;
     constexpr int n = layout.channels;
-    const bool wide = !sumsFit<T>(maskSize, INT32_MAX);
     toNearest([&] {
         const WindowSum<T, float> output{Window({maskSize, 1})};
         for (Len y = 0; y < roi.height; ++y) {
             const auto put = [&](auto sums) { putRow(output, dst.row(y), sums, roi.width, n, nullptr); };
             const RowReader<T> reader{src.row(y) - Len(anchor) * n, (roi.width + maskSize - 1) * n};
-            wide ? put(WideRowSums(reader, maskSize, n)) : put(RowSums<RowReader<T>, n>(reader, maskSize));
+            output.takesVectors() ? put(RowSums<RowReader<T>, n>(reader, maskSize))
+                                  : put(WideRowSums(reader, maskSize, n));
         }
     });
     return STATUS_OK;

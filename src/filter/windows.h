@@ -24,7 +24,8 @@ struct RowReader {
     int64_t one(Len i) const { return get(row + i); }
 };
 
-// Results of a chunk of sums.  An output's put() takes a vector of sums that fit int32_t, its one() any sum.
+// Results of a chunk of sums.  An output's put() takes a vector of sums in 32 bits, where it takes vectors at all; its
+// one() takes any sum.
 template <class Output, class D, class S>
 void putChunk(const Output& given, D* dst, const S* sums, int count) {
     const Output output = given;  // in registers: to the compiler, results could lie in it
@@ -45,14 +46,14 @@ void putChunk(const Output& given, D* dst, const S* sums, int count) {
 // One row of results.
 template <class Output, class Sums, class D>
 void putRow(const Output& output, D* dst, Sums rowSums, Len pixels, int n, const Pattern* colours) {
-    for (Len x = 0; x < pixels; x += chunkPixels) {
-        const int count = int(std::min<Len>(chunkPixels, pixels - x));
+    for (Len x = 0; x < pixels; x += chunkPixels(n)) {
+        const int count = int(std::min<Len>(chunkPixels(n), pixels - x));
         Chunk<typename Sums::Sum> sums;
         rowSums.next(sums, count);
         if (!colours) {
             putChunk(output, dst + x * n, sums, count * n);
         } else {
-            D results[chunkPixels * 4];
+            D results[chunkElements];
             putChunk(output, results, sums, count * n);
             blendRow(dst + x * n, fromRow(results), *colours, rowBytes<D>(count, 3, 4));
         }

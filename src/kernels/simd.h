@@ -230,24 +230,24 @@ ZMV_INLINE bool allZero(V v) {
     if constexpr (sizeof(V) == 16) return _mm_movemask_epi8(_mm_cmpeq_epi8((__m128i)v, __m128i{})) == 0xffff;
 }
 
-// The high half of the product of unsigned 16-bit and 32-bit lanes.
+// The products of the even of unsigned 32-bit lanes.
 template <class V>
-requires std::is_same_v<Element<V>, uint32_t> ZMV_INLINE V mulHigh(V a, V b) {
-    using Pairs = Vec<uint64_t, sizeof(V)>;
-    const auto evenProducts = [](V x, V y) {
+ZMV_INLINE auto mulEven(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, uint32_t>);
+    using Products = Vec<uint64_t, sizeof(V)>;
 #if defined(__AVX512BW__)
-        if constexpr (sizeof(V) == 64) return (Pairs)_mm512_mul_epu32((__m512i)x, (__m512i)y);
+    if constexpr (sizeof(V) == 64) return (Products)_mm512_mul_epu32((__m512i)a, (__m512i)b);
 #endif
 #if defined(__AVX2__)
-        if constexpr (sizeof(V) == 32) return (Pairs)_mm256_mul_epu32((__m256i)x, (__m256i)y);
+    if constexpr (sizeof(V) == 32) return (Products)_mm256_mul_epu32((__m256i)a, (__m256i)b);
 #endif
-        if constexpr (sizeof(V) == 16) return (Pairs)_mm_mul_epu32((__m128i)x, (__m128i)y);
-    };
-    const Pairs odd = evenProducts((V)((Pairs)a >> 32), (V)((Pairs)b >> 32));
-    return (V)(evenProducts(a, b) >> 32 | (odd & 0xffffffff00000000));
+    if constexpr (sizeof(V) == 16) return (Products)_mm_mul_epu32((__m128i)a, (__m128i)b);
 }
+
+// The high half of the product of unsigned 16-bit lanes.
 template <class V>
-requires std::is_same_v<Element<V>, uint16_t> ZMV_INLINE V mulHigh(V a, V b) {
+ZMV_INLINE V mulHigh(V a, V b) {
+    static_assert(std::is_same_v<Element<V>, uint16_t>);
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) return (V)_mm512_mulhi_epu16((__m512i)a, (__m512i)b);
 #endif

@@ -215,10 +215,12 @@ ZMV_INLINE Vec<T> joined(const std::array<V, n>& v) {
 template <class D, class V>
 ZMV_INLINE void storeNarrow(D* p, V v) {
     constexpr int ratio = int(sizeof(Element<V>) / sizeof(D));
-    static_assert(sizeof(Element<V>) == 4 && sizeof(D) <= 2);
+    static_assert((sizeof(Element<V>) == 4 && sizeof(D) <= 2) || (sizeof(Element<V>) == 8 && sizeof(D) == 4));
 #if defined(__AVX512BW__)
     if constexpr (sizeof(V) == 64) {
-        if constexpr (ratio == 4)
+        if constexpr (sizeof(D) == 4)
+            return store(p, _mm512_cvtepi64_epi32((__m512i)v));
+        else if constexpr (ratio == 4)
             return store(p, _mm512_cvtepi32_epi8((__m512i)v));
         else
             return store(p, _mm512_cvtepi32_epi16((__m512i)v));
@@ -227,6 +229,7 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
 #if defined(__AVX2__)
     if constexpr (sizeof(V) == 32) {
         const auto low = _mm256_castsi256_si128((__m256i)v), high = _mm256_extracti128_si256((__m256i)v, 1);
+        if constexpr (sizeof(D) == 4) return store(p, _mm_shuffle_ps((__m128)low, (__m128)high, 0x88));
         const auto words =
             _mm_packus_epi32(_mm_and_si128(low, _mm_set1_epi32(0xffff)), _mm_and_si128(high, _mm_set1_epi32(0xffff)));
         if constexpr (ratio == 4)
@@ -237,6 +240,7 @@ ZMV_INLINE void storeNarrow(D* p, V v) {
     }
 #endif
     if constexpr (sizeof(V) == 16) {
+        if constexpr (sizeof(D) == 4) return _mm_storeu_si64(p, _mm_shuffle_epi32((__m128i)v, 0x88));
         // Sign-extended, the low halves pass a signed pack unchanged.
         const auto low = _mm_srai_epi32(_mm_slli_epi32((__m128i)v, 16), 16);
         const auto words = _mm_packs_epi32(low, low);

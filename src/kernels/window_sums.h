@@ -29,10 +29,11 @@ ZMV_INLINE auto sumOf(Terms terms, Width width) {
     return sum;
 }
 
-// Sums of this many pixels are formed, then turned into results.
-constexpr int chunkPixels = 64;
+// So many sums are formed, of pixels with n channels, then turned into results.
+constexpr int chunkElements = 256;
+constexpr int chunkPixels(int n) { return chunkElements / n; }
 template <class S>
-using Chunk = S[chunkPixels * 4 + lanes<uint32_t>];
+using Chunk = S[chunkElements + lanes<uint32_t>];
 
 // to = from + enter - leave for count elements; without leave, to = from + enter.  Lines may be read, but not written,
 // a vector beyond their end: the buffer goes on for at least that.
@@ -67,7 +68,7 @@ struct LineReader {
     Vec<uint32_t, 16> fewAt(Len i) const { return loadWiden<uint32_t, A, 16>(line + i); }
     int64_t one(Len i) const { return get(line + i); }
 };
-// The sums of windows of some pixels of n channels along a row, chunk by chunk from the left.  They fit int32_t, but
+// The sums of windows of some pixels of n channels along a row, chunk by chunk from the left.  They fit 32 bits;
 // lanes that are nobody's may wrap, so that they are formed without a sign.
 template <class Reader, int n>
 class RowSums {
@@ -143,11 +144,17 @@ class WideRowSums {
         for (Len k = 0; k < (width_ - 1) * n_; ++k) running_[k % n_] += reader.one(k);
     }
     __attribute__((noinline)) void next(int64_t* sums, int pixels) {
-        for (int i = 0; i < pixels; ++i)
-            for (int c = 0; c < n_; ++c, ++done_) {
-                *sums++ = running_[c] += reader_.one(done_ + (width_ - 1) * n_);
-                running_[c] -= reader_.one(done_);
+        const Reader reader = reader_;
+        const Len n = n_, done = done_, reach = (width_ - 1) * n;
+        for (Len c = 0; c < n; ++c) {
+            int64_t sum = running_[c];
+            for (Len i = c; i < pixels * n; i += n) {
+                sums[i] = sum += reader.one(done + i + reach);
+                sum -= reader.one(done + i);
             }
+            running_[c] = sum;
+        }
+        done_ = done + pixels * n;
     }
 
   private:
