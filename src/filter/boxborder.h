@@ -37,12 +37,6 @@ void integerWindows(Bands<T, n>& bands, Image<D> dst, Roi roi, Layout layout, Wi
                     Scratch scratch) {
     const Pattern colours = Pattern::mask<D>(layout.used(), n);
     const Pattern* const kept = layout.alpha ? &colours : nullptr;
-    if constexpr (requires { requires Output::isByteMean; })
-        if (window.width == 3 && window.height == 3 && !kept && !bands.inPlace()) {
-            const Mean3x3Memory memory(scratch, roi, window, n, bands.use().constant);
-            bands.workIn(memory.bands);
-            return Mean3x3<n>(bands, dst, roi).run(memory.line);
-        }
     withColumnSums<T>(window, [&](auto zero) {
         using A = decltype(zero);
         eachLine<A>(bands, roi, window, scratch, [&](Len y, const A* line) {
@@ -106,6 +100,9 @@ void boxWindows(Image<const T> src, Image<D> dst, Roi roi, Window window, int bo
     const bool inPlace =
         static_cast<const void*>(src.data) == dst.data && (window.height > 1 || !std::is_floating_point_v<T>);
     Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
+    if constexpr (requires { requires Output::isByteMean; } && !layout.alpha)
+        if (window.width == 3 && window.height == 3 && !inPlace && mean3x3(bands, dst, roi, window, Scratch(buffer)))
+            return STATUS_OK;
     toNearestIf<std::is_integral_v<T>>([&] {
         const Output output(window);
         if constexpr (std::is_same_v<T, float>)

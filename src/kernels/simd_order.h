@@ -179,6 +179,41 @@ template <class V>
 V shuffleBytes(V v, V index);
 #endif
 
+// The bytes of v moved up by n, behind the first n bytes of `few`; moved down by n, with those at the end.
+template <int n, class V>
+ZMV_INLINE V movedUp(V v, Vec<uint64_t, 16> few) {
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) {
+        const auto lower = _mm512_maskz_shuffle_i64x2(0xfc, (__m512i)v, (__m512i)v, 0x90);
+        return (V)_mm512_or_si512(_mm512_alignr_epi8((__m512i)v, lower, 16 - n), _mm512_zextsi128_si512((__m128i)few));
+    }
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) {
+        const auto lower = _mm256_permute2x128_si256((__m256i)v, (__m256i)v, 8);
+        return (V)_mm256_or_si256(_mm256_alignr_epi8((__m256i)v, lower, 16 - n), _mm256_zextsi128_si256((__m128i)few));
+    }
+#endif
+    if constexpr (sizeof(V) == 16) return (V)_mm_or_si128(_mm_slli_si128((__m128i)v, n), (__m128i)few);
+}
+template <int n, class V>
+ZMV_INLINE V movedDown(V v, Vec<uint64_t, 16> few) {
+#if defined(__AVX512BW__)
+    if constexpr (sizeof(V) == 64) {
+        const auto upper = _mm512_maskz_shuffle_i64x2(0x3f, (__m512i)v, (__m512i)v, 0x39);
+        return (V)_mm512_alignr_epi8(_mm512_inserti64x2(upper, (__m128i)few, 3), (__m512i)v, n);
+    }
+#endif
+#if defined(__AVX2__)
+    if constexpr (sizeof(V) == 32) {
+        const auto upper = _mm256_permute2x128_si256((__m256i)v, _mm256_castsi128_si256((__m128i)few), 0x21);
+        return (V)_mm256_alignr_epi8(upper, (__m256i)v, n);
+    }
+#endif
+    if constexpr (sizeof(V) == 16)
+        return (V)_mm_or_si128(_mm_srli_si128((__m128i)v, n), _mm_slli_si128((__m128i)few, 16 - n));
+}
+
 // n vectors that are the planes of a block of pixels, or its pixels.
 template <class V, int n>
 using Block = std::array<V, n>;
