@@ -191,26 +191,35 @@ void judgeWindow(Case& c) {
     }
 }
 
-// All pixels at their largest, masks of millions: the sum of 8-bit pixels saturates at what 32 bits hold.
+// All pixels at their largest, masks of millions, and one whose columns alone take more than 31 bits: the sum of 8-bit
+// pixels saturates at what 32 bits hold.
 TEST(Window, SumsBeyond32Bits) {
     for (const Member& m : members()) {
         const bool window = m.row->name == "zmviFilterBoxBorder" || m.row->name == "zmviSumWindow";
-        if (!window || m.source != Element::u8 || m.to.alpha) continue;
-        for (const ImageSize mask : {ImageSize{2900, 2901}, ImageSize{2903, 2901}, ImageSize{4200, 4001}}) {
+        const bool bytes = m.source == Element::u8;
+        if (!window || (!bytes && m.source != Element::u16) || m.to.alpha) continue;
+        const int largest = bytes ? 255 : 65535;
+        for (const ImageSize mask :
+             {ImageSize{2900, 2901}, ImageSize{2903, 2901}, ImageSize{4200, 4001}, ImageSize{1, 40000}}) {
             if (m.to.channels > 1 && mask.width > 4000) continue;  // the buffer's size would not fit an int
             Case c(m, underTest(), 0);
             const Image &src = c.place("src", 1, 1), &dst = c.place("dst", 1, 1);
-            for (int k = 0; k < m.to.channels; ++k) c.set(src, 0, 0, k, uint8_t(255));
+            const auto setLargest = [&](const Image& image, int k) {
+                bytes ? c.set(image, 0, 0, k, uint8_t(largest)) : c.set(image, 0, 0, k, uint16_t(largest));
+            };
+            for (int k = 0; k < m.to.channels; ++k) setLargest(src, k);
             c.arg("roiSize") = {1, 1};
             c.arg("maskSize") = {mask.width, mask.height};
             c.arg("borderType") = BORDER_REPL;
             c.arg("borderValue") = nullptr;
             c.placeBuffer("buffer", c.bufferSize());
             c.call();
-            const int64_t exact = 255LL * mask.width * mask.height;
+            const int64_t exact = int64_t(largest) * mask.width * mask.height;
             for (int k = 0; k < m.to.channels; ++k)
-                if (m.destination == Element::u8)
-                    c.set(dst, 0, 0, k, uint8_t(255));
+                if (m.destination == m.source)
+                    setLargest(dst, k);
+                else if (m.destination == Element::f32)
+                    c.set(dst, 0, 0, k, float(exact));
                 else
                     c.set(dst, 0, 0, k, int32_t(std::min<int64_t>(exact, INT32_MAX)));
             EXPECT_EQ(c.verdict(), "");
