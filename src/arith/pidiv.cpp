@@ -96,9 +96,10 @@ template <class T>
 StatusCode divideImages(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int roundMode,
                         int factor) {
     const Divisors<T> divisors(src1, layout);
+    // Integers take longer to divide than memory takes.
+    const bool pastCache = std::is_floating_point_v<T> && binaryPastCache(src1, src2, dst, roi, layout);
     withPrecision<T>(factor, [&](auto zero) {
-        divide<decltype(zero)>(divisors, src2, dst, roi, layout, roundMode, factor,
-                               binaryPastCache(src1, src2, dst, roi, layout));
+        divide<decltype(zero)>(divisors, src2, dst, roi, layout, roundMode, factor, pastCache);
     });
     return divisors.zero ? STATUS_WARN_DIV_BY_ZERO : STATUS_OK;
 }

@@ -58,14 +58,14 @@ struct Sqrt {
 };
 template <class T>
 void squareRoots(Image<const T> src, Image<T> dst, Roi roi, Layout layout, int factor) {
-    const bool pastCache = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
     if constexpr (std::is_floating_point_v<T>) {
+        const bool pastCache = src.data != dst.data && regionPastCache(roi, layout, 2 * sizeof(T));
         pointwise(Sqrt(), dst, roi, layout, pastCache, src);
     } else {
         withPrecision<T>(factor, [&](auto zero) {
             using F = decltype(zero);
             const auto rule = [scale = scaleOf<F>(factor)](Vec<F> a) { return squareRoot(a) * scale; };
-            pointwiseIn<F>(rule, dst, roi, layout, pastCache, src);
+            pointwiseIn<F>(rule, dst, roi, layout, false, src);  // roots of integers take longer than memory
         });
     }
 }

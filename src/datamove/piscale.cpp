@@ -90,9 +90,8 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
     // Bytes have few results: they are computed once, where bytes are looked up faster, or lanes are few.
     constexpr Len tablePays = 400;  // pixels
     const bool many = roi.width * roi.height >= tablePays;
-    const bool pastCache = !(sizeof(S) == 1 && sizeof(D) == 1 && many) && past(src, dst, roi, C1);
     if constexpr (sizeof(S) == 1 && (sizeof(D) == 1 || lanes<double> == 2))
-        if (many && !pastCache) {
+        if (many) {
             S all[256];
             for (int i = 0; i < 256; ++i) all[i] = S(i);
             Bits<D> table[256];
@@ -108,7 +107,7 @@ StatusCode ownpi_ScaleC(Image<const S> src, double mVal, double aVal, Image<D> d
                 lookUp([](auto... operands) { lookUpEntries<1>(operands...); });
             return STATUS_OK;
         }
-    pointwiseIn<double>(rule, dst, roi, C1, pastCache, src);
+    pointwiseIn<double>(rule, dst, roi, C1, false, src);  // in double precision results take longer than memory
     return STATUS_OK;
 }
 

@@ -25,7 +25,7 @@ int64_t bytesPerPixel(const Member& m) {
         return 0;
     if (family == "zmviTranspose" && m.name != "zmviTranspose_32s_C1R") return 0;
     if (family == "zmviConvert" && m.name.back() != 'R') return 0;
-    if (family == "zmviScaleC" && bytes && bytesOf(m.source) == 1) return 0;  // by a table, where that pays
+    if ((family == "zmviDiv" || family == "zmviSqrt") && !isReal(m.source)) return 0;  // slower than memory
     int64_t moved = 0;
     for (const Parameter& p : m.params)
         if (p.role == Role::image || p.role == Role::planes)
