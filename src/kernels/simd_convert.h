@@ -71,13 +71,22 @@ ZMV_INLINE auto roundToFloat(V a, V b) {
     if constexpr (sizeof(V) == 16) return (Floats)_mm_movelh_ps(_mm_cvtpd_ps((__m128d)a), _mm_cvtpd_ps((__m128d)b));
 }
 
-// The smaller and the larger of two real numbers; b where one is NaN.
+// The smaller and the larger of two real numbers; b where one is NaN, and of two zeros.  Of the comparison GCC makes a
+// mask where masks are registers of their own.
 template <class V>
 ZMV_INLINE V smaller(V a, V b) {
+#if defined(__AVX512BW__)
+    if constexpr (std::is_same_v<V, Vec<float, 64>>) return (V)_mm512_min_ps((__m512)a, (__m512)b);
+    if constexpr (std::is_same_v<V, Vec<double, 64>>) return (V)_mm512_min_pd((__m512d)a, (__m512d)b);
+#endif
     return a < b ? a : b;
 }
 template <class V>
 ZMV_INLINE V larger(V a, V b) {
+#if defined(__AVX512BW__)
+    if constexpr (std::is_same_v<V, Vec<float, 64>>) return (V)_mm512_max_ps((__m512)a, (__m512)b);
+    if constexpr (std::is_same_v<V, Vec<double, 64>>) return (V)_mm512_max_pd((__m512d)a, (__m512d)b);
+#endif
     return a > b ? a : b;
 }
 template <class V>
