@@ -57,7 +57,7 @@ ImageRowIn<W, T> rowIn(const Divisors<T>& divisors, Len y, Len x, Len n) {
     divisors.look(y, x, n);
     return rowIn<W>(divisors.image, y, x, n);
 }
-// Rows are not joined, so that one is still in the nearest caches after the look at it.
+// Rows are not joined, so that one is still in the nearest caches after the look at it; but see divideImages.
 template <class T>
 bool operandGapless(const Divisors<T>&, Len, int) {
     return false;
@@ -96,6 +96,9 @@ template <class T>
 StatusCode divideImages(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int roundMode,
                         int factor) {
     const Divisors<T> divisors(src1, layout);
+    constexpr Len nearest = 8192;  // bytes that stay in the nearest cache
+    if (roi.width * roi.height * layout.channels * Len(sizeof(T)) <= nearest)
+        roi = joinOperands(roi, layout, dst, src1, src2);
     // Integers take longer to divide than memory takes.
     const bool pastCache = std::is_floating_point_v<T> && binaryPastCache(src1, src2, dst, roi, layout);
     withPrecision<T>(factor, [&](auto zero) {
