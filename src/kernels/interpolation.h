@@ -1,0 +1,150 @@
+// Kernels that give values between pixels: how many pixels they weigh along an axis, how many of them lie before the
+// base pixel, and what they count at a fraction behind it.  In lanes of the type in which all is computed.
+#pragma once
+
+#include <array>
+#include <cstring>
+
+#include "kernels/lanczos.h"
+#include "kernels/simd_convert.h"
+#include "kernels/simd_order.h"
+
+namespace zmv {
+
+// Coordinates as integers, in as many lanes.
+template <class W>
+using Places = Vec<int32_t, lanes<W> * 4>;
+// Toward zero, of numbers below 2^31, and back.
+template <class V>
+ZMV_INLINE auto wholeOf(V v) {
+    if constexpr (sizeof(Element<V>) == 4) {
+        return truncate(v);
+    } else {
+        Places<double> whole;
+        for (int i = 0; i < lanesOf<V>; ++i) whole[i] = int32_t(v[i]);
+        return whole;
+    }
+}
+template <class W>
+ZMV_INLINE Vec<W> realOf(Places<W> places) {
+    if constexpr (sizeof(W) == 4) {
+        return toFloat(places);
+    } else {
+        Vec<W> real;
+        for (int i = 0; i < lanes<W>; ++i) real[i] = places[i];
+        return real;
+    }
+}
+// The first lanes of floats.
+template <class W>
+ZMV_INLINE Vec<W> inLanesOf(Vec<float> v) {
+    if constexpr (sizeof(W) == 4) {
+        return v;
+    } else {
+        Vec<W> wide;
+        for (int i = 0; i < lanes<W>; ++i) wide[i] = v[i];
+        return wide;
+    }
+}
+
+// a + b, and of two NaNs the first; there is none among integers.
+template <bool real, class V>
+ZMV_INLINE V sumInOrder(V a, V b) {
+    if constexpr (real)
+        return addInOrder(a, b);
+    else
+        return a + b;
+}
+
+template <class V, int n>
+struct Weighted {
+    std::array<V, n> weight;
+    template <bool real>
+    ZMV_INLINE V sum(const std::array<V, n>& p) const {
+        V total = weight[0] * p[0];
+        unrolled<n - 1>([&](auto i) { total = sumInOrder<real>(total, weight[i + 1] * p[i + 1]); });
+        return total;
+    }
+};
+// The pixel that the point is nearest to, one half counting as nearer to the next.
+struct NearestKernel {
+    static constexpr int taps = 1, before = 0;
+};
+// On the line between two pixels; a constant stays itself exactly.
+struct LinearKernel {
+    static constexpr int taps = 2, before = 0;
+    template <class V>
+    struct At {
+        V fraction;
+        explicit ZMV_INLINE At(V f) : fraction(f) {}
+        template <bool real>
+        ZMV_INLINE V sum(const std::array<V, 2>& p) const {
+            return sumInOrder<real>(p[0], (p[1] - p[0]) * fraction);
+        }
+    };
+};
+// k * x, which nobody takes for x * -k: c - k * x and c + x * -k differ where the caller does not round to nearest, and
+// to compilers they are the same.
+template <class V>
+ZMV_INLINE V scaledBy(Element<V> k, V x) {
+    return mulInOrder(x, fill<Element<V>, sizeof(V)>(k));
+}
+// On the cubic through two pixels whose slopes there are those between their neighbours.
+struct CatmullRomKernel {
+    static constexpr int taps = 4, before = 1;
+    template <class V>
+    struct At : Weighted<V, 4> {
+        using T = Element<V>;
+        explicit ZMV_INLINE At(V f)
+            : Weighted<V, 4>{{((1 - scaledBy(T(0.5), f)) * f - T(0.5)) * f, (f * T(1.5) - T(2.5)) * f * f + 1,
+                              ((2 - scaledBy(T(1.5), f)) * f + T(0.5)) * f, (f * T(0.5) - T(0.5)) * f * f}} {}
+    };
+};
+// On the cubic through four pixels.
+struct LagrangeKernel {
+    static constexpr int taps = 4, before = 1;
+    template <class V>
+    struct At : Weighted<V, 4> {
+        using T = Element<V>;
+        static constexpr T third = T(1) / 3, sixth = T(1) / 6;
+        explicit ZMV_INLINE At(V f)
+            : Weighted<V, 4>{{((T(0.5) - scaledBy(sixth, f)) * f - third) * f, ((f * T(0.5) - 1) * f - T(0.5)) * f + 1,
+                              ((T(0.5) - scaledBy(T(0.5), f)) * f + 1) * f, (f * sixth * f - sixth) * f}} {}
+    };
+};
+
+// The Lanczos kernel of three lobes, between the entries of its table, the weights divided by their sum.
+struct LanczosKernel {
+    static constexpr int taps = 6, before = 2;
+    template <class V>
+    struct At : Weighted<V, taps> {
+        using T = Element<V>;
+        static constexpr int n = lanesOf<V>;
+        explicit ZMV_INLINE At(V f) {
+            alignas(64) int32_t entries[taps][n];
+            Block<Vec<float>, 2> pairs[taps];  // an entry and the next, of the points in the order of even
+            V behind[taps], sum;
+            unrolled<taps>([&](auto k) {
+                const V apart = (-2 - f) + T(k), at = larger(apart, -apart) * 100;
+                const auto entry = wholeOf(at);
+                store(entries[k], entry), behind[k] = at - realOf<T>(entry);
+            });
+            const auto to = reinterpret_cast<uint8_t*>(pairs);
+            for (int k = 0; k < taps; ++k)
+                unrolled<n>([&](auto i) {
+                    constexpr int place = i / 4 * 2 + i % 2 + i % 4 / 2 * lanes<uint64_t>;
+                    std::memcpy(to + (k * lanes<float> + place) * 8, &tblL3[size_t(entries[k][i])], 8);
+                });
+            unrolled<taps>([&](auto k) {
+                const auto& [first, second] = pairs[k];
+                const V low = inLanesOf<T>(even(first, second)),
+                        high = inLanesOf<T>(even(oddToEven(first), oddToEven(second)));
+                this->weight[k] = low + behind[k] * (high - low);
+                sum = k == 0 ? this->weight[k] : sum + this->weight[k];
+            });
+            for (V& w : this->weight) w /= sum;
+        }
+    };
+};
+
+}  // namespace zmv
