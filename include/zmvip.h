@@ -3966,6 +3966,25 @@ ZMV_API StatusCode zmviGetAffineQuad_L(ImageRectL srcRoi, double quad[4][2], con
 ZMV_API StatusCode zmviGetAffineBound(ImageRect srcRoi, double bound[2][2], const double coeffs[2][3]);
 ZMV_API StatusCode zmviGetAffineBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[2][3]);
 
+/* zmviGetRotateQuad: The quadrangle that the rotation of zmviGetRotateTransform makes of srcRoi.
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   Checked in this order.  STATUS_OUT_OF_RANGE: the angle is infinite or NaN.  STATUS_NULL_POINTER: quad is null.
+   STATUS_BAD_SIZE: width or height of srcRoi below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner
+   is not finite, or the corners do not all turn the same way; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetRotateQuad(ImageRect srcRoi, double quad[4][2], double angle, double xShift, double yShift);
+ZMV_API StatusCode zmviGetRotateQuad_L(ImageRectL srcRoi, double quad[4][2], double angle, double xShift, double yShift);
+
+/* zmviGetRotateBound: The smallest upright rectangle round the quadrangle of zmviGetRotateQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].
+   Checked in this order.  STATUS_OUT_OF_RANGE: the angle is infinite or NaN.  STATUS_NULL_POINTER: bound is null.
+   STATUS_BAD_SIZE: width or height of srcRoi below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner
+   is not finite, or the corners do not all turn the same way; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetRotateBound(ImageRect srcRoi, double bound[2][2], double angle, double xShift, double yShift);
+ZMV_API StatusCode zmviGetRotateBound_L(ImageRectL srcRoi, double bound[2][2], double angle, double xShift, double yShift);
+
 /* zmviGetAffineSrcRoi: The smallest rectangle of source pixels that holds what a matrix takes to pixel centres of
    dstRoi.
    It is what warping dstRoi reads for nearest and linear values; wider kernels add their radius.
@@ -3976,6 +3995,7 @@ ZMV_API StatusCode zmviGetAffineBound_L(ImageRectL srcRoi, double bound[2][2], c
    STATUS_WARN_NO_INTERSECTION: dstRoi comes from nowhere in the source; nothing is written.
    src/geometry/piwarp.cpp */
 ZMV_API StatusCode zmviGetAffineSrcRoi(ImageSize srcSize, const double coeffs[2][3], ImageRect dstRoi, ImageRect* srcRoi);
+ZMV_API StatusCode zmviGetAffineSrcRoi_L(ImageSizeL srcSize, const double coeffs[2][3], ImageRectL dstRoi, ImageRectL* srcRoi);
 
 /* zmviRemap: dst(i, j) = src(pxMap(i, j), pyMap(i, j)): two maps say where pixels come from.
    Maps hold floats, double for 64f, of the size of dst; coordinates count from the origin of the whole image of

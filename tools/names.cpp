@@ -147,7 +147,8 @@ Parameter parameter(std::string text, const std::string& member) {
     if (parts.size() != 2) throw std::runtime_error(member + ": what is " + text + "?");
     p.type = parts[0], p.name = parts[1];
     p.element = elementOf(p.type);
-    if (p.pointer && p.type == "ImageRect") p.element = Element::s32;  // four of them
+    if (p.pointer && p.type.starts_with("ImageRect"))  // four of them
+        p.element = p.type == "ImageRect" ? Element::s32 : Element::s64;
     p.written = p.pointer && text.rfind("const ", 0) != 0;
     assignRole(p, member);
     return p;

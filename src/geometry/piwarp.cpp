@@ -84,16 +84,33 @@ StatusCode ownpi_GetAffineBound(Rect from, double (*bound)[2], const double (*co
     return status;
 }
 
-StatusCode ownpi_GetAffineSrcRoi(ImageSize srcSize, const double (*coeffs)[3], ImageRect to, ImageRect* srcRoi) {
+template <class Rect>
+StatusCode ownpi_GetRotateQuad(Rect from, double (*quad)[2], double angle, double xShift, double yShift) {
+    double coeffs[2][3];
+    const StatusCode bad = ownpi_GetRotateTransform(angle, xShift, yShift, coeffs);
+    return bad ? bad : ownpi_GetAffineQuad(from, quad, coeffs);
+}
+template <class Rect>
+StatusCode ownpi_GetRotateBound(Rect from, double (*bound)[2], double angle, double xShift, double yShift) {
+    double coeffs[2][3];
+    const StatusCode bad = ownpi_GetRotateTransform(angle, xShift, yShift, coeffs);
+    return bad ? bad : ownpi_GetAffineBound(from, bound, coeffs);
+}
+
+template <class Size, class Rect>
+StatusCode ownpi_GetAffineSrcRoi(Size srcSize, const double (*coeffs)[3], Rect to, Rect* srcRoi) {
     if (auto bad = firstOf({pointers(coeffs, srcRoi), size(srcSize), size(Roi(to.width, to.height))})) return bad;
     const AffineMap map = AffineMap::from(coeffs);
     const double d = map.determinant();
     if (!map.finite() || !isFinite(d) || d == 0) return STATUS_BAD_COEFFS;
     const PixelRange range = ownpi_WarpAffineRect(srcSize, map, Corners(to));
     if (range.empty()) return STATUS_WARN_NO_INTERSECTION;
-    const auto whole = [](double from, double to) { return int(to - from) + 1; };
+    using Index = decltype(srcSize.width);
+    // The last index of the largest sizes has no double of its own.
+    const auto index = [](double x, Index size) { return x < double(size - 1) ? Index(x) : size - 1; };
+    const Index left = index(range.left, srcSize.width), top = index(range.top, srcSize.height);
     put(srcRoi,
-        ImageRect{int(range.left), int(range.top), whole(range.left, range.right), whole(range.top, range.bottom)});
+        Rect{left, top, index(range.right, srcSize.width) - left + 1, index(range.bottom, srcSize.height) - top + 1});
     return STATUS_OK;
 }
 
@@ -108,4 +125,6 @@ ROTATE_SHIFT_FAMILY
 AFFINE_TRANSFORM_FAMILY
 AFFINE_QUAD_FAMILY
 AFFINE_BOUND_FAMILY
+ROTATE_QUAD_FAMILY
+ROTATE_BOUND_FAMILY
 AFFINE_SRC_ROI_FAMILY

@@ -33,8 +33,8 @@ void arrangeAffine(Case& c) {
     static const double angles[] = {0,     90,     180,     270,  360, 450, -90,
                                     1e300, 5e-324, -5e-324, 9e15, 30,  45,  89.99999999999999};
     const int64_t far = c.member.large ? INT64_MAX / 2 : INT32_MAX;
-    const auto length = [&](int64_t limit) {
-        return c.rng.oneIn(8) ? limit - c.rng.below(3) : c.rng.between(1, c.rng.oneIn(4) ? 2 : 300);
+    const auto length = [&] {
+        return c.rng.oneIn(8) ? far - c.rng.below(3) : c.rng.between(1, c.rng.oneIn(4) ? 2 : 300);
     };
     const auto place = [&](bool negative) {
         return negative ? c.rng.between(-300, 300) : c.rng.oneIn(8) ? far - c.rng.below(3) : c.rng.below(300);
@@ -42,11 +42,8 @@ void arrangeAffine(Case& c) {
     for (const Parameter& p : c.member.params) {
         const std::string& name = p.name;
         const bool source = c.has("srcSize");  // what a rectangle of the destination comes from
-        if (p.role == Role::size) c.arg(name) = {length(INT32_MAX), length(INT32_MAX)};
-        if (p.role == Role::rectangle) {
-            const int64_t most = source ? INT32_MAX : far;
-            c.arg(name) = {place(source), place(source), length(most), length(most)};
-        }
+        if (p.role == Role::size) c.arg(name) = {length(), length()};
+        if (p.role == Role::rectangle) c.arg(name) = {place(source), place(source), length(), length()};
         if (p.type == "double" && !p.pointer)
             c.arg(name) = std::bit_cast<int64_t>(
                 name == "angle" && c.rng.oneIn(2) ? angles[c.rng.below(int(std::size(angles)))] : real(c, 5000));
@@ -108,15 +105,17 @@ void rotateShift(Case& c) {
 }
 
 using Quad = std::array<std::array<double, 2>, 4>;
-Quad quadOf(Case& c) {
+using Coefficients = double[2][3];
+void coefficientsOf(Case& c, Coefficients& k) {
+    for (int i = 0; i < 6; ++i) k[i / 3][i % 3] = at(c, "coeffs", i / 3, i % 3);
+}
+Quad quadOf(Case& c, const Coefficients& coeffs) {
     const Slot& r = c.arg("srcRoi");
     const double left = double(r.a), top = double(r.b);
     const double right = left + double(r.c - 1), bottom = top + double(r.d - 1);
     Quad quad = {{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
     for (auto& [x, y] : quad) {
-        const auto image = [&](int k) {
-            return at(c, "coeffs", k, 0) * x + at(c, "coeffs", k, 1) * y + at(c, "coeffs", k, 2);
-        };
+        const auto image = [&](int k) { return coeffs[k][0] * x + coeffs[k][1] * y + coeffs[k][2]; };
         const double p = image(0), q = image(1);
         x = p, y = q;
     }
@@ -152,14 +151,11 @@ void affineTransform(Case& c) {
         put(c, "coeffs", k, 2, (q[0][axis] - across * double(r.a)) - down * double(r.b));
     }
 }
-void affineQuad(Case& c) {
-    const Quad quad = quadOf(c);
+void putQuad(Case& c, const Quad& quad) {
     for (int i = 0; i < 4; ++i)
         for (int k = 0; k < 2; ++k) put(c, "quad", i, k, quad[size_t(i)][size_t(k)]);
-    if (!convex(quad)) c.expected = STATUS_BAD_COEFFS;
 }
-void affineBound(Case& c) {
-    const Quad quad = quadOf(c);
+void putBound(Case& c, const Quad& quad) {
     for (size_t k = 0; k < 2; ++k) {
         double least = INFINITY, greatest = -INFINITY;
         for (const auto& corner : quad) least = std::min(least, corner[k]), greatest = std::max(greatest, corner[k]);
@@ -167,12 +163,29 @@ void affineBound(Case& c) {
             if (corner[k] != corner[k]) least = greatest = NAN;
         put(c, "bound", 0, int(k), least), put(c, "bound", 1, int(k), greatest);
     }
+}
+// Of a matrix, or of a rotation's, for which the library is asked.
+template <auto putResult>
+void quadOrBound(Case& c) {
+    Coefficients coeffs;
+    if (c.has("coeffs")) {
+        coefficientsOf(c, coeffs);
+    } else {
+        const auto transform = reinterpret_cast<StatusCode (*)(double, double, double, Coefficients)>(
+            c.library.find("zmviGetRotateTransform"));
+        if (transform(bound(c, "angle"), bound(c, "xShift"), bound(c, "yShift"), coeffs) != STATUS_OK)
+            return void(c.expected = STATUS_OUT_OF_RANGE);
+    }
+    const Quad quad = quadOf(c, coeffs);
+    putResult(c, quad);
     if (!convex(quad)) c.expected = STATUS_BAD_COEFFS;
 }
 
 void affineSrcRoi(Case& c) {
-    const double c00 = at(c, "coeffs", 0, 0), c01 = at(c, "coeffs", 0, 1), c02 = at(c, "coeffs", 0, 2);
-    const double c10 = at(c, "coeffs", 1, 0), c11 = at(c, "coeffs", 1, 1), c12 = at(c, "coeffs", 1, 2);
+    Coefficients coeffs;
+    coefficientsOf(c, coeffs);
+    const auto& [c00, c01, c02] = coeffs[0];
+    const auto& [c10, c11, c12] = coeffs[1];
     const double d = c00 * c11 - c01 * c10;
     for (const double x : {c00, c01, c02, c10, c11, c12, d})
         if (!std::isfinite(x)) return void(c.expected = STATUS_BAD_COEFFS);
@@ -184,19 +197,24 @@ void affineSrcRoi(Case& c) {
     int64_t from[2], count[2];
     for (int k = 0; k < 2; ++k) {
         double least = INFINITY, greatest = -INFINITY;
-        for (const int64_t x : {to.a, to.a + to.c - 1})
-            for (const int64_t y : {to.b, to.b + to.d - 1}) {
-                const double at = back[k][0] * double(x) + (back[k][1] * double(y) + back[k][2]);
+        for (const double x : {double(to.a), double(to.a) + double(to.c - 1)})
+            for (const double y : {double(to.b), double(to.b) + double(to.d - 1)}) {
+                const double at = back[k][0] * x + (back[k][1] * y + back[k][2]);
                 if (at != at) return void(c.expected = STATUS_WARN_NO_INTERSECTION);
                 least = std::min(least, at), greatest = std::max(greatest, at);
             }
-        const double first = std::max(std::floor(least), 0.0),
-                     last = std::min(std::ceil(greatest), double(lengths[k] - 1));
+        const double end = double(lengths[k] - 1), first = std::max(std::floor(least), 0.0),
+                     last = std::min(std::ceil(greatest), end);
         if (first > last) return void(c.expected = STATUS_WARN_NO_INTERSECTION);
-        from[k] = int64_t(first), count[k] = int64_t(last) - from[k] + 1;
+        const auto index = [&](double x) { return x == end ? lengths[k] - 1 : int64_t(x); };
+        from[k] = index(first), count[k] = index(last) - from[k] + 1;
     }
     const int64_t all[] = {from[0], from[1], count[0], count[1]};
-    for (int k = 0; k < 4; ++k) c.set(c.image("srcRoi"), k, 0, 0, int32_t(all[k]));
+    for (int i = 0; i < 4; ++i)
+        if (c.member.large)
+            c.set(c.image("srcRoi"), i, 0, 0, all[i]);
+        else
+            c.set(c.image("srcRoi"), i, 0, 0, int32_t(all[i]));
 }
 
 }  // namespace
@@ -204,6 +222,8 @@ void affineSrcRoi(Case& c) {
 extern const Family test_zmviGetRotateTransform = {.arrange = arrangeAffine, .oracle = rotateTransform};
 extern const Family test_zmviGetRotateShift = {.arrange = arrangeAffine, .oracle = rotateShift};
 extern const Family test_zmviGetAffineTransform = {.arrange = arrangeAffine, .oracle = affineTransform};
-extern const Family test_zmviGetAffineQuad = {.arrange = arrangeAffine, .oracle = affineQuad};
-extern const Family test_zmviGetAffineBound = {.arrange = arrangeAffine, .oracle = affineBound};
+extern const Family test_zmviGetAffineQuad = {.arrange = arrangeAffine, .oracle = quadOrBound<putQuad>};
+extern const Family test_zmviGetAffineBound = {.arrange = arrangeAffine, .oracle = quadOrBound<putBound>};
 extern const Family test_zmviGetAffineSrcRoi = {.arrange = arrangeAffine, .oracle = affineSrcRoi};
+extern const Family test_zmviGetRotateQuad = {.arrange = arrangeAffine, .oracle = quadOrBound<putQuad>};
+extern const Family test_zmviGetRotateBound = {.arrange = arrangeAffine, .oracle = quadOrBound<putBound>};
