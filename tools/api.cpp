@@ -88,11 +88,11 @@ std::string enumerations(const std::string& header) {
     eachMatch(header, R"(enum \{([^}(]*)\})", [&](const std::smatch& e) {
         Parts values('[');
         std::string prefix;
-        eachMatch(e[1], R"((\w+) = (-?\d+))", [&](const std::smatch& value) {
+        eachMatch(e[1], R"((\w+) = (-?\w+))", [&](const std::smatch& value) {
             const std::string name = value[1];
             if (prefix.empty()) prefix = name;
             while (name.compare(0, prefix.size(), prefix) != 0 || prefix.back() != '_') prefix.pop_back();
-            values.item(Parts('{').text("name", name).raw("value", value[2]).done());
+            values.item(Parts('{').text("name", name).raw("value", std::to_string(std::stol(value[2], nullptr, 0))).done());
         });
         all.line(Parts('{').text("prefix", prefix).raw("values", values.done()).done());
     });
@@ -107,7 +107,8 @@ std::string arguments(const Member& m) {
             .text("type", p.spelled())
             .text("role", nameOf(p.role))
             .text("direction", p.direction());
-        if (*p.enumeration) one.text("enumeration", p.enumeration);
+        if (*p.enumeration) one.text("enumeration", p.enumeration).raw("usual", number(p.usual));
+        if (*p.count) one.text("count", p.count);
         all.item(one.done());
     }
     return all.done();
@@ -168,6 +169,7 @@ std::string factsOf(const Family& family) {
         .yes("tiles", f.tiles)
         .text("combine", word(f.combine, {"no", "add", "least", "greatest"}))
         .text("rounds", word(f.rounds, {"never", "floats"}))
+        .text("extent", f.extent)
         .yes("cache", f.cache)
         .raw("usual", usual.done())
         .done();

@@ -52,6 +52,7 @@ struct Parameter {
     Role role = Role::number;
     const char* enumeration = "";  // of an option: how the names of its values begin
     double usual = 0;              // a value for everyday
+    const char* count = "";        // in C, how many an array has, a channel: where its type and the layout leave it open
 
     std::string spelled() const;    // the type as C has it: "const uint8_t* const[3]"
     const char* direction() const;  // in, out, inout, work

@@ -47,6 +47,7 @@ struct RoleRow {
     const char* names;
     const char* enumeration = "";
     double usual = 0;
+    const char* count = "";
 };
 constexpr RoleRow roles[] = {
     {Role::image, read, "src src1 src2"},
@@ -96,18 +97,22 @@ constexpr RoleRow roles[] = {
     {Role::number, value, "nBitSize", "", 8},
     {Role::number, value, "channel dstBitOffset srcBitOffset divisor numLobes seed sigma weight xOrder yOrder"},
     {Role::number, value, "B C angle shiftX shiftY xCenter yCenter xShift yShift"},
-    {Role::table, read, "dstOrder nLevels lowerLevel upperLevel pTable coeffs quad"},
-    {Role::table, pointers, "pTables pValues"},
+    {Role::table, read, "dstOrder nLevels lowerLevel upperLevel coeffs quad"},
+    {Role::table, read, "pTable", "", 0, "1 << nBitSize"},
+    {Role::table, pointers, "pTables", "", 0, "1 << nBitSize"},
+    {Role::table, pointers, "pValues", "", 0, "nLevels"},
     {Role::buffer, written, "buffer"},
     {Role::spec, read, "pSpec spec pState"},
     {Role::spec, written, "pSpec spec pState pSrcDstState"},
     {Role::initBuffer, written, "initBuf"},
     {Role::kernel, read, "pKernel"},
     {Role::result, written,
-     "value sum mean pMin pMax pIndexX pIndexY pCounts pThreshold pDp pHist pHu pQuality pValue"},
-    {Role::result, written, "stepOut pBufferSize bufSize pSize pSpecSize specSize pStateSize initBufSize borderSize"},
+     "value sum mean pMin pMax pIndexX pIndexY pCounts pThreshold pDp pHu pQuality pValue"},
+    {Role::result, written, "stepOut pBufferSize bufSize pSize pSpecSize specSize pStateSize initBufSize"},
+    {Role::result, written, "borderSize", "", 0, "4"},
     {Role::result, written, "srcOffset srcRoi xShift yShift coeffs quad bound"},
-    {Role::result, pointers, "pHist"},
+    {Role::result, written, "pHist", "", 0, "nLevels - 1"},
+    {Role::result, pointers, "pHist", "", 0, "nLevels - 1"},
 };
 bool listed(const char* names, const std::string& name) {
     std::istringstream in(names);
@@ -118,10 +123,10 @@ bool listed(const char* names, const std::string& name) {
 void assignRole(Parameter& p, const std::string& member) {
     const Form form = p.planes ? pointers : !p.pointer ? value : p.written ? written : read;
     if (form == pointers && p.name == "pLevels")  // given, or asked for
-        return void(p.role = p.written ? Role::result : Role::table);
+        return void((p.role = p.written ? Role::result : Role::table, p.count = "nLevels"));
     for (const RoleRow& row : roles)
         if (row.form == form && listed(row.names, p.name)) {
-            p.role = row.role, p.enumeration = row.enumeration, p.usual = row.usual;
+            p.role = row.role, p.enumeration = row.enumeration, p.usual = row.usual, p.count = row.count;
             return;
         }
     throw std::runtime_error(member + ": its argument " + p.declaration + " has no role in tools/names.cpp");

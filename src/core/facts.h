@@ -84,6 +84,7 @@ struct Facts {
     bool tiles = true;  // give the bits of the whole
     Combine combine = Combine::no;
     Rounds rounds = Rounds::never;
+    const char* extent = "";    // "width, height" of the destination in C, where they are not those of the source
     bool cache = false;         // asks for its size when a call moves much
     bool bulk = false;          // has code of its own for large regions
     List<Usual, 4> usual = {};  // arguments whose usual value is not that of their name

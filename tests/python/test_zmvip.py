@@ -1,0 +1,304 @@
+"""The Python package against the functions of the library as they are in C, and against NumPy where that is an oracle."""
+import ctypes
+import itertools
+import mmap
+import pickle
+import random
+import sys
+import threading
+import unittest
+import warnings
+
+import numpy as np
+import zmvip
+from zmvip import _api, raw
+from zmvip._arrays import C_DTYPES, DTYPES
+
+W, H = 23, 17
+PAGE = mmap.PAGESIZE
+LIBC = ctypes.CDLL(None)
+# Everyday values of parameters that may be anything, but not what they are of their kind.
+USUAL = {"mask_size": 3, "block_size": 4, "window_size": 3, "kernel": np.arange(9).reshape(3, 3), "levels": [0, 60, 200, 256],
+         "values": [250, 10, 90, 30], "lower_level": 0, "upper_level": 256, "n_levels": 9, "n_bit_size": 8, "table": None,
+         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "size": (30, 19), "dst_order": None}
+BY_ROLE = {"constant": 5, "number": 1, "size": 3, "option": 0}
+
+
+def guarded(array, at_end=True):
+    """The same array between two pages that nobody may read, flush against one of them."""
+    size = -(-max(array.nbytes, 1) // PAGE) * PAGE
+    memory = mmap.mmap(-1, size + 2 * PAGE)
+    start = np.frombuffer(memory, np.uint8).ctypes.data
+    for page in (start, start + PAGE + size):
+        LIBC.mprotect(ctypes.c_void_p(page), ctypes.c_size_t(PAGE), 0)
+    offset = PAGE + (size - array.nbytes if at_end else 0)
+    found = np.frombuffer(memory, array.dtype, array.size, offset).reshape(array.shape)
+    found[...] = array
+    return found
+
+
+def views(image):
+    """The same pixels in memory of other kinds."""
+    h, w = image.shape[:2]
+    padded = np.zeros((h, w + 5, *image.shape[2:]), image.dtype)
+    padded[:, :w] = image
+    around = np.zeros((h + 4, w + 7, *image.shape[2:]), image.dtype)
+    around[2:2 + h, 3:3 + w] = image
+    yield "padded", padded[:, :w]
+    yield "cropped", around[2:2 + h, 3:3 + w]
+    yield "upside down", np.ascontiguousarray(image[::-1])[::-1]
+    yield "mirrored", np.ascontiguousarray(image[:, ::-1])[:, ::-1]
+    yield "transposed", np.ascontiguousarray(image.swapaxes(0, 1)).swapaxes(0, 1)
+    yield "of foreign bytes", image.astype(image.dtype.newbyteorder())
+    yield "unreadable before", guarded(image, False)
+    yield "unreadable behind", guarded(image)
+
+
+def pixels(code, layout, w=W, h=H, seed=0):
+    rng, dtype = np.random.default_rng(seed), DTYPES[code]
+    n = int(layout[-1])
+    shape = (n, h, w) if "P" in layout else (h, w) if n == 1 else (h, w, n)
+    if dtype.kind in "iu":
+        values = rng.integers(0 if dtype.kind == "u" else -100, 250 if dtype.itemsize > 1 else 100, shape).astype(dtype)
+    else:
+        values = (rng.random(shape) * 250 + 1).astype(dtype)
+    return tuple(values) if "P" in layout else values
+
+
+def each(f, image):
+    return tuple(map(f, image)) if isinstance(image, tuple) else f(image)
+
+
+def flat(result):
+    """All arrays and numbers of a result."""
+    return [x for r in result for x in flat(r)] if isinstance(result, tuple) else [np.asarray(result)]
+
+
+def same(one, two):
+    one, two = flat(one), flat(two)
+    return len(one) == len(two) and all(a.shape == b.shape and (a.tobytes() if a.ndim else repr(a.item())) ==
+                                        (b.tobytes() if b.ndim else repr(b.item())) for a, b in zip(one, two))
+
+
+class Case:
+    """A member: the function that calls it, and everyday arguments."""
+
+    def __init__(self, name, part, m):
+        self.function, self.engine, self.m = getattr(zmvip, name), getattr(zmvip, name).engine, m
+        self.family, self.constant, self.makers, _ = part
+        names = m.reads + m.changes
+        self.images = {n: pixels(m.source, m.from_, seed=i) for i, n in enumerate(names)}
+        if self.engine.images == 2 and len(names) == 2 and m.facts["place"] == "second" and any(p[1] for p in self.engine.parts):
+            self.images = dict(reversed(self.images.items()))
+        self.keywords, roles = {}, {}
+        makers = [x for f in self.makers[:1] for x in members(f)[:1]]
+        for x in [m, *makers]:
+            roles.update({a.name: a for a in x.arguments})
+        for python, c, default in self.engine.rows[self.engine.images:]:
+            if python == "dtype" and m.source != m.destination:
+                self.keywords["dtype"] = DTYPES[m.destination].name
+            if c not in roles:
+                continue
+            a = roles[c]
+            if a.role == "scale":
+                self.keywords[python] = 1
+            if python == "size" or default == "None" or default is None:
+                self.keywords[python] = self.usual(python, a)
+        self.keywords = {n: v for n, v in self.keywords.items() if v is not None}
+        if self.constant:
+            self.images["b"] = 5
+        if "keep_alpha" in self.engine.keywords and "A" in m.to:
+            self.keywords["keep_alpha"] = True
+        if "layout" in self.engine.keywords and m.to != m.from_:
+            self.keywords["layout"] = m.to.lstrip("A")
+        if m.of_channel:
+            self.keywords["channel"] = 0
+        if "M" in m.letters:
+            self.keywords["mask"] = pixels("8u", "C1", seed=9) > 40
+
+    def usual(self, python, a):
+        if a.role == "map":
+            return np.add.outer(np.arange(19), np.arange(30)).astype(DTYPES["64f" if "double" in a.type else "32f"]) / 3
+        if python in ("table", "tables"):
+            return np.arange(256 * (3 if "24u" in self.m.name else 1)) % 256
+        if python == "dst_order":
+            return [2, 0, 1, 3][:int(self.m.to[-1]) if self.m.to != "AC4" else 3]
+        if python in USUAL:
+            return USUAL[python]
+        if a.role in ("rectangle", "point", "border value"):
+            return None
+        return BY_ROLE.get(a.role, 1)
+
+    def out(self):
+        """Memory for the results, with something in it."""
+        found = [pixels(self.m.destination, self.layout(), *self.extent, seed=7) for _ in self.m.writes or self.m.changes]
+        return tuple(found) if len(found) > 1 else found[0]
+
+    def layout(self):
+        return "C3" if "24u" in self.m.name else self.m.to
+
+    @property
+    def extent(self):
+        sized = flat(self.call())[0] if self.m.reads + self.m.changes else np.empty((H, W))
+        return sized.shape[1::-1]
+
+    def call(self, images=None, **keywords):
+        return self.function(*(images or self.images.values()), **{**self.keywords, **keywords})
+
+    def raw(self, out):
+        """The function in C, its arguments made here: only where no object is needed and the size is that of the source."""
+        m, values, last, results = self.m, [], None, []
+        images = {**self.images, **dict(zip(m.writes or m.changes, [out]))}
+        if "mask" in self.keywords:
+            images["mask"] = self.keywords["mask"].view(np.uint8)
+        for a in m.arguments:
+            said = self.keywords.get(self.engine.called(a.name))
+            if a.role in ("image", "planes", "mask"):
+                last = images[a.name]
+                values.append((ctypes.c_void_p * len(last))(*(p.ctypes.data for p in last)) if isinstance(last, tuple)
+                              else last.ctypes)
+            elif a.role == "step":
+                values.append((last[0] if isinstance(last, tuple) else last).strides[0])
+            elif a.role == "size":
+                w, h = (W, H) if said is None else said if isinstance(said, tuple) else (said, said)
+                values.append(getattr(raw, a.type)(w, h) if a.type.startswith("Image") else w)
+            elif a.role == "point":
+                values.append(raw.ImagePoint(1, 1) if a.type == "ImagePoint" else 1)
+            elif a.role == "buffer":
+                values.append(ctypes.create_string_buffer(1 << 20))
+            elif a.role == "result":
+                results.append(np.zeros(4 if m.from_[-1] != "1" else (), C_DTYPES[a.type.rstrip("*")]))
+                values.append(results[-1].ctypes)
+            elif a.role == "border value":
+                values.append(None if "*" in a.type else 0)
+            elif a.role in ("option", "border"):
+                words = _api.ENUMERATIONS.get(a.enumeration, {})
+                default = self.engine.named[a.name][1] if a.name in self.engine.named else 0
+                values.append(words.get(default, default))
+            else:
+                number = said if said is not None else 5
+                values.append(np.resize(number, 256).astype(C_DTYPES[a.type.split()[1].rstrip("*")]).ctypes
+                              if "*" in a.type else number)
+        assert getattr(raw, m.name)(*values) >= 0, m.name
+        used = 3 if m.from_ == "AC4" else int(m.from_[-1])
+        results = tuple(r if r.ndim == 0 else r[:used] for r in results)
+        return out if m.writes or m.changes else results if len(results) > 1 else results[0]
+
+
+from zmvip._call import members  # noqa: E402
+
+
+def cases(wanted=lambda m: True):
+    for name, (_, _, _, parts) in _api.FUNCTIONS.items():
+        for part in parts:
+            for m in members(part[0]):
+                if (m.reads or m.writes or m.changes) and not m.large and not m.changes and wanted(m) and not (
+                        {"1u", "16sc", "32sc"} & {m.source, m.destination}):
+                    yield Case(name, part, m)
+
+
+def needs_inside(case):
+    """Whether neighbours have to lie in the image: then a roi does too."""
+    return case.m.facts["reach"] in ("anchor", "radius", "fixed") and not case.m.has("border") and not case.m.facts["extent"]
+
+
+class Families(unittest.TestCase):
+    """Every member: in all kinds of memory, in place, by regions, in tiles."""
+
+    def test_members_are_chosen(self):
+        for case in cases():
+            with self.subTest(case.m.name):
+                roi = {"roi": (2, 2, 9, 8)} if needs_inside(case) else {}
+                out = {"out": pixels(case.m.to and case.m.destination, case.m.to)} if not case.m.reads else {}
+                plan = case.engine.plan(tuple(case.images.values()), {**case.keywords, **roi, **out})
+                self.assertEqual(plan.member.name, case.m.name)
+
+    def test_raw(self):
+        plain = lambda m: not (m.has("spec object") or m.has("table") or m.has("map") or m.facts["extent"] or
+                               m.has("dstRoiSize") or m.has("dstOffset") or m.facts["reach"] == "query")
+        for case in cases(plain):
+            with self.subTest(case.m.name):
+                if case.m.writes:
+                    inside = needs_inside(case)
+                    out, expected = case.out() if not inside else pixels(case.m.destination, case.m.to, seed=7), None
+                    if inside:
+                        whole, part = (W, H), (slice(2, H - 2), slice(2, W - 2))
+                        images = {n: np.pad(i, [(2, 2), (2, 2)] + [(0, 0)] * (i.ndim - 2), "edge") for n, i in case.images.items()}
+                        found = case.call(images.values(), roi=(2, 2, W, H))
+                        case.images = {n: i[2:-2, 2:-2] for n, i in images.items()}
+                        expected = case.raw(np.zeros_like(out))
+                        self.assertTrue(same(found, expected))
+                        continue
+                    expected = case.raw(each(np.copy, out))
+                    self.assertTrue(same(case.call(out=each(np.copy, out)), expected))
+                else:
+                    self.assertTrue(same(case.call(), case.raw(None)))
+
+    def test_views(self):
+        for case in cases():
+            with self.subTest(case.m.name):
+                roi = {"roi": (2, 3, W - 7, H - 5)} if needs_inside(case) else {}
+                given = {} if case.m.reads else {"out": np.zeros_like(case.out())}
+                expected = case.call(**roi, **given)
+                for kind, view in self.views(case.images):
+                    if view:
+                        self.assertTrue(same(case.call(view, **roi, **given), expected), kind)
+                if case.m.writes and len(case.m.writes) == 1:
+                    for kind, out in views(flat(expected)[0]) if not isinstance(expected, tuple) else ():
+                        before = flat(expected)[0] * 0 if not (case.m.of_channel or "M" in case.m.letters) else out.copy()
+                        if kind in ("mirrored", "transposed") or not out.dtype.isnative:
+                            with self.assertRaisesRegex(ValueError, "strides"):
+                                case.call(out=out, **roi)
+                        elif kind != "upside down":
+                            self.assertIs(case.call(out=out, **roi), out)
+                            self.assertTrue(case.m.of_channel or "M" in case.m.letters or "A" in case.m.to or same(out, expected), kind)
+
+    @staticmethod
+    def views(images):
+        pixels = [i for i in images.values() if not isinstance(i, int)]
+        for found in zip(*(zip(*(views(p) for p in i)) if isinstance(i, tuple) else views(i) for i in pixels)):
+            if isinstance(found[0][0], tuple):
+                yield found[0][0][0], [tuple(v for _, v in f) for f in found] + [i for i in images.values() if isinstance(i, int)]
+            else:
+                yield found[0][0], [v for _, v in found] + [i for i in images.values() if isinstance(i, int)]
+
+    def test_overlap(self):
+        """In place and with other overlap: as from copies."""
+        for case in cases(lambda m: m.writes and m.reads and m.layout_same() and m.source == m.destination):
+            if len(case.m.writes) > 1 or needs_inside(case) or case.extent != (W, H) or "P" in case.m.to:
+                continue
+            for which, shift in itertools.product(range(len(case.m.reads)), (0, 1, -1)):
+                with self.subTest(case.m.name, which=which, shift=shift):
+                    memory = pixels(case.m.source, case.m.from_, W, H + 2, seed=3)
+                    images = list(case.images.values())
+                    if isinstance(images[which], int):
+                        continue
+                    images[which] = memory[1:-1]
+                    out = memory[1 + shift:H + 1 + shift]
+                    expected = case.call([np.copy(i) if not isinstance(i, int) else i for i in images], out=out.copy())
+                    self.assertTrue(same(case.call(images, out=out), expected))
+
+    def test_regions_and_tiles(self):
+        chance = random.Random(1)
+        for case in cases(lambda m: m.reads):
+            with self.subTest(case.m.name):
+                if not case.m.writes or needs_inside(case):
+                    continue
+                whole = case.call()
+                w, h = case.extent
+                for _ in range(3):
+                    x, y = chance.randrange(w), chance.randrange(h)
+                    roi = x, y, chance.randint(1, w - x), chance.randint(1, h - y)
+                    cut = lambda image: each(cut, image) if isinstance(image, tuple) else image[y:y + roi[3], x:x + roi[2]]
+                    self.assertTrue(same(case.call(roi=roi), cut(whole)), roi)
+
+
+def layout_same(m):
+    return m.from_ == m.to
+
+
+type(next(cases()).m).layout_same = layout_same
+
+if __name__ == "__main__":
+    warnings.simplefilter("ignore", zmvip.StatusWarning)
+    unittest.main(argv=sys.argv, warnings="ignore")

@@ -1,0 +1,355 @@
+#!/usr/bin/python3
+"""Prints what the Python package has of the library: tools/python.py api.json FOLDER writes _api.py (members, facts and
+the functions that are made of them), _docs.py, __init__.pyi and raw.pyi.  Nothing here knows a family: what it does not
+find in the roles and facts of api.json stays with zmvip.raw."""
+import json
+import keyword
+import re
+import sys
+from pathlib import Path
+
+# Arguments that the package works out by itself: by role, or by a name that stands for one thing in all families.
+IMPLIED_ROLES = {"image", "planes", "step", "buffer", "spec object", "init buffer", "result", "mask"}
+IMPLIED = {"roiSize", "srcRoiSize", "srcSize", "src1Size", "src2Size", "width", "height", "roiWidth", "dstTileSize",
+           "dstOffset", "roiOffset", "numChannels", "nLevels"}
+RENAMED = {"scaleFactor": "scale", "borderType": "border", "dstRoiSize": "size", "dstSize": "size"}
+WORDS = {"repl": "replicate", "const": "constant"}  # words of enumerations that are short in C
+TYPES = {"8u": "uint8", "8s": "int8", "16u": "uint16", "16s": "int16", "32u": "uint32", "32s": "int32", "64s": "int64",
+         "64u": "uint64", "32f": "float32", "64f": "float64", "32fc": "complex64"}
+LAYOUT = re.compile(r"A?[CP]\d")
+
+
+def snake(name):
+    """pIndexX and LUTPalette as index_x and lut_palette."""
+    name = re.sub(r"^p(?=[A-Z])", "", name)
+    name = re.sub(r"([A-Z]+)([A-Z][a-z])", r"\1_\2", re.sub(r"([a-z0-9])([A-Z])", r"\1_\2", name))
+    name = re.sub(r"_+", "_", name).lower()
+    return name + "_" if keyword.iskeyword(name) else name
+
+
+def argument_name(name):
+    return RENAMED.get(name) or snake(name)
+
+
+def implied(argument, siblings):
+    name = argument["name"]
+    if name == "nLevels":  # the lengths of the levels, where there are any
+        return any(a["name"] == "pLevels" for a in siblings)
+    if name == "kernelSize":
+        return any(a["role"] == "kernel" for a in siblings)
+    return argument["role"] in IMPLIED_ROLES or name in IMPLIED or argument.get("enumeration") == "DATATYPE_"
+
+
+def parameters(arguments):
+    """What a user of these arguments says: (Python's name, C's name, default), the default None if there is none."""
+    found = []
+    if not {a["role"] for a in arguments} & {"image", "planes", "spec object"}:  # a service: nothing to take it from
+        return [(argument_name(a["name"]), a["name"], None) for a in arguments if a["role"] != "result"]
+    sized = any(a["role"] in ("size", "map") and re.match(r"src\w*Size", a["name"]) or a["role"] == "map"
+                for a in arguments)
+    for a in arguments:
+        if implied(a, arguments) or (RENAMED.get(a["name"]) == "size" and
+                                     (not sized or any(b["role"] == "map" for b in arguments))):
+            continue
+        default = None
+        if a["role"] in ("scale", "option", "border"):
+            default = repr(word_of(a))
+        elif a["role"] in ("border value", "rectangle") or a["name"] in ("anchor", "dstRoiSize", "dstSize"):
+            default = "None"
+        found.append((argument_name(a["name"]), a["name"], default))
+    return found
+
+
+def word_of(argument):
+    value = argument.get("usual", 0)
+    return next((w for w, v in ENUMERATIONS.get(argument.get("enumeration"), {}).items() if v == value), value)
+
+
+def read_enumerations(api):
+    table = {}
+    for e in api["enumerations"]:
+        words = table.setdefault(e["prefix"], {})
+        for v in e["values"]:
+            word = v["name"][len(e["prefix"]):].lower()
+            words[WORDS.get(word, word)] = v["value"]
+    return table
+
+
+class Member:
+    """A member, and what its name says in Python's words."""
+
+    def __init__(self, json_member):
+        self.name, self.result = json_member["name"], json_member["result"]
+        self.arguments, self.letters, self.large = (json_member[k] for k in ("arguments", "letters", "large"))
+        types = json_member["types"] or [""]
+        layouts = LAYOUT.findall(json_member["layout"]) or [""]
+        self.source, self.destination = types[0], types[-1]
+        self.layouts = layouts[0], "C3" if "24u" in self.name else layouts[-1]
+
+    def row(self, shapes):
+        shape = tuple((a["name"], a["type"], a["role"], a["direction"], a.get("enumeration", ""), a.get("count", ""))
+                      for a in self.arguments)
+        return (self.name, shapes.setdefault(shape, len(shapes)), self.source, self.destination, *self.layouts,
+                self.letters, self.large, self.result)
+
+
+class Family:
+    def __init__(self, json_family):
+        self.name, self.facts, self.banner = (json_family[k] for k in ("name", "facts", "banner"))
+        self.page = json_family["page"]
+        self.members = [Member(m) for m in json_family["members"]]
+
+    def roles(self):
+        return {a["role"] for m in self.members for a in m.arguments}
+
+    def specs(self, direction):
+        return any(a["role"] == "spec object" and (a["direction"] == "in") == (direction == "in")
+                   for m in self.members for a in m.arguments)
+
+    def images(self):
+        return max((sum(a["role"] in ("image", "planes") and a["direction"] != "out" for a in m.arguments)
+                    for m in self.members), default=0)
+
+    def callable(self):
+        """Whether calls can be made from roles and facts alone."""
+        roles, facts = self.roles(), self.facts
+        if any(m.result != "StatusCode" or not m.arguments for m in self.members):
+            return False
+        if not roles & {"image", "planes"}:  # a service that computes something
+            return not roles & {"spec object", "buffer", "init buffer"} and not re.search(r"Size$", self.name)
+        if self.specs("out") or (roles & {"spec object"} and not facts["init"]):
+            return False
+        if facts["reach"] in ("radius", "fixed") and "border" not in roles and not facts["extent"]:
+            words = [w for a in self.members[0].arguments for w in ENUMERATIONS.get(a.get("enumeration"), {})]
+            return bool(re.search(r"\dx\d", " ".join(words + [self.name]).lower()))
+        told = {a["name"] for m in self.members for a in m.arguments if a["role"] == "size"}
+        return bool(facts["extent"] or told & {"roiSize", "dstRoiSize", "dstSize", "dstTileSize"})
+
+    def offered(self):
+        return [m for m in self.members if not {"1u", "16sc", "32sc"} & {m.source, m.destination} and
+                not any(a["role"] == "step" and "[" in a["type"] for a in m.arguments)]
+
+
+def makers(family, families):
+    """The initialisers that serve a family, with the part of their names that tells them apart, and the setters."""
+    if not family.facts["init"]:
+        return [], []
+    query = next(f for f in families if f.name == family.facts["init"]).facts["query"]
+    stem = family.name.rstrip("_") if query != family.facts["query"] else family.name
+    found = [f for f in families if f.specs("out") and not f.roles() & {"image", "planes"} and f.facts["query"] == query
+             and f.name.startswith(stem)]
+    names = {f.name for f in found}
+    setters = [f for f in families if f.specs("out") and not f.roles() & {"image", "planes"} and not f.facts["query"]
+               and f.name not in names and f.page == family.page and f.facts["init"]]
+    return found, setters
+
+
+def groups(families):
+    """One name a family: image and constant forms together, with the border or without."""
+    named = {f.name: f for f in families}
+    found = {}
+    for f in families:
+        if not f.callable() or not f.offered():
+            continue
+        shorter = (f.name[:c.start()] + f.name[c.end():] for c in re.finditer(r"C(?=[A-Z]|$)", f.name))
+        whole = next((named[n] for n in shorter if n in named), None)
+        constant = bool(whole and f.images() == 1 and whole.images() == 2)
+        name = (whole if constant else f).name.removeprefix("zmvi")
+        if "border" in f.roles():
+            name = name.replace("Border", "")
+        found.setdefault(snake(name), []).append((f, constant))
+    return found
+
+
+def signature(parts, families):
+    """Names of images and the other parameters of a group: (Python's name, names in C, default or None)."""
+    images = max(f.images() for f, _ in parts)
+    everywhere, params = None, {}
+    for f, constant in parts:
+        inits, setters = makers(f, families)
+        forms = [parameters(m.arguments) for m in f.offered()]
+        forms = [form + parameters(i.members[0].arguments) for form in forms for i in inits] if inits else forms
+        extra = [p for s in setters for p in parameters(s.members[0].arguments)]
+        for form in forms:
+            form = [p for p in form if not (constant and p[1] == "value")]
+            for python, c, default in form:
+                params.setdefault(python, (c, default))
+            required = {p[0] for p in form if p[2] is None}
+            everywhere = required if everywhere is None else everywhere & required
+        for python, c, default in extra:
+            params.setdefault(python, (c, "None"))
+    targets = {}
+    for f, _ in parts:
+        for m in f.offered():
+            targets.setdefault(m.source, set()).add(m.destination)
+    names = ["img"] if images == 1 else ["a", "b", "c", "d"][:images]
+    rows = [(n, "", None) for n in names]
+    rows += [(n, c, None) for n, (c, d) in params.items() if d is None and n in everywhere]
+    if any(len(t) > 1 for t in targets.values()):
+        rows.append(("dtype", "", "None"))
+    rows += sorted(((n, c, d or "None") for n, (c, d) in params.items() if not (d is None and n in everywhere)),
+                   key=lambda row: row[0] != "size")
+    return len(names), rows
+
+
+def keywords(parts):
+    """Keywords that go with images."""
+    members = [m for f, _ in parts for m in f.offered()]
+    roles = set.union(*(f.roles() for f, _ in parts))
+    if not roles & {"image", "planes"}:
+        return []
+    writes = any(a["role"] in ("image", "planes") and a["direction"] != "in" for m in members for a in m.arguments)
+    layouts = {}
+    for m in members:
+        layouts.setdefault(m.layouts[0], set()).add(m.layouts[1])
+    return ([("out", "None")] if writes else []) + [("roi", "None")] + \
+        ([("mask", "None")] if "mask" in roles else []) + \
+        ([("channel", "None")] if any(m.letters.startswith("C") for m in members) else []) + \
+        ([("layout", "None")] if any(len(t) > 1 for t in layouts.values()) else []) + \
+        ([("keep_alpha", "False")] if any("A" in m.layouts[0] + m.layouts[1] for m in members) else []) + \
+        ([("spec", "None")] if "spec object" in roles else [])
+
+
+def class_name(parts):
+    return parts[0][0].name.removeprefix("zmvi").replace("Border", "").replace("_", "")
+
+
+def python_expression(text):
+    """An expression in C as one in Python."""
+    text = re.sub(r"^(.*?) \? (.*?) : (.*)$", r"(\2) if (\1) else (\3)", text.strip())
+    return text.replace("/", "//")
+
+
+def print_table(api, families, found):
+    shapes, lines = {}, []
+    rows = {f.name: [m.row(shapes) for m in f.members] for f in families}
+    facts = {f.name: {k: f.facts[k] for k in ("steps", "freeSteps", "place", "query", "init", "reach", "tiles", "combine")} |
+             {"extent": tuple(map(python_expression, f.facts["extent"].split(","))) if f.facts["extent"] else (),
+              "refusals": [(r["status"], r["arguments"], r["condition"]) for r in f.facts["refusals"]],
+              "warnings": [(w["status"], w["condition"]) for w in f.facts["warnings"]], "page": f.page}
+             for f in families}
+    table = {}
+    for name, parts in found.items():
+        images, rows_of = signature(parts, families)
+        table[name] = (images, tuple(rows_of), tuple(keywords(parts)),
+                       tuple((f.name, constant, tuple(i.name for i in makers(f, families)[0]),
+                              tuple(s.name for s in makers(f, families)[1])) for f, constant in parts))
+    specs = {class_name(p): n for n, p in found.items() if any(f.facts["init"] for f, _ in p)}
+    lines.append('"""What the library has; printed by tools/python.py from api.json."""')
+    lines.append(f"VERSION = {api['version']['text']!r}")
+    lines.append(f"STATUSES = {({s['value']: (s['name'], s['sentence']) for s in api['statuses']})!r}")
+    constants = {v["name"]: v["value"] for e in api["enumerations"] for v in e["values"]}
+    lines.append(f"CONSTANTS = {constants!r}")
+    lines.append(f"ENUMERATIONS = {ENUMERATIONS!r}")
+    lines.append(f"STRUCTS = {({s['name']: [(x['name'], x['type']) for x in s['fields']] for s in api['structs']})!r}")
+    lines.append("SHAPES = (" + "".join(f"\n    {s!r}," for s in shapes) + ")")
+    lines.append("FAMILIES = {" + "".join(f"\n    {n!r}: {tuple(r)!r}," for n, r in rows.items()) + "}")
+    lines.append("FACTS = {" + "".join(f"\n    {n!r}: {f!r}," for n, f in facts.items()) + "}")
+    lines.append("FUNCTIONS = {" + "".join(f"\n    {n!r}: {f!r}," for n, f in table.items()) + "}")
+    lines.append(f"SPECS = {specs!r}")
+    return "\n".join(lines) + "\n", table
+
+
+def forms(f):
+    """The members of a family in Python's words: one line for each set of layouts."""
+    by_types = {}
+    for m in f.offered():
+        source, to = m.layouts
+        words = source + ("" if source == to else " to " + to) + (" in place" if "I" in m.letters else "") + \
+            (" with mask" if "M" in m.letters else "") + (" of a channel" if m.letters.startswith("C") else "")
+        types = TYPES.get(m.source, m.source) + ("" if m.source == m.destination else " to " + TYPES[m.destination])
+        if types:
+            by_types.setdefault(words.strip(), {}).setdefault(types, 0)
+    by_list = {}
+    for layout, types in by_types.items():
+        by_list.setdefault(", ".join(types), []).append(layout)
+    return [f"  {', '.join(layouts)}: {types}" for types, layouts in by_list.items()]
+
+
+def documentation(parts, found, families):
+    blocks = []
+    for f, constant in parts:
+        lines = [f"{f.name}{' (a constant in place of the second image)' if constant else ''}: {f.banner}"]
+        inits, setters = makers(f, families)
+        lines += [f"{i.name}: {i.banner}" for i in inits + setters]
+        lines += ["Layouts and types:"] + forms(f) if any(m.layouts[0] for m in f.members) else []
+        blocks.append("\n".join(lines))
+    return "\n\n".join(blocks)
+
+
+def annotation(name, c, parts, families):
+    arguments = [a for f, _ in parts for g in [f, *makers(f, families)[0], *makers(f, families)[1]]
+                 for m in g.members for a in m.arguments if a["name"] == c]
+    role = arguments[0]["role"] if arguments else ""
+    if name == "dtype":
+        return "DTypeLike"
+    if role in ("option", "border"):
+        words = list(ENUMERATIONS.get(arguments[0].get("enumeration"), {}))
+        return ("Literal[" + ", ".join(f'"{w}"' for w in words) + "] | str | int") if words else "int"
+    if role == "size":
+        return "int | tuple[int, int]"
+    if role in ("constant", "border value"):
+        return "Constant"
+    return {"scale": "int", "point": "int | tuple[int, int]", "rectangle": "tuple[int, int, int, int]",
+            "number": "float" if re.search("float|double", arguments[0]["type"]) else "int"}.get(role, "ArrayLike") \
+        if role else "Image"
+
+
+def print_stubs(table, found, families):
+    lines = ['"""Printed by tools/python.py from api.json."""', "from typing import Any, Callable, Literal, NamedTuple",
+             "from numpy import ndarray", "from numpy.typing import ArrayLike, DTypeLike", "from . import raw as raw",
+             "Image = ArrayLike | tuple[ndarray, ...]", "Constant = float | tuple[float, ...] | list[float] | ndarray",
+             "Out = ndarray | tuple[ndarray, ...] | None", "Roi = tuple[int, int, int, int] | None",
+             "class Error(ValueError):", "    function: str", "    arguments: tuple[str, ...]", "    condition: str",
+             "    status: int", "    name: str", "class StatusWarning(UserWarning): ...", "__version__: str",
+             "def parallel(function: Callable[..., Any], *args: Any, threads: int | None = None,",
+             "             tile: tuple[int, int] = (1024, 1024), **keywords: Any) -> Any: ..."]
+    for name, (images, rows, extras, _) in table.items():
+        parts = found[name]
+        joined = any(constant for _, constant in parts)
+        named = []
+        for i, (python, c, default) in enumerate(rows):
+            kind = annotation(python, c, parts, families)
+            kind = "Image | Constant" if joined and i == 1 else kind
+            optional = " | None" if default == "None" else ""
+            named.append(f"{python}: {kind}{optional}" + (f" = {default}" if default is not None else ""))
+        kinds = {"out": "Out", "roi": "Roi", "mask": "ndarray | None", "channel": "int | None", "layout": "str | None",
+                 "keep_alpha": "bool", "spec": "Any"}
+        named += (["*"] if extras else []) + [f"{n}: {kinds[n]} = {d}" for n, d in extras]
+        lines.append(f"def {name}({', '.join(named)}) -> Any: ...")
+        if any(f.facts["init"] for f, _ in parts):
+            own = [n for n in named[images:] if not n.startswith(("*", "out:", "roi:", "spec:", "layout:"))]
+            lines += [f"class {class_name(parts)}:", f"    def __init__(self, {', '.join(own)}) -> None: ...",
+                      "    def __call__(self, *args: Any, **keywords: Any) -> Any: ..."]
+    return "\n".join(lines) + "\n"
+
+
+def print_raw(families):
+    lines = ['"""Printed by tools/python.py from api.json."""', "from typing import Any", "from ctypes import Structure"]
+    for f in families:
+        for m in f.members:
+            kinds = [a["name"] + ": " + ("float" if a["type"] in ("float", "double") else "int" if re.fullmatch(r"u?int\d*(_t)?", a["type"])
+                                         else "Any") for a in m.arguments]
+            lines.append(f"def {m.name}({', '.join(kinds)}) -> {'int' if m.result == 'StatusCode' else 'Any'}: ...")
+    return "\n".join(lines) + "\n"
+
+
+def main(source, folder):
+    global ENUMERATIONS
+    api = json.loads(Path(source).read_text())
+    ENUMERATIONS = read_enumerations(api)
+    families = [Family(f) for f in api["families"]]
+    found = groups(families)
+    text, table = print_table(api, families, found)
+    folder = Path(folder)
+    docs = {name: documentation(parts, found, families) for name, parts in found.items()}
+    (folder / "_api.py").write_text(text)
+    (folder / "_docs.py").write_text('"""Printed by tools/python.py from api.json."""\n'
+                                     "TEXTS = {" + "".join(f"\n    {n!r}: {d!r}," for n, d in docs.items()) + "}\n")
+    (folder / "__init__.pyi").write_text(print_stubs(table, found, families))
+    (folder / "raw.pyi").write_text(print_raw(families))
+    (folder / "py.typed").write_text("")
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
