@@ -167,7 +167,7 @@ std::string factsOf(const Family& family) {
         .text("init", f.init)
         .text("reach", word(f.reach, {"none", "anchor", "radius", "fixed", "query", "whole"}))
         .yes("tiles", f.tiles)
-        .text("combine", word(f.combine, {"no", "add", "least", "greatest"}))
+        .text("combine", word(f.combine, {"no", "add", "least", "greatest", "addIntegers", "extremes"}))
         .text("rounds", word(f.rounds, {"never", "floats"}))
         .text("extent", f.extent)
         .yes("cache", f.cache)

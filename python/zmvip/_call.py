@@ -90,12 +90,10 @@ class Call:
 
     def makes(self, maker):
         """How many arguments of the user's an initialiser takes, -1 if one of its own is missing."""
-        named, rows = self.function.named, members(maker)
-        names = {a.name for a in rows[0].arguments if a.name in named and a.role != "size"} - (
-            {"nLevels"} if rows[0].has("pLevels") else set())
+        names = self.function.makes_of(maker)
         if any(self.value(n) is None for n in names):
             return -1
-        return sum(named[n][0] in self.params for n in names)
+        return sum(self.function.called(n) in self.params for n in names)
 
     def value(self, c_name):
         """What the user said of an argument by its name in C, or what stands for it."""

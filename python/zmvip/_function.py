@@ -182,13 +182,15 @@ class Function:
                 return f"{call.member.name} takes {python}"
         return None
 
+    def makes_of(self, maker):
+        """What a user says of the arguments of an initialiser, but sizes, which images have; by names in C."""
+        m = members(maker)[0]
+        return [a.name for a in m.arguments if a.name in self.named and a.role != "size" and
+                not (a.name == "nLevels" and m.has("pLevels"))]
+
     def made_of(self):
-        found = []
-        for _, _, makers, _ in self.parts:
-            for m in makers:
-                found.append(", ".join(dict.fromkeys(self.named[a.name][0] for a in members(m)[0].arguments
-                                                     if a.name in self.named)))
-        return "; or ".join(found)
+        makers = dict.fromkeys(maker for part in self.parts for maker in part[2])
+        return "; or ".join(", ".join(map(self.called, self.makes_of(maker))) for maker in makers)
 
     def none(self, first, options, given, wanted):
         """Why no member takes these arrays, and what there is."""

@@ -46,8 +46,8 @@ class Plan:
         if call.sliced():
             for n, p in call.pictures.items():
                 if n not in m.writes and (p.width, p.height) != call.whole:
-                    raise ValueError(f"{self.function.name}: {p.name} is {p.width} x {p.height} pixels, not "
-                                     f"{call.whole[0]} x {call.whole[1]}")
+                    sizes = ", ".join(f"{q.name} is {q.width} x {q.height}" for k, q in call.pictures.items() if k not in m.writes)
+                    raise ValueError(f"{self.function.name}: images of different sizes: {sizes} pixels")
         if len({p.layout for n, p in call.pictures.items() if n in m.reads + m.changes}) > 1 or \
                 len({p.code for n, p in call.pictures.items() if n in m.reads + m.changes}) > 1:
             raise TypeError(f"{self.function.name}: images of different types or layouts")
@@ -190,9 +190,7 @@ class Plan:
         for i in self.copies:
             arrays[i] = contiguous(arrays[i])
         if self.fresh:
-            make, shape, dtype, planes, several = self.fresh
-            for _ in range(several):
-                arrays.extend(make((planes, *shape), dtype) if planes else (make(shape, dtype),))
+            self.make(arrays)
         else:
             for indices, _ in self.outs:
                 for i in indices:
@@ -204,6 +202,24 @@ class Plan:
             if overlap(entry, at):
                 return self.together(arrays, at, args, keywords)
         return self.go(arrays, at)
+
+    def room(self, args, keywords):
+        """New memory for the results of the whole, with what calls that are given memory leave as it is."""
+        arrays = []
+        flatten((*args, *keywords.values()), arrays)
+        self.make(arrays)
+        if self.start and self.start[2] == 3:
+            fill(arrays, *self.start, self.region)
+        return self.made(arrays)
+
+    def make(self, arrays):
+        make, shape, dtype, planes, several = self.fresh
+        for _ in range(several):
+            arrays.extend(make((planes, *shape), dtype) if planes else (make(shape, dtype),))
+
+    def made(self, arrays):
+        out = [tuple(arrays[i] for i in indices) if planar else arrays[indices[0]] for indices, planar in self.outs]
+        return self.tuple(*out) if len(out) > 1 else out[0]
 
     def go(self, arrays, at):
         if self.start:
@@ -276,6 +292,15 @@ class Plan:
         found = np.ndarray(array.shape, array.dtype, np.empty(high - low, np.uint8), -low, array.strides)
         found[...] = array
         return found
+
+
+def flatten(values, arrays):
+    """The arrays among arguments, in the order in which a call numbers them."""
+    for v in values:
+        if isinstance(v, np.ndarray):
+            arrays.append(v)
+        elif isinstance(v, (tuple, list)):
+            flatten(v, arrays)
 
 
 def overlap(entry, at):

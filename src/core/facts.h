@@ -67,7 +67,9 @@ enum class Place {
     second,  // the I forms overwrite the second image; out of place dst may be one of the sources
 };
 enum class Reach { none, anchor, radius, fixed, query, whole };  // of the source, round the pixel
-enum class Combine { no, add, least, greatest };                 // how results of parts make that of the whole, exactly
+// How results of parts make that of the whole, exactly; of integers only; the first being the least and the second the
+// greatest.
+enum class Combine { no, add, least, greatest, addIntegers, extremes };
 enum class Rounds { never, floats };                             // as the caller's control word says: of real sources
 
 struct Facts {

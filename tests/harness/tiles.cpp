@@ -67,9 +67,9 @@ std::vector<Slot> tile(Case& c, int64_t x, int64_t y, int64_t w, int64_t h,
 // What the parts' results make together; only a region of nothing else has NaN for its extreme.
 template <class T>
 T joined(Combine how, T a, T b) {
-    if (how == Combine::add) return T(a + b);
+    if (how == Combine::add || how == Combine::addIntegers) return T(a + b);
     if (a != a || b != b) return a != a ? b : a;
-    return how == Combine::least ? std::min(a, b) : std::max(a, b);
+    return how == Combine::least || how == Combine::extremes ? std::min(a, b) : std::max(a, b);
 }
 
 // Calls f for each element of what results go to.
@@ -108,7 +108,9 @@ bool hasTiles(const Member& m) {
     const bool images =
         std::any_of(m.params.begin(), m.params.end(), [](const Parameter& p) { return p.written && isImage(p); });
     const bool inside = facts.reach == Reach::none || hasMaps(m) || (facts.reach == Reach::anchor && !m.inPlace);
-    return m.find(regionOf(m)) && (images ? facts.tiles && inside : facts.combine != Combine::no);
+    const bool combines =
+        facts.combine != Combine::no && (facts.combine != Combine::addIntegers || !catalog::isReal(m.source));
+    return m.find(regionOf(m)) && (images ? facts.tiles && inside : combines);
 }
 
 std::string runTiles(const Member& m, uint64_t seed) {

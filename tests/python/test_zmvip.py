@@ -281,16 +281,129 @@ class Families(unittest.TestCase):
     def test_regions_and_tiles(self):
         chance = random.Random(1)
         for case in cases(lambda m: m.reads):
+            inside = needs_inside(case)
+            region = {"roi": (2, 3, W - 7, H - 5)} if inside else {}
             with self.subTest(case.m.name):
-                if not case.m.writes or needs_inside(case):
+                whole = case.call(**region)
+                tile = chance.randint(1, 9), chance.randint(1, 9)
+                try:
+                    found = zmvip.parallel(case.function, *case.images.values(), threads=2, tile=tile, **case.keywords, **region)
+                except ValueError as error:
+                    self.assertIn("is not worked in tiles", str(error))
+                    self.assertFalse(case.m.writes and case.m.facts["tiles"] and case.m.facts["reach"] != "whole" and
+                                     not case.m.facts["extent"] and not case.m.has("srcRoiSize"))
+                else:
+                    self.assertTrue(same(found, whole), tile)
+                if not case.m.writes or inside:
                     continue
-                whole = case.call()
                 w, h = case.extent
                 for _ in range(3):
                     x, y = chance.randrange(w), chance.randrange(h)
                     roi = x, y, chance.randint(1, w - x), chance.randint(1, h - y)
                     cut = lambda image: each(cut, image) if isinstance(image, tuple) else image[y:y + roi[3], x:x + roi[2]]
                     self.assertTrue(same(case.call(roi=roi), cut(whole)), roi)
+
+
+class Oracles(unittest.TestCase):
+    """Where NumPy computes the same; the objects of telling families."""
+
+    def setUp(self):
+        self.a, self.b = pixels("8u", "C3", seed=1), pixels("8u", "C3", seed=2)
+        self.gray = self.a[..., 0].copy()
+
+    def test_arithmetic(self):
+        a, b = self.a.astype(int), self.b.astype(int)
+        clip = lambda x: np.clip(x, 0, 255).astype(np.uint8)
+        self.assertTrue(same(zmvip.add(self.a, self.b), clip(a + b)))
+        self.assertTrue(same(zmvip.add(self.a, self.b, scale=1), clip(np.rint((a + b) / 2))))
+        self.assertTrue(same(zmvip.sub(self.a, self.b), clip(a - b)))
+        self.assertTrue(same(zmvip.sub(self.a, (1, 2, 3)), clip(a - (1, 2, 3))))
+        self.assertTrue(same(zmvip.sub(self.a, self.b, out=self.b.copy()), clip(a - b)))
+        self.assertTrue(same(zmvip.div(self.a, 3), clip(np.rint(a / 3))))
+        self.assertTrue(same(zmvip.convert(self.a, "float32"), self.a.astype(np.float32)))
+        self.assertTrue(same(zmvip.convert(self.a, dtype=np.uint16), self.a.astype(np.uint16)))
+        self.assertTrue(same(zmvip.transpose(self.a), self.a.swapaxes(0, 1)))
+        self.assertTrue(same(zmvip.mirror(self.a, "diagonal_a"), self.a.swapaxes(0, 1)))
+        self.assertTrue(same(zmvip.copy(self.a, layout="P3"), tuple(np.moveaxis(self.a, 2, 0))))
+        zeros = zmvip.set(0.0, out=np.ones((2, 2), np.float32)), zmvip.set(-0.0, out=np.ones((2, 2), np.float32))
+        self.assertEqual([np.signbit(z).all() for z in zeros], [False, True])
+
+    def test_box(self):
+        image = np.pad(self.a.astype(float), ((2, 2), (1, 1), (0, 0)), "edge")
+        windows = np.lib.stride_tricks.sliding_window_view(image, (5, 3), (0, 1)).mean((-1, -2))
+        self.assertLessEqual(np.abs(zmvip.filter_box(self.a, (3, 5)) - windows).max(), 0.51)
+        constant = zmvip.filter_box(self.a, 3, border="constant", border_value=(1, 2, 3))
+        self.assertTrue(same(constant, zmvip.filter_box(np.pad(self.a, ((1, 1), (1, 1), (0, 0)), constant_values=0)
+                             + np.pad(np.zeros_like(self.a), ((1, 1), (1, 1), (0, 0))) + self.frame((1, 2, 3)), 3)[1:-1, 1:-1]))
+
+    def frame(self, value):
+        found = np.full((H + 2, W + 2, 3), value, np.uint8)
+        found[1:-1, 1:-1] = 0
+        return found
+
+    def test_results(self):
+        self.assertEqual(zmvip.sum(self.gray), self.gray.sum())
+        low, high = zmvip.min_max(self.a)
+        self.assertTrue(same((low, high), (self.a.min((0, 1)), self.a.max((0, 1)))))
+        found = zmvip.max_indx(self.gray)
+        self.assertEqual((found.index_y, found.index_x), np.unravel_index(self.gray.argmax(), self.gray.shape))
+        self.assertEqual(zmvip.sum(self.gray, roi=(3, 4, 5, 6)), self.gray[4:10, 3:8].sum())
+
+    def test_objects(self):
+        levels = [0, 20, 100, 256]
+        kept = zmvip.Histogram(levels=levels)
+        due = np.histogram(self.gray, levels)[0]
+        again = pickle.loads(pickle.dumps(kept))
+        for found in (zmvip.histogram(self.gray, levels), kept(self.gray), again(self.gray), zmvip.parallel(kept, self.gray, tile=5)):
+            self.assertEqual(found.tolist(), due.tolist())
+        uniform = zmvip.histogram(self.a, lower_level=0, upper_level=256, n_levels=9)
+        self.assertEqual([u.tolist() for u in uniform], [np.histogram(self.a[..., c], 8, (0, 256))[0].tolist() for c in range(3)])
+        curve = zmvip.LUT([0, 128, 256], [255, 127, 0], interpolation="linear")
+        exact = np.interp(self.gray, [0, 128, 256], [255, 127, 0])
+        self.assertLessEqual(np.abs(curve(self.gray) - exact).max(), 0.5)
+        found, threads = [None] * 8, []
+        for i in range(8):
+            threads.append(threading.Thread(target=lambda i=i: found.__setitem__(i, curve(self.a))))
+            threads[-1].start()
+        for t in threads:
+            t.join()
+        self.assertTrue(all(same(f, curve(self.a)) for f in found))
+        self.assertIs(pickle.loads(pickle.dumps(zmvip.add)), zmvip.add)
+
+    def test_refusals(self):
+        """Each says who, what and why."""
+        a, gray, locked = self.a, self.gray, self.gray.copy()
+        locked.flags.writeable = False
+        for kind, words, call in (
+                (TypeError, "no member takes complex64", lambda: zmvip.add(gray.astype("c8"), 1)),
+                (TypeError, r"uint8 \(h, w, 4\).*keep_alpha=True", lambda: zmvip.threshold(np.zeros((4, 4, 4), "u1"), 5)),
+                (TypeError, "takes dtype, one of", lambda: zmvip.convert(a)),
+                (TypeError, "takes no mask", lambda: zmvip.add(a, a, mask=gray)),
+                (TypeError, "takes no colour; there are a, b, scale", lambda: zmvip.add(a, a, colour=1)),
+                (TypeError, "img is no image", lambda: zmvip.sum(5)),
+                (TypeError, "takes mask_size", lambda: zmvip.filter_box(a)),
+                (TypeError, "takes no scale", lambda: zmvip.add(gray.astype("f4"), 1, scale=1)),
+                (TypeError, "made of: levels; or lower_level", lambda: zmvip.histogram(gray)),
+                (TypeError, "takes out", lambda: zmvip.set(1)),
+                (ValueError, "different sizes: .*b is 23 x 16", lambda: zmvip.add(gray, gray[1:])),
+                (ValueError, "value: 300 does not fit uint8", lambda: zmvip.add(gray, 300)),
+                (ValueError, "strides .* cannot be written", lambda: zmvip.add(gray, 1, out=np.zeros((H, W * 2), "u1")[:, ::2])),
+                (ValueError, "read-only", lambda: zmvip.add(gray, 1, out=locked)),
+                (ValueError, "out is 5 x 5, the result 23 x 17", lambda: zmvip.add(gray, 1, out=np.zeros((5, 5), "u1"))),
+                (ValueError, "roi .* no part of 23 x 17", lambda: zmvip.add(gray, 1, roi=(20, 0, 9, 9))),
+                (ValueError, r"largest roi is \(1, 0, 21, 17\)", lambda: zmvip.sum_window_row(gray, 3)),
+                (ValueError, "'wrap' is none of replicate, mirror", lambda: zmvip.filter_box(gray, 3, border="wrap")),
+                (ValueError, "not worked in tiles", lambda: zmvip.parallel(zmvip.transpose, gray)),
+                (zmvip.Error, "filter_box: mask_size: width or height .*STATUS_BAD_MASK_SIZE", lambda: zmvip.filter_box(a, 0))):
+            with self.subTest(words), self.assertRaisesRegex(kind, words):
+                call()
+        with self.assertRaises(zmvip.Error) as caught:
+            zmvip.div(gray, 0)
+        self.assertEqual((caught.exception.function, caught.exception.name, caught.exception.member),
+                         ("div", "STATUS_DIV_BY_ZERO", "zmviDivC_8u_C1RSfs"))
+        self.assertEqual(str(pickle.loads(pickle.dumps(caught.exception))), str(caught.exception))
+        with self.assertWarnsRegex(zmvip.StatusWarning, "div: a divisor is zero"):
+            zmvip.div(gray, gray * 0)
 
 
 def layout_same(m):
