@@ -168,7 +168,7 @@ def signature(parts, families):
     for f, constant in parts:
         inits, setters = makers(f, families)
         forms = [parameters(m.arguments) for m in f.offered()]
-        forms = [form + parameters(i.members[0].arguments) for form in forms for i in inits] if inits else forms
+        forms = [form + parameters(m.arguments) for form in forms for i in inits for m in i.members] if inits else forms
         extra = [p for s in setters for p in parameters(s.members[0].arguments)]
         for form in forms:
             form = [p for p in form if not (constant and p[1] == "value")]

@@ -82,15 +82,15 @@ class Call:
         self.kept, self.flags, self.roi = [], 0, None
         self.pictures = pictures  # of the arguments of the member, by their names in C
         self.source = next((pictures[n] for n in member.reads + member.changes if n in pictures), None)
-        self.maker = max((m for m in makers if self.makes(m) >= 0), key=self.makes, default=None)
         self.large = member.large
+        self.maker = max((m for m in makers if self.makes(m) >= 0), key=self.makes, default=None)
         self.whole = None
 
     # What is known of sizes.
 
     def makes(self, maker):
         """How many arguments of the user's an initialiser takes, -1 if one of its own is missing."""
-        names = self.function.makes_of(maker)
+        names = self.function.makes_of(self.pick(maker))
         if any(self.value(n) is None for n in names):
             return -1
         return sum(self.function.called(n) in self.params for n in names)
@@ -237,7 +237,7 @@ class Call:
         rows = [m for m in members(family) if m.large == self.large] or list(members(family))
         code = self.source.code if self.source else ""
         if kernel is not None and any(m.has("kernel") for m in rows):
-            code = "16s" if np.asarray(kernel).dtype.kind in "iub" else "64f" if code == "64f" else "32f"
+            code = code if code.endswith("f") else "16s" if np.asarray(kernel).dtype.kind in "iub" else "32f"
         return next((m for m in rows if m.source == code), None) or next((m for m in rows if not m.source), rows[0])
 
     def serve(self, family):
@@ -326,6 +326,8 @@ class Call:
             return ctype(a.type)(*(number(python, v, "int64_t") for v in value))
         if a.enumeration == "DATATYPE_":
             code = self.member.destination if a.name.startswith("dst") else self.member.source
+            if a.name.startswith("kernel") and self.maker:
+                code = self.pick(self.maker).source
             return _api.ENUMERATIONS["DATATYPE_"].get(code, 0)
         if a.name == "numChannels":
             counts = next((b for b in of.arguments if b.name == "nLevels"), None)

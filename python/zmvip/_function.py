@@ -169,7 +169,7 @@ class Function:
 
     def misses(self, call, said, makers, setters):
         """What a member lacks, or takes not: None if nothing."""
-        served = [members(f)[0] for f in ([call.maker] if call.maker else []) + list(setters)]
+        served = [call.pick(f) for f in ([call.maker] if call.maker else []) + list(setters)]
         taken = {self.named.get(a.name, (a.name,))[0] for m in [call.member, *served] for a in m.arguments}
         extra = [n for n in said if n not in taken]
         if extra:
@@ -182,15 +182,14 @@ class Function:
                 return f"{call.member.name} takes {python}"
         return None
 
-    def makes_of(self, maker):
+    def makes_of(self, m):
         """What a user says of the arguments of an initialiser, but sizes, which images have; by names in C."""
-        m = members(maker)[0]
         return [a.name for a in m.arguments if a.name in self.named and a.role != "size" and
                 not (a.name == "nLevels" and m.has("pLevels"))]
 
     def made_of(self):
         makers = dict.fromkeys(maker for part in self.parts for maker in part[2])
-        return "; or ".join(", ".join(map(self.called, self.makes_of(maker))) for maker in makers)
+        return "; or ".join(", ".join(map(self.called, self.makes_of(members(maker)[0]))) for maker in makers)
 
     def none(self, first, options, given, wanted):
         """Why no member takes these arrays, and what there is."""

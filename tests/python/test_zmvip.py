@@ -91,7 +91,7 @@ class Case:
         if self.engine.images == 2 and len(names) == 2 and m.facts["place"] == "second" and any(p[1] for p in self.engine.parts):
             self.images = dict(reversed(self.images.items()))
         self.keywords, roles = {}, {}
-        makers = [x for f in self.makers[:1] for x in members(f)[:1]]
+        makers = [x for f in self.makers[:1] for x in ([y for y in members(f) if y.source == m.source] or members(f))[:1]]
         for x in [m, *makers]:
             roles.update({a.name: a for a in x.arguments})
         for python, c, default in self.engine.rows[self.engine.images:]:
@@ -125,7 +125,7 @@ class Case:
             return [2, 0, 1, 3][:int(self.m.to[-1]) if self.m.to != "AC4" else 3]
         if python in USUAL:
             return USUAL[python]
-        if a.role in ("rectangle", "point", "border value"):
+        if a.role in ("rectangle", "border value"):
             return None
         return BY_ROLE.get(a.role, 1)
 
