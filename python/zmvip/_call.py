@@ -1,80 +1,18 @@
-"""The call of a function by its name in Python: which member it is, and what every argument of that is.  All of this is
-worked out once for arrays of the same types, shapes and strides with the same other arguments, and kept as a Plan."""
+"""The call of a member: what every argument of it is, and of the members that serve it: its query, its initialiser."""
 import ctypes
 import re
-import warnings
-from collections import namedtuple
-from functools import lru_cache
 from math import prod
 
 import numpy as np
 
 from . import _api
 from ._arrays import number, numbers
-from ._library import ctype, exported, refused, warned
-
-exported = lru_cache(None)(exported)
-Roi = namedtuple("Roi", "x y width height")
-Argument = namedtuple("Argument", "name type role direction enumeration count")
-SHAPES = lru_cache(None)(lambda shape: tuple(Argument(*a) for a in _api.SHAPES[shape]))
-LIMIT = 2**31 - 1
+from ._library import ctype, exported
+from ._members import check, members, pair, word
+from ._regions import Regions
 
 
-class Member:
-    def __init__(self, row, family):
-        self.name, shape, self.source, self.destination, self.from_, self.to, self.letters, self.large, _ = row
-        self.arguments, self.family = SHAPES(shape), family
-        self.facts = _api.FACTS[family]
-        of = lambda *directions: [a.name for a in self.arguments if a.role in ("image", "planes") and
-                                  a.direction in directions]
-        self.reads, self.changes, self.writes = of("in"), of("inout"), of("out")
-        self.of_channel = self.letters.startswith("C")  # the only one of an image that it reads or writes
-
-    def has(self, name):
-        return any(a.name == name or a.role == name for a in self.arguments)
-
-    def steps(self):
-        free = self.facts["freeSteps"].split()
-        return "any" if {"*", self.letters, self.to + self.letters} & set(free) else self.facts["steps"]
-
-
-@lru_cache(None)
-def members(family):
-    found = tuple(Member(row, family) for row in _api.FAMILIES[family])
-    if any(m.of_channel for m in found):  # there, C1C3 is one of three channels, too
-        for m in found:
-            m.of_channel |= m.from_ != m.to and "C1" in (m.from_, m.to)
-    return found
-
-
-def check(function, status, member):
-    if status < 0:
-        raise refused(function, member.name, member.family, status)
-    if status > 0:
-        warnings.warn(warned(function, member.name, member.family, status), stacklevel=7)
-
-
-def word(name, value, enumeration):
-    """The value of an option: a number, or words, which may be joined by |."""
-    if not isinstance(value, str):
-        return number(name, value, "int64_t")
-    words = _api.ENUMERATIONS[enumeration] if enumeration else {}
-    unknown = [w for w in value.split("|") if w not in words]
-    if unknown:
-        raise ValueError(f"{name}: {unknown[0]!r} is none of {', '.join(words)}")
-    found = 0
-    for w in value.split("|"):
-        found |= words[w]
-    return found
-
-
-def pair(name, value):
-    """A size or a point: two numbers, or one for both."""
-    x, y = (value, value) if np.ndim(value) == 0 else value
-    return number(name, x, "int64_t"), number(name, y, "int64_t")
-
-
-class Call:
+class Call(Regions):
     """One member, and what its arguments are; of the members that serve it, too: its query, its initialiser."""
 
     def __init__(self, function, member, makers, setters, params, pictures, spec):
@@ -85,8 +23,6 @@ class Call:
         self.large = member.large
         self.maker = max((m for m in makers if self.makes(m) >= 0), key=self.makes, default=None)
         self.whole = None
-
-    # What is known of sizes.
 
     def makes(self, maker):
         """How many arguments of the user's an initialiser takes, -1 if one of its own is missing."""
@@ -99,127 +35,6 @@ class Call:
         """What the user said of an argument by its name in C, or what stands for it."""
         python, default = self.function.named.get(c_name, (None, None))
         return self.params.get(python, default) if python else None
-
-    def extent(self):
-        """Width and height of the whole destination, or of what is read where nothing is written."""
-        m, first = self.member, self.source
-        if m.has("map"):
-            return self.pictures["pxMap"].width, self.pictures["pxMap"].height
-        if m.facts["extent"] and not m.changes:
-            names = {a.name: self.argument(a) for a in m.arguments if a.role in ("option", "size") and
-                     a.name not in ("dstRoiSize", "dstSize")}
-            spaces = {**_api.CONSTANTS, "abs": abs, "labs": abs, **names}
-            return tuple(int(eval(e, {"__builtins__": {}}, spaces)) for e in m.facts["extent"])
-        if self.value("dstRoiSize") is not None or self.value("dstSize") is not None:
-            return pair("size", self.params["size"])
-        if self.sized() or first is None:
-            out = self.pictures.get((m.writes or m.reads)[0])
-            if out is None or self.roi is not None:
-                raise TypeError(f"{self.function.name}: takes out, or size=(width, height)")
-            return out.width, out.height
-        return first.width, first.height
-
-    def sized(self):
-        """Whether the user says how large the destination is."""
-        return self.function.named.get("dstRoiSize") or self.function.named.get("dstSize")
-
-    def size(self, name):
-        """An argument that is a size, as (width, height)."""
-        if self.value(name) is not None:
-            return pair(name, self.value(name))
-        digits = re.match(r"src(\d?)(Roi)?Size$", name)
-        if digits and (digits[1] or self.source):
-            picture = self.pictures[f"src{digits[1]}"] if digits[1] else self.source
-            return (picture.width, picture.height) if not self.sliced() else self.roi[2:]
-        if name == "kernelSize" and self.value("pKernel") is not None:
-            return np.shape(self.value("pKernel"))[::-1]
-        if name in ("dstSize",) or (name == "dstRoiSize" and self.mode() == "crop"):
-            return self.whole
-        if name == "roiSize" and self.member.facts["extent"] and not self.member.changes:
-            return self.source.width, self.source.height
-        if name in ("roiSize", "dstRoiSize", "dstTileSize"):
-            return self.roi[2:]
-        if name in ("width", "roiWidth"):
-            return self.roi[2:3]
-        raise TypeError(f"{self.function.name}: takes {self.function.named.get(name, (name,))[0]}")
-
-    # Regions.
-
-    def mode(self):
-        """How a region of the result is worked: tiles of its own argument, slices of all images, or a part of the whole."""
-        m = self.member
-        if m.has("dstOffset"):
-            return "offset"
-        if m.has("map"):
-            return "maps"
-        if (m.facts["extent"] and not m.changes) or not m.facts["tiles"] or m.has("srcRoiSize") or m.has("src1Size") or \
-                (m.facts["reach"] == "whole" and m.writes):
-            return "crop"
-        return "slice"
-
-    def sliced(self):
-        return self.mode() == "slice"
-
-    def reach(self):
-        """How many pixels to the left, the right, above and below a pixel take part; None if nothing tells."""
-        m, reach = self.member, self.member.facts["reach"]
-        if reach == "fixed":
-            text = f"{m.family} "
-            for a in m.arguments:
-                words = _api.ENUMERATIONS.get(a.enumeration, {})
-                if a.role == "option" and any(re.search(r"\dx\d", w) for w in words):
-                    value = word(a.name, self.value(a.name), a.enumeration)
-                    text = next((w for w, v in words.items() if v == value), "")
-            found = re.search(r"(\d)x(\d)", text)
-            return (int(found[1]) // 2,) * 2 + (int(found[2]) // 2,) * 2 if found else None
-        if reach == "anchor":
-            kernel = self.value("pKernel")
-            w, h = self.size("kernelSize") if kernel is not None else pair("mask_size", self.value("maskSize"))
-            anchor = self.value("anchor")
-            if m.has("anchor") and any(a.name == "maskSize" and a.type == "int" for a in m.arguments):
-                x = (w - 1) // 2 if anchor is None else anchor
-                return (x, w - 1 - x, 0, 0) if m.family.endswith("Row") else (0, 0, x, w - 1 - x)
-            x, y = ((w - 1) // 2, (h - 1) // 2) if anchor is None else pair("anchor", anchor)
-            if kernel is not None and m.has("anchor"):
-                x, y = w - 1 - x, h - 1 - y
-            return x, w - 1 - x, y, h - 1 - y
-        return None if reach == "radius" else (0, 0, 0, 0)
-
-    def around(self):
-        """The region that has to be worked for the one that is asked for, and the flags of the sides in memory."""
-        if self.mode() == "crop":
-            return Roi(0, 0, *self.whole), 0
-        if self.mode() != "slice" or self.member.facts["reach"] in ("none", "whole"):
-            return self.roi, 0
-        (x, y, w, h), (width, height), reach = self.roi, self.whole, self.reach()
-        if reach is None:
-            return Roi(0, 0, width, height), 0
-        left, right, top, bottom = reach
-        if not self.member.has("border"):
-            x2, y2 = x + w, y + h
-            if x < left or y < top or x2 + right > width or y2 + bottom > height:
-                raise ValueError(
-                    f"{self.member.name} reads neighbours from the image, which has to hold them: the largest roi is "
-                    f"({left}, {top}, {width - left - right}, {height - top - bottom})")
-            return self.roi, 0
-        x2, y2 = x + w, y + h
-        x, y = x if x >= left else 0, y if y >= top else 0
-        x2, y2 = x2 if width - x2 >= right else width, y2 if height - y2 >= bottom else height
-        words = _api.ENUMERATIONS["BORDER_"]
-        flags = sum(words[f"in_mem_{side}"] for side, inside in
-                    (("left", x > 0), ("top", y > 0), ("right", x2 < width), ("bottom", y2 < height)) if inside)
-        return Roi(x, y, x2 - x, y2 - y), flags
-
-    def offset(self, name):
-        """Where the first pixel that a function is told of lies in an array."""
-        picture, mode = self.pictures[name], self.mode()
-        if mode == "slice" or (mode == "maps" and name in ("pxMap", "pyMap")):
-            x, y = (self.roi.x, self.roi.y) if name not in self.member.writes + self.member.changes else (0, 0)
-        elif mode == "offset" and name in self.member.reads:
-            x, y = self.source_offset()
-        else:
-            x = y = 0
-        return y * picture.step + x * picture.pixel
 
     def source_offset(self):
         page = self.member.facts["page"]

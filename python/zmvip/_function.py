@@ -3,7 +3,8 @@ import numpy as np
 
 from . import _api
 from ._arrays import CODES, DTYPES, Picture
-from ._call import Call, members
+from ._call import Call
+from ._members import members
 from ._plan import Plan
 from ._spec import Spec
 
@@ -40,7 +41,7 @@ class Function:
             if plan.lasting:
                 if len(self.plans) >= PLANS:
                     self.plans.clear()
-                self.plans[key] = plan
+                self.plans[key] = plan.release()
         return plan.run(arrays, args, keywords)
 
     def bind(self, args, keywords):

@@ -1,6 +1,7 @@
 """The library itself: opened by its SONAME, so that the loader picks the build for this processor; its structs, its
 functions by name, and its errors."""
 import ctypes
+from functools import lru_cache
 
 from . import _api
 
@@ -22,6 +23,7 @@ def ctype(text):
     return _TYPES.get(text)
 
 
+@lru_cache(None)
 def exported(name):
     """A function of the library.  Pointers are addresses, or what ctypes passes as such; statuses are returned."""
     row = _MEMBERS[name]

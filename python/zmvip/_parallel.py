@@ -4,8 +4,7 @@ from concurrent.futures import ThreadPoolExecutor
 
 import numpy as np
 
-from . import _api
-from ._arrays import Picture, contiguous
+from ._arrays import contiguous
 from ._function import plain
 from ._spec import Spec
 

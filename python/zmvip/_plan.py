@@ -6,10 +6,9 @@ from functools import lru_cache
 
 import numpy as np
 
-from . import _api
 from ._arrays import C_DTYPES, DTYPES, Picture, contiguous, number
-from ._call import LIMIT, Roi, check, exported, members
-from ._library import ctype
+from ._library import ctype, exported
+from ._members import LIMIT, Roi, check, members
 
 naming = lru_cache(None)(namedtuple)
 snake = lambda name: re.sub(r"(?<=[a-z])(?=[A-Z])", "_", re.sub(r"^(p|dst)(?=[A-Z])", "", name)).lower()
@@ -19,7 +18,7 @@ class Plan:
     def __init__(self, function, call, options, given, pictures, numbered):
         self.function, self.call, self.member = function, call, call.member
         m = call.member
-        self.detour = self.fresh = self.start = None
+        self.detour = self.fresh = self.start = self.in_place = None
         self.outs, self.copies, self.slots, self.sets, self.buffers, self.results, self.apart = [], [], [], [], [], [], []
         values = [n for n, i in numbered.items() if i and n not in pictures and n not in ("out", "mask") and
                   not any(p.name == n for p in call.pictures.values())]
@@ -64,7 +63,7 @@ class Plan:
     # Arguments.
 
     def arrange(self, call, options, given, pictures):
-        m, roi, steps = call.member, call.roi, call.member.steps()
+        m, steps = call.member, call.member.steps()
         targets = {}
         if m.writes or m.changes:
             targets = self.destinations(call, given, steps, options)
@@ -78,7 +77,7 @@ class Plan:
             m = call.member = next((x for x in members(m.family) if x.name == m.name + "_L"), None)
             if m is None:
                 raise ValueError(f"{self.function.name}: images of more than {LIMIT} pixels or bytes a row are not taken")
-            call.large = True
+            call.large, self.member = True, m
         sizes = call.sizes(m.facts["query"]) if m.has("buffer") else {}
         self.values, last = [], None
         for position, a in enumerate(m.arguments):
@@ -182,6 +181,11 @@ class Plan:
                 offset = call.offset(n) if image or not m.has("map") else 0
                 self.apart.append((tuple(p.bounds()), tuple(target.bounds()), offset, way))
 
+    def release(self):
+        """Lets go of the arrays of the call that it was worked out for."""
+        self.kept, self.call = self.call.kept, None
+        return self
+
     # The call.
 
     def run(self, arrays, args, keywords):
@@ -242,7 +246,7 @@ class Plan:
                 (ctypes.c_void_p * len(room))(*(r.ctypes.data for r in room)) if type(room) is list else room.ctypes.data
         status = self.called(*values)
         if status:
-            check(self.function, status, self.call.member)
+            check(self.function, status, self.member)
         found = [tuple(getattr(r, f) for f, _ in r._fields_) if isinstance(r, ctypes.Structure) else
                  (r[0] if len(r) == 1 else tuple(r)) if type(r) is list else r if r.ndim else r.item() for r in found]
         out = [tuple(arrays[i] for i in indices) if planar else arrays[indices[0]] for indices, planar in self.outs]
@@ -278,9 +282,8 @@ class Plan:
                 for i, *_ in inputs:
                     arrays[i] = arrays[i].copy() if arrays[i].flags.c_contiguous else self.alike(arrays[i])
         if form:
-            plan = self.function.plan(args, keywords, same=True)
-            if not plan.apart or all(e[3] for e in plan.apart):
-                self.inplace = plan
+            plan = self.in_place = self.in_place or self.function.plan(args, keywords, same=True).release()
+            if all(e[3] for e in plan.apart):
                 return plan.go(arrays, [a.ctypes.data for a in arrays])
         return self.go(arrays, [a.ctypes.data for a in arrays])
 

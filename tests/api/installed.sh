@@ -67,8 +67,10 @@ case $step in
 ./lib/python3/dist-packages/zmvip/_docs.py
 ./lib/python3/dist-packages/zmvip/_function.py
 ./lib/python3/dist-packages/zmvip/_library.py
+./lib/python3/dist-packages/zmvip/_members.py
 ./lib/python3/dist-packages/zmvip/_parallel.py
 ./lib/python3/dist-packages/zmvip/_plan.py
+./lib/python3/dist-packages/zmvip/_regions.py
 ./lib/python3/dist-packages/zmvip/_spec.py
 ./lib/python3/dist-packages/zmvip/py.typed
 ./lib/python3/dist-packages/zmvip/raw.py

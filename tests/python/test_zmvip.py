@@ -185,7 +185,7 @@ class Case:
         return out if m.writes or m.changes else results if len(results) > 1 else results[0]
 
 
-from zmvip._call import members  # noqa: E402
+from zmvip._members import members  # noqa: E402
 
 
 def cases(wanted=lambda m: True):
