@@ -102,7 +102,7 @@ void boxWindows(Image<const T> src, Image<D> dst, Roi roi, Window window, int bo
     Bands<T, layout.channels> bands(src, roi, layout, window, borderType, value, inPlace);
     if constexpr (requires { requires Output::isByteMean; } && !layout.alpha)
         if (window.width == 3 && window.height == 3 && !inPlace && mean3x3(bands, dst, roi, window, Scratch(buffer)))
-            return STATUS_OK;
+            return;
     toNearestIf<std::is_integral_v<T>>([&] {
         const Output output(window);
         if constexpr (std::is_same_v<T, float>)
