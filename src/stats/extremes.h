@@ -36,7 +36,8 @@ T fromRank(RankOf<T> rank) {
     if constexpr (std::is_integral_v<T>)
         return rank;
     else
-        return rank == lastRank<Pick, T> ? T(zmvConstantOfNAN_64f) : std::bit_cast<T>(rank ^ (rank >> 31 & INT32_MAX));
+        return rank == lastRank<Pick, T> ? std::numeric_limits<T>::quiet_NaN()
+                                         : std::bit_cast<T>(rank ^ (rank >> 31 & INT32_MAX));
 }
 
 template <int n, class Pick, class T>

@@ -1,6 +1,8 @@
 // Norms of images: what pinorm8u, pinorm16u and pinorm32f share.
 #pragma once
 
+#include <limits>
+
 #include "kernels/rounding.h"
 #include "stats/realsums.h"
 
@@ -93,7 +95,8 @@ StatusCode ownpi_NormRel(Image<const T> src1, Image<const T> src2, Roi roi, int 
         double ratio = distance[c] / norm[c];
         if (norm[c] < smallest) {
             status = STATUS_WARN_DIV_BY_ZERO;
-            ratio = distance[c] >= smallest ? zmvConstantOfINF_64f : zmvConstantOfNAN_64f;
+            ratio = distance[c] >= smallest ? std::numeric_limits<double>::infinity()
+                                            : std::numeric_limits<double>::quiet_NaN();
         }
         put(value + c, finished<Norm>(ratio));
     }

@@ -6,6 +6,8 @@
 // of a channel are added one after another, from the lowest.
 #pragma once
 
+#include <limits>
+
 #include "kernels/simd_convert.h"
 #include "stats/reduce.h"
 
@@ -61,7 +63,8 @@ PerChannel<double> realSums(Term term, Roi roi, int channels, Image<const T>... 
     PerChannel<double> result{};
     for (int i = 0; i < n; ++i) result[i % channels] += totals[i];
     for (double& sum : result)
-        if (sum != sum) sum = zmvConstantOfNAN_64f;  // not one of several that the processor may choose from
+        if (sum != sum)
+            sum = std::numeric_limits<double>::quiet_NaN();  // not one of several that the processor may choose from
     return result;
 }
 
@@ -87,7 +90,7 @@ PerChannel<double> realLargest(Term term, Roi roi, int channels, Image<const T>.
     PerChannel<double> result{};
     for (int i = 0; i < n; ++i) {
         double& so_far = result[i % channels];
-        so_far = nan[i] ? zmvConstantOfNAN_64f : Larger::of(so_far, double(all[i]));
+        so_far = nan[i] ? std::numeric_limits<double>::quiet_NaN() : Larger::of(so_far, double(all[i]));
     }
     return result;
 }
