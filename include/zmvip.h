@@ -1719,7 +1719,7 @@ ZMV_API StatusCode zmviMulC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
    Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
    negative one, zero for zero, and floats what division gives.  A fourth channel that is left alone is not looked at.
    AC4 leaves the fourth channel of the destination as it was.
-   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Regions of 32f that read and write more than the largest cache holds are written past the caches, but not in place.
    In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
    has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
@@ -1870,7 +1870,6 @@ ZMV_API StatusCode zmviDivC_32f_AC4IR_L(float* srcDst, int64_t srcDstStep, const
    Where the divisor is zero, integers become the largest of the type for a positive dividend, the smallest for a
    negative one, zero for zero, and floats what division gives.  A fourth channel that is left alone is not looked at.
    AC4 leaves the fourth channel of the destination as it was.
-   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
    In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
    has that source's step; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
@@ -2324,7 +2323,7 @@ ZMV_API StatusCode zmviSqr_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize ro
    scaleFactor is accepted.
    Negative numbers give 0.  32f: the root in single precision, under the caller's rounding mode; negative numbers give
    NaN.
-   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   Regions of 32f that read and write more than the largest cache holds are written past the caches, but not in place.
    AC4 leaves the fourth channel of the destination as it was.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
@@ -3104,8 +3103,7 @@ ZMV_API StatusCode zmviScale_32f8u_AC4R(const float* src, int srcStep, uint8_t* 
    saturated; NaN becomes 0.  To 32f: rounded once more.  Any constants are accepted; of several NaNs that of the pixel
    goes on before that of mVal, and that before aVal's.
    The caller's rounding mode and denormal setting have no influence and are not changed.
-   Types of one width may share their memory.  Regions that read and write more than the largest cache holds are written
-   past the caches, but not in place.
+   Types of one width may share their memory.
    In place: the I forms, or src == dst with equal steps; other overlap is undefined.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive.

@@ -106,7 +106,7 @@ TEST(ApiJson, SaysWhatTheHeaderSays) {
         std::string& all = declared[f.name] = f.result + ":";
         for (const Parameter& p : f.parameters) {
             all += " " + p.type;
-            if (p.planes) all.append("[").append(std::to_string(p.planes)).append("]");
+            if (p.planes) all.append("[").append(std::to_string(p.planes)).append("]").append(p.rows);
             all += " " + p.name + ";";
         }
     }

@@ -109,10 +109,10 @@ TEST_F(Header, ElementTypesAgree) {
                 EXPECT_EQ(p.type, from + array) << f.name;
             }
             if (p.name == "borderValue") {
-                const bool oneValue = f.name.find("Adaptive") != f.name.npos;
-                EXPECT_EQ(p.type, oneValue ? from : "const " + from + "*") << f.name;
+                const bool oneValue = p.type == from && f.name.find("_C1") != f.name.npos;  // of some filters
+                EXPECT_TRUE(oneValue || p.type == "const " + from + "*") << f.name;
             }
-            if (p.name == "mask") {
+            if (p.name == "mask" && p.type != "int") {  // else it has a code
                 EXPECT_EQ(p.type, "const uint8_t*") << f.name;
             }
             // One channel: by value.  More: a pointer to one value a channel.

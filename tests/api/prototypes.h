@@ -9,7 +9,8 @@
 
 struct Parameter {
     std::string type, name;
-    int planes = 0;  // of an array of planes: how many
+    int planes = 0;    // of an array of planes: how many
+    std::string rows;  // "[3]" behind the first length of an array of two dimensions
 };
 struct Prototype {
     std::string result, name;
@@ -24,7 +25,7 @@ struct Prototype {
 
 inline std::vector<Prototype> readPrototypes() {
     const std::regex function("ZMV_API (.*?[* ])(\\w+)\\((.*)\\);"),
-        parameter("(.*[* ])(\\w+)(?:\\[(\\d)\\])?(?:\\[\\d\\])?");
+        parameter("(.*[* ])(\\w+)(?:\\[(\\d)\\])?(\\[\\d\\])?");
     const auto typeOf = [](std::string text) {  // without the blank that separates it from the name
         if (text.back() == ' ') text.pop_back();
         return text;
@@ -41,9 +42,9 @@ inline std::vector<Prototype> readPrototypes() {
             const std::string one = list.substr(from, comma - from);
             std::smatch q;
             if (std::regex_match(one, q, parameter))
-                p.parameters.push_back({typeOf(q[1]), q[2], q[3].matched ? std::stoi(q[3]) : 0});
+                p.parameters.push_back({typeOf(q[1]), q[2], q[3].matched ? std::stoi(q[3]) : 0, q[4]});
             else
-                p.parameters.push_back({one, "", 0});
+                p.parameters.push_back({one, "", 0, ""});
             from = comma + 2;
         }
         prototypes.push_back(p);
