@@ -27,8 +27,9 @@ def snake(name):
     return name + "_" if keyword.iskeyword(name) else name
 
 
-def argument_name(name):
-    return RENAMED.get(name) or snake(name)
+def argument_name(argument):
+    name = argument["name"]
+    return "mask_size" if name == "mask" and argument["role"] == "option" else RENAMED.get(name) or snake(name)
 
 
 def implied(argument, siblings):
@@ -40,11 +41,11 @@ def implied(argument, siblings):
     return argument["role"] in IMPLIED_ROLES or name in IMPLIED or argument.get("enumeration") == "DATATYPE_"
 
 
-def parameters(arguments):
+def parameters(arguments, facts):
     """What a user of these arguments says: (Python's name, C's name, default), the default None if there is none."""
     found = []
     if not {a["role"] for a in arguments} & {"image", "planes", "spec object"}:  # a service: nothing to take it from
-        return [(argument_name(a["name"]), a["name"], None) for a in arguments if a["role"] != "result"]
+        return [(argument_name(a), a["name"], None) for a in arguments if a["role"] != "result"]
     sized = any(a["role"] in ("size", "map") and re.match(r"src\w*Size", a["name"]) or a["role"] == "map"
                 for a in arguments)
     for a in arguments:
@@ -52,11 +53,12 @@ def parameters(arguments):
                                      (not sized or any(b["role"] == "map" for b in arguments))):
             continue
         default = None
-        if a["role"] in ("scale", "option", "border"):
+        refused = any(a["name"] in r["arguments"] for r in facts["refusals"])
+        if a["role"] in ("scale", "option", "border") and not (refused and word_of(a) == 0 and a.get("enumeration")):
             default = repr(word_of(a))
         elif a["role"] in ("border value", "rectangle") or a["name"] in ("anchor", "dstRoiSize", "dstSize"):
             default = "None"
-        found.append((argument_name(a["name"]), a["name"], default))
+        found.append((argument_name(a), a["name"], default))
     return found
 
 
@@ -119,9 +121,10 @@ class Family:
             return not roles & {"spec object", "buffer", "init buffer"} and not re.search(r"Size$", self.name)
         if self.specs("out") or (roles & {"spec object"} and not facts["init"]):
             return False
-        if facts["reach"] in ("radius", "fixed") and "border" not in roles and not facts["extent"]:
-            words = [w for a in self.members[0].arguments for w in ENUMERATIONS.get(a.get("enumeration"), {})]
-            return bool(re.search(r"\dx\d", " ".join(words + [self.name]).lower()))
+        if facts["reach"] in ("anchor", "radius", "fixed") and "border" not in roles and not facts["extent"]:
+            words = [w for a in self.members[0].arguments for w in
+                     [a["name"], *ENUMERATIONS.get(a.get("enumeration"), {})]]
+            return bool(re.search(r"\dx\d|maskSize|kernelSize", " ".join(words + [self.name])))
         told = {a["name"] for m in self.members for a in m.arguments if a["role"] == "size"}
         return bool(facts["extent"] or told & {"roiSize", "dstRoiSize", "dstSize", "dstTileSize"})
 
@@ -167,9 +170,9 @@ def signature(parts, families):
     everywhere, params = None, {}
     for f, constant in parts:
         inits, setters = makers(f, families)
-        forms = [parameters(m.arguments) for m in f.offered()]
-        forms = [form + parameters(m.arguments) for form in forms for i in inits for m in i.members] if inits else forms
-        extra = [p for s in setters for p in parameters(s.members[0].arguments)]
+        forms = [parameters(m.arguments, f.facts) for m in f.offered()]
+        forms = [form + parameters(m.arguments, i.facts) for form in forms for i in inits for m in i.members] if inits else forms
+        extra = [p for s in setters for p in parameters(s.members[0].arguments, s.facts)]
         for form in forms:
             form = [p for p in form if not (constant and p[1] == "value")]
             for python, c, default in form:
@@ -284,7 +287,7 @@ def annotation(name, c, parts, families):
     if name == "dtype":
         return "DTypeLike"
     if role in ("option", "border"):
-        words = list(ENUMERATIONS.get(arguments[0].get("enumeration"), {}))
+        words = [w for w in ENUMERATIONS.get(arguments[0].get("enumeration"), {}) if not w.startswith("in_mem")]
         return ("Literal[" + ", ".join(f'"{w}"' for w in words) + "] | str | int") if words else "int"
     if role == "size":
         return "int | tuple[int, int]"

@@ -13,7 +13,7 @@ class Picture:
     """An image of a call: an array, or a tuple of them, its planes; where it stands among the call's arrays."""
 
     def __init__(self, name, value, indices):
-        self.name, self.indices, self.copied = name, indices, False
+        self.name, self.indices, self.copied, self.converted = name, indices, False, False
         self.planar = isinstance(value, (tuple, list)) and bool(value) and all(isinstance(v, np.ndarray) for v in value)
         self.arrays = tuple(value) if self.planar else (value,)
         first = self.arrays[0]
@@ -43,9 +43,17 @@ class Picture:
         accepted = {"positive": step >= self.width * self.pixel, "nonzero": step != 0, "any": True}[steps]
         return step if accepted and not found else None
 
+    def of_type(self, wanted):
+        """Numbers for a pointer of this type: converted, where they are of another."""
+        if self.planar or self.channels != 1:
+            raise TypeError(f"{self.name}: has the shape (h, w), not {self.arrays[0].shape}")
+        self.converted = self.dtype != wanted
+        self.dtype, self.pixel = np.dtype(wanted), np.dtype(wanted).itemsize
+        return self
+
     def take(self, steps):
         """An input: by its own step, or by that of a copy."""
-        step = self.strided(steps)
+        step = None if self.converted else self.strided(steps)
         self.copied, self.step = step is None, self.width * self.pixel if step is None else step
         return self
 
@@ -70,8 +78,8 @@ class Picture:
             yield index, sum(min(0, s) for s in spans), sum(max(0, s) for s in spans) + array.itemsize
 
 
-def contiguous(array):
-    return np.array(array, dtype=array.dtype.newbyteorder("="), order="C")
+def contiguous(array, dtype=None):
+    return np.array(array, dtype=dtype or array.dtype.newbyteorder("="), order="C")
 
 
 def numbers(name, value, kind, count=None):
@@ -86,7 +94,7 @@ def numbers(name, value, kind, count=None):
         found = given.astype(wanted, order="C")
     if wanted.kind in "iu" and not np.array_equal(found, given):
         raise ValueError(f"{name}: {value!r} does not fit {wanted}")
-    if count is not None and found.size < count:
+    if count is not None and (found.size < count or found.ndim == 0):
         raise ValueError(f"{name}: takes {count} numbers, not {found.size}")
     return found
 

@@ -150,13 +150,18 @@ class Call(Regions):
         if a.role in ("option", "border") and value is None and of is not self.member:
             return self.named_by_maker(a)
         if a.role == "border":
-            return word(python, value, a.enumeration) | self.flags
+            value = word(python, value, a.enumeration)
+            if value & _api.CONSTANTS["BORDER_IN_MEM"]:  # would be believed
+                raise ValueError(f"{self.function.name}: {python}: which sides lie in memory follows from roi")
+            return value | self.flags
         if a.role == "option":
             return word(python, value, a.enumeration)
         if a.name == "nLevels" and self.value("pLevels") is not None:
             return np.array([len(x) for x in self.per_channel("pLevels")], np.intc)
         if a.role == "table" and "* const*" in a.type:
-            return self.addresses([numbers(python, x, a.type.split()[1].rstrip("*")) for x in self.per_channel(a.name)])
+            lengths = [len(x) for x in self.per_channel("pLevels")] if a.count else [None] * 4
+            return self.addresses([numbers(python, x, a.type.split()[1].rstrip("*"), n)
+                                   for x, n in zip(self.per_channel(a.name), lengths)])
         if a.role == "kernel":
             return numbers(python, value, a.type.split()[1].rstrip("*"))
         if a.role in ("table", "constant", "border value") and re.search(r"\*|\[", a.type):
@@ -178,8 +183,11 @@ class Call(Regions):
     def per_channel(self, c_name):
         """Arrays of the user's, one a channel; one alone stands for all."""
         value = self.value(c_name)
-        nested = [np.ndim(v) > 0 for v in value]
-        return list(value) if all(nested) else [value] * self.used(self.member.from_)
+        channels = self.used(self.member.from_)
+        found = list(value) if np.ndim(value[0]) else [value] * channels
+        if len(found) != channels or any(np.ndim(v) != 1 for v in found):
+            raise ValueError(f"{self.function.called(c_name)}: takes an array, or {channels} of them, one a channel")
+        return found
 
     def passed(self, value):
         """What ctypes takes for an argument; arrays stay while the call does."""
@@ -217,5 +225,9 @@ class Call(Regions):
         else:
             layout = self.member.to or self.member.from_
             found = numbers(python, value, kind, self.used(layout))
+            if found.shape != (self.used(layout),):
+                raise ValueError(f"{python}: takes {self.used(layout)} numbers, not {found.size}")
+            if a.role != "table":
+                found = np.concatenate([found, np.zeros(4, found.dtype)])  # of AC4 three or four may be read
         self.kept.append(found)
         return found

@@ -2,7 +2,7 @@
 import numpy as np
 
 from . import _api
-from ._arrays import CODES, DTYPES, Picture
+from ._arrays import C_DTYPES, CODES, DTYPES, Picture
 from ._call import Call
 from ._members import members
 from ._plan import Plan
@@ -165,7 +165,10 @@ class Function:
         for a in m.arguments:
             if a.role in ("map", "mask"):
                 python = self.named[a.name][0] if a.role == "map" else "mask"
-                placed[a.name] = Picture(python, {**said, **options}[python], numbered[python])
+                value = {**said, **options}[python]
+                if not is_image(value):
+                    raise TypeError(f"{self.name}: {python} is no array (h, w)")
+                placed[a.name] = Picture(python, value, numbered[python]).of_type(C_DTYPES[a.type.split()[1].rstrip("*")])
         return placed
 
     def misses(self, call, said, makers, setters):
@@ -179,7 +182,7 @@ class Function:
             return f"takes what its object is made of: {self.made_of()}"
         for a in call.member.arguments:
             python, default = self.named.get(a.name, (None, None))
-            if python and default is None and python not in call.params and a.role in ("constant", "number", "table", "kernel"):
+            if python and default is None and python not in call.params and a.role in ("constant", "number", "table", "kernel", "option"):
                 return f"{call.member.name} takes {python}"
         return None
 

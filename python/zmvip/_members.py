@@ -50,7 +50,10 @@ def check(function, status, member):
 
 
 def word(name, value, enumeration):
-    """The value of an option: a number, or words, which may be joined by |."""
+    """The value of an option: a number, or words, which may be joined by |; of one like 3x3, its sides."""
+    sides = "{0}x{1}".format(*pair(name, value)) if not isinstance(value, str) else value
+    if sides in _api.ENUMERATIONS.get(enumeration, {}):
+        value = sides
     if not isinstance(value, str):
         return number(name, value, "int64_t")
     words = _api.ENUMERATIONS[enumeration] if enumeration else {}

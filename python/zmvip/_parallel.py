@@ -73,7 +73,7 @@ def once(engine, plan, args, keywords):
     """Copies, of the whole, what every tile would have to copy: inputs that no step describes, or that tiles overwrite."""
     said, numbered = engine.bind(args, keywords)
     where = {i: n for n, indices in numbered.items() for i in indices}
-    copied = {where[i] for i in plan.copies} | {p.name for p in plan.call.pictures.values() if p.copied}
+    copied = {where[i] for i, _ in plan.copies} | {p.name for p in plan.call.pictures.values() if p.copied}
     out = said.get("out")
     if out is not None:
         targets = out if isinstance(out, tuple) else (out,)

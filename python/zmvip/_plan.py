@@ -26,7 +26,7 @@ class Plan:
         if m.reads + m.changes + m.writes:
             self.regions(call, options, given)
         if not self.detour:
-            self.arrange(call, options, given, pictures)
+            self.arrange(call, options, given)
 
     # Regions.
 
@@ -50,6 +50,8 @@ class Plan:
         if len({p.layout for n, p in call.pictures.items() if n in m.reads + m.changes}) > 1 or \
                 len({p.code for n, p in call.pictures.items() if n in m.reads + m.changes}) > 1:
             raise TypeError(f"{self.function.name}: images of different types or layouts")
+        if len({(p.width, p.height) for n, p in call.pictures.items() if n in ("pxMap", "pyMap")}) > 1:
+            raise ValueError(f"{self.function.name}: maps of different sizes")
         around, call.flags = call.around()
         if around != call.roi:
             self.detour = around, (slice(y - around.y, y - around.y + h), slice(x - around.x, x - around.x + w))
@@ -62,7 +64,7 @@ class Plan:
 
     # Arguments.
 
-    def arrange(self, call, options, given, pictures):
+    def arrange(self, call, options, given):
         m, steps = call.member, call.member.steps()
         targets = {}
         if m.writes or m.changes:
@@ -71,7 +73,7 @@ class Plan:
             if p not in targets.values():
                 p.take("positive" if n == "mask" else steps)
                 if p.copied:
-                    self.copies += p.indices
+                    self.copies += [(i, p.dtype) for i in p.indices]
         every = {**call.pictures, **targets}
         if max([0, *(v for p in every.values() for v in (p.width, p.height, abs(p.step)))]) > LIMIT:
             m = call.member = next((x for x in members(m.family) if x.name == m.name + "_L"), None)
@@ -114,14 +116,13 @@ class Plan:
         if given:
             targets = dict(zip(names, (g.give(steps) for g in given)))
             self.outs = [(g.indices, g.planar) for g in given]
-            self.returned = None
         else:
             dtype, layout, targets = DTYPES[m.destination], m.to.lstrip("A"), {}
             shape = (call.roi.height, call.roi.width)
             planes, at = int(layout[1]) if layout[0] == "P" else 0, self.total
             if not planes and layout != "C1":
                 shape += (int(layout[1]),)
-            partly = m.has("map") or m.has("table") or m.has("mask") or "channel" in options or "A" in m.to
+            partly = m.has("map") or m.has("table") or "mask" in options or "channel" in options or "A" in m.to
             self.fresh = np.zeros if partly else np.empty, shape, dtype, planes, len(names)
             for n in names:
                 indices = tuple(range(at, at + (planes or 1)))
@@ -191,8 +192,8 @@ class Plan:
     def run(self, arrays, args, keywords):
         if self.detour:
             return self.around(args, keywords)
-        for i in self.copies:
-            arrays[i] = contiguous(arrays[i])
+        for i, dtype in self.copies:
+            arrays[i] = contiguous(arrays[i], dtype)
         if self.fresh:
             self.make(arrays)
         else:

@@ -23,6 +23,8 @@ class Regions:
         if self.value("dstRoiSize") is not None or self.value("dstSize") is not None:
             return pair("size", self.params["size"])
         if self.sized() or first is None:
+            if first is None and self.roi:
+                raise ValueError(f"{self.function.name}: takes no roi but that of an image it reads: give a part as out")
             out = self.pictures.get((m.writes or m.reads)[0])
             if out is None or self.roi is not None:
                 raise TypeError(f"{self.function.name}: takes out, or size=(width, height)")
@@ -73,27 +75,34 @@ class Regions:
     def reach(self):
         """How many pixels to the left, the right, above and below a pixel take part; None if nothing tells."""
         m, reach = self.member, self.member.facts["reach"]
-        if reach == "fixed":
-            text = f"{m.family} "
-            for a in m.arguments:
-                words = _api.ENUMERATIONS.get(a.enumeration, {})
-                if a.role == "option" and any(re.search(r"\dx\d", w) for w in words):
-                    value = word(a.name, self.value(a.name), a.enumeration)
-                    text = next((w for w, v in words.items() if v == value), "")
-            found = re.search(r"(\d)x(\d)", text)
-            return (int(found[1]) // 2,) * 2 + (int(found[2]) // 2,) * 2 if found else None
-        if reach == "anchor":
-            kernel = self.value("pKernel")
-            w, h = self.size("kernelSize") if kernel is not None else pair("mask_size", self.value("maskSize"))
-            anchor = self.value("anchor")
-            if m.has("anchor") and any(a.name == "maskSize" and a.type == "int" for a in m.arguments):
-                x = (w - 1) // 2 if anchor is None else anchor
-                return (x, w - 1 - x, 0, 0) if m.family.endswith("Row") else (0, 0, x, w - 1 - x)
-            x, y = ((w - 1) // 2, (h - 1) // 2) if anchor is None else pair("anchor", anchor)
-            if kernel is not None and m.has("anchor"):
-                x, y = w - 1 - x, h - 1 - y
-            return x, w - 1 - x, y, h - 1 - y
-        return None if reach == "radius" else (0, 0, 0, 0)
+        if reach not in ("anchor", "fixed"):
+            return None if reach == "radius" else (0, 0, 0, 0)
+        sides = self.window()
+        if sides is None:
+            return None
+        (w, h), anchor = sides, self.value("anchor")
+        if m.has("anchor") and any(a.name == "maskSize" and a.type == "int" for a in m.arguments):
+            x = (w - 1) // 2 if anchor is None else pair("anchor", anchor)[0]
+            return (x, w - 1 - x, 0, 0) if m.family.endswith("Row") else (0, 0, x, w - 1 - x)
+        x, y = ((w - 1) // 2, (h - 1) // 2) if anchor is None else pair("anchor", anchor)
+        if self.value("pKernel") is not None and m.has("anchor"):
+            x, y = w - 1 - x, h - 1 - y
+        return x, w - 1 - x, y, h - 1 - y
+
+    def window(self):
+        """Width and height of what is looked at round a pixel: of a kernel, a mask, a word or a name like 3x3."""
+        if self.value("pKernel") is not None:
+            return self.size("kernelSize")
+        if self.value("maskSize") is not None:
+            return pair("mask_size", self.value("maskSize"))
+        text = self.member.family
+        for a in self.member.arguments:
+            words = _api.ENUMERATIONS.get(a.enumeration, {})
+            if a.role == "option" and any(re.match(r"\dx\d", w) for w in words):
+                value = word(self.function.called(a.name), self.value(a.name), a.enumeration)
+                text = next((w for w, v in words.items() if v == value), "")
+        found = re.search(r"(\d)x(\d)", text)
+        return found and (max(map(int, found.groups())),) * 2
 
     def around(self):
         """The region that has to be worked for the one that is asked for, and the flags of the sides in memory."""
@@ -102,8 +111,10 @@ class Regions:
         if self.mode() != "slice" or self.member.facts["reach"] in ("none", "whole"):
             return self.roi, 0
         (x, y, w, h), (width, height), reach = self.roi, self.whole, self.reach()
-        if reach is None:
+        if reach is None and self.member.has("border"):
             return Roi(0, 0, width, height), 0
+        if reach is None:
+            raise ValueError(f"{self.function.name}: nothing tells what {self.member.name} reads round a pixel; see zmvip.raw")
         left, right, top, bottom = reach
         if not self.member.has("border"):
             x2, y2 = x + w, y + h

@@ -173,8 +173,8 @@ class Case:
                 values.append(None if "*" in a.type else 0)
             elif a.role in ("option", "border"):
                 words = _api.ENUMERATIONS.get(a.enumeration, {})
-                default = self.engine.named[a.name][1] if a.name in self.engine.named else 0
-                values.append(words.get(default, default))
+                value = said if said is not None else self.engine.named[a.name][1] if a.name in self.engine.named else 0
+                values.append(words.get(value, words.get(f"{value}x{value}", value)))
             else:
                 number = said if said is not None else 5
                 values.append(np.resize(number, 256).astype(C_DTYPES[a.type.split()[1].rstrip("*")]).ctypes
