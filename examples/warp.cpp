@@ -129,7 +129,7 @@ struct Turn {
 static void edge(const Picture& photo, const char* folder) {
     const Maps maps = Turn(photo.size, 7).maps(photo.size);
     const ImageSize crop = {40, 60};  // where the turned photograph's upper edge runs through the picture
-    const int scale = 8, left = photo.size.width * 2 / 3;
+    const int scale = 8, left = photo.size.width / 8;
     int top = 0;
     while (maps.y[size_t(top) * photo.size.width + left + crop.width / 2] < 0) ++top;
     top = std::clamp(top - crop.height / 2, 0, photo.size.height - crop.height);

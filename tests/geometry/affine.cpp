@@ -97,7 +97,7 @@ void rotateShift(Case& c) {
     if (a == 180) return both(2 * x, 2 * y);
     if (a == 270) return both(y + x, y - x);
     const double r = a * 0.017453292519943295;
-    if (!(std::fabs(x) < 1e290 && std::fabs(y) < 1e290))  // whatever is no number, in the order of the banner
+    if (!std::isfinite(x - y))
         return both(x - (double(sinl(r)) * y + double(cosl(r)) * x), y - y * double(cosl(r)) + double(sinl(r)) * x);
     const long double error = 4 * ulpOf(fabsl(x) + fabsl(y));
     putNear(c, "xShift", 0, 0, x - (sinl(r) * y + cosl(r) * x), error);
@@ -105,9 +105,10 @@ void rotateShift(Case& c) {
 }
 
 using Quad = std::array<std::array<double, 2>, 4>;
-using Coefficients = double[2][3];
-void coefficientsOf(Case& c, Coefficients& k) {
-    for (int i = 0; i < 6; ++i) k[i / 3][i % 3] = at(c, "coeffs", i / 3, i % 3);
+using Coefficients = std::array<std::array<double, 3>, 2>;
+Coefficients coefficientsOf(Case& c) {
+    const auto k = [&](int i, int j) { return at(c, "coeffs", i, j); };
+    return {{{k(0, 0), k(0, 1), k(0, 2)}, {k(1, 0), k(1, 1), k(1, 2)}}};
 }
 Quad quadOf(Case& c, const Coefficients& coeffs) {
     const Slot& r = c.arg("srcRoi");
@@ -115,9 +116,8 @@ Quad quadOf(Case& c, const Coefficients& coeffs) {
     const double right = left + double(r.c - 1), bottom = top + double(r.d - 1);
     Quad quad = {{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
     for (auto& [x, y] : quad) {
-        const auto image = [&](int k) { return coeffs[k][0] * x + coeffs[k][1] * y + coeffs[k][2]; };
-        const double p = image(0), q = image(1);
-        x = p, y = q;
+        const auto image = [&, x = x, y = y](size_t k) { return coeffs[k][0] * x + coeffs[k][1] * y + coeffs[k][2]; };
+        x = image(0), y = image(1);
     }
     return quad;
 }
@@ -169,11 +169,11 @@ template <auto putResult>
 void quadOrBound(Case& c) {
     Coefficients coeffs;
     if (c.has("coeffs")) {
-        coefficientsOf(c, coeffs);
+        coeffs = coefficientsOf(c);
     } else {
-        const auto transform = reinterpret_cast<StatusCode (*)(double, double, double, Coefficients)>(
+        const auto transform = reinterpret_cast<StatusCode (*)(double, double, double, Coefficients*)>(
             c.library.find("zmviGetRotateTransform"));
-        if (transform(bound(c, "angle"), bound(c, "xShift"), bound(c, "yShift"), coeffs) != STATUS_OK)
+        if (transform(bound(c, "angle"), bound(c, "xShift"), bound(c, "yShift"), &coeffs) != STATUS_OK)
             return void(c.expected = STATUS_OUT_OF_RANGE);
     }
     const Quad quad = quadOf(c, coeffs);
@@ -182,8 +182,7 @@ void quadOrBound(Case& c) {
 }
 
 void affineSrcRoi(Case& c) {
-    Coefficients coeffs;
-    coefficientsOf(c, coeffs);
+    const Coefficients coeffs = coefficientsOf(c);
     const auto& [c00, c01, c02] = coeffs[0];
     const auto& [c10, c11, c12] = coeffs[1];
     const double d = c00 * c11 - c01 * c10;

@@ -14,18 +14,11 @@ constexpr uint32_t smoothEdge = 0x80000000u;
 template <class W>
 W coordinate(Case& c, int first, int last) {
     const W edges[] = {W(first), W(last), W(first - 1), W(last + 1)};
-    const W odd[] = {std::numeric_limits<W>::quiet_NaN(),
-                     std::numeric_limits<W>::infinity(),
-                     W(1e30),
-                     W(-2147483648.0),
-                     W(4294967296.0),
-                     std::numeric_limits<W>::denorm_min(),
-                     -std::numeric_limits<W>::denorm_min(),
-                     W(-0.0)};
+    static const double odd[] = {NAN, INFINITY, 1e30, -0x1p31, 0x1p32, -0.0};
     const W inside = W(first) + W(last - first) * W(c.rng.below(1 << 20)) / W(1 << 20);
     switch (c.rng.below(12)) {
         case 0:
-            return odd[c.rng.below(int(std::size(odd)))];
+            return c.rng.oneIn(4) ? std::nextafter(W(0), W(c.rng.between(-1, 1))) : W(odd[c.rng.below(6)]);
         case 1: {
             const W edge = edges[c.rng.below(4)];
             const int to = c.rng.below(3);
@@ -186,11 +179,7 @@ void judgeRemap(Case& c) {
 }
 void remapOracle(Case& c) {
     withElement(c.member.source, [&](auto zero) {
-        using T = decltype(zero);
-        if constexpr (std::is_same_v<T, double>)
-            judgeRemap<T, double>(c);
-        else
-            judgeRemap<T, float>(c);
+        judgeRemap<decltype(zero), std::conditional_t<sizeof(zero) == 8, double, float>>(c);
     });
 }
 
