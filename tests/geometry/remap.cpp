@@ -26,8 +26,10 @@ W coordinate(Case& c, int first, int last) {
         }
         case 2:
             return W(c.rng.between(first, last));
-        case 3:
-            return std::nextafter(W(c.rng.between(first, last)) + W(0.5), W(c.rng.between(-1, 1) * 100));
+        case 3: {
+            const W half = W(c.rng.between(first, last)) + W(0.5);
+            return c.rng.oneIn(2) ? half : std::nextafter(half, W(c.rng.oneIn(2) ? 1e9 : -1e9));
+        }
         case 4:
             return edges[c.rng.below(4)] + W(c.rng.below(1024) - 512) / W(512);
         default:
