@@ -838,6 +838,106 @@ ZMV_API StatusCode zmviConv_32f_C1R(const float* src1, int src1Step, ImageSize s
 ZMV_API StatusCode zmviConv_32f_C3R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
 ZMV_API StatusCode zmviConv_32f_C4R(const float* src1, int src1Step, ImageSize src1Size, const float* src2, int src2Step, ImageSize src2Size, float* dst, int dstStep, int algType, uint8_t* buffer);
 
+/* zmviFilterMinBorderGetBufferSize: For zmviFilterMinBorder.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and a
+   channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviFilterMinBorderGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterMinBorder: The minimum of the window round each pixel (erosion).
+   The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
+   outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   AC4 leaves the fourth channel as it was.
+   32f: along each row of the window, then from its top row down, acc < next ? acc : next, so that the later of equal
+   zeros stays.  Small numbers are not taken for zero, whatever the caller's control word.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterMinBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_BORDER: borderType is none of these.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue, unless all four sides are in memory.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviFilterMinBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, float borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMinBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviFilterMaxBorderGetBufferSize: For zmviFilterMaxBorder.
+   The size in bytes of the work buffer, for a region, a mask, an element type (DATATYPE_8U, _16U, _16S or _32F) and a
+   channel count (1, 3, or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_SIZE_EXCEEDS_INT: the size exceeds
+   2147483647; nothing is written.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviFilterMaxBorderGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterMaxBorder: The maximum of the window round each pixel (dilation).
+   The window of (x, y) is columns x - (maskSize.width - 1) / 2 .. + maskSize.width - 1 and rows likewise.  Pixels
+   outside the region come from borderType: BORDER_REPL, BORDER_MIRROR or BORDER_CONST (borderValue: one value a
+   channel, three for AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.
+   AC4 leaves the fourth channel as it was.
+   32f: along each row of the window, then from its top row down, acc > next ? acc : next, so that the later of equal
+   zeros stays.  Small numbers are not taken for zero, whatever the caller's control word.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterMaxBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_BORDER: borderType is none of these.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue, unless all four sides are in memory.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviFilterMaxBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, float borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMaxBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const float* borderValue, uint8_t* buffer);
+
+/* zmviDilate3x3: The maximum of each pixel and its eight neighbours.
+   The pixels next to the region are read from memory.  The order is that of zmviFilterMaxBorder.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_STEP_TOO_SMALL: srcStep is less than the bytes of a row and two
+   pixels more, or dstStep less than a row.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviDilate3x3_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize);
+
+/* zmviErode3x3: The minimum of each pixel and its eight neighbours.
+   The pixels next to the region are read from memory.  The order is that of zmviFilterMinBorder.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_STEP: a step is not positive.
+   STATUS_BAD_SIZE: width or height below 1.  STATUS_STEP_TOO_SMALL: srcStep is less than the bytes of a row and two
+   pixels more, or dstStep less than a row.
+   src/filter/piextrema.cpp */
+ZMV_API StatusCode zmviErode3x3_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize);
+
 /* zmviFilterSobelHorizBorderGetBufferSize: For zmviFilterSobelHorizBorder.
    The size in bytes of the work buffer, for a region, a mask, the element types of source and destination and a channel
    count.  No alignment is asked of the buffer.

@@ -19,7 +19,7 @@ ZMV_INLINE Vec<int16_t> pairSum(const uint8_t* p) {
 template <class W>
 ZMV_INLINE EvenOdd alongRow(const uint8_t* p) {
     EvenOdd sum{};
-    unrolled<W::pairs + 1>([&](auto pair) {
+    unrolled<W::pairs + 1>([&](auto pair) __attribute__((always_inline)) {
         constexpr bool alone = pair == W::pairs;
         constexpr int at = alone ? W::count - 2 : 2 * pair;
         constexpr int a = alone ? 0 : W::at[at], b = W::at[at + 1];
@@ -37,23 +37,27 @@ struct Alternately {
 template <class Finish, class... Products>
 void byteKernel(const uint8_t* const* rows, int16_t* const* dst, Len count) {
     constexpr int side = std::max({Products::Row::count...}), summed = kernelRows + side - 1;
-    eachVectorOf<lanes<uint8_t>>(count, [&](Len, Len x, int k) {
-        EvenOdd sums[sizeof...(Products)][summed];
-        unrolled<summed>([&](auto i) {
-            int product = 0;
-            (..., (sums[product++][i] = alongRow<typename Products::Row>(rows[i] + x)));
+    eachWhole<lanes<uint8_t>>(
+        count, [&](Len x) __attribute__((always_inline)) {
+            EvenOdd sums[sizeof...(Products)][summed];
+            unrolled<summed>([&](auto i) __attribute__((always_inline)) {
+                int product = 0;
+                (..., (sums[product++][i] = alongRow<typename Products::Row>(rows[i] + x)));
+            });
+            unrolled<kernelRows>([&](auto fromBelow) __attribute__((always_inline)) {
+                constexpr int r = kernelRows - 1 - fromBelow;
+                const auto results = [&]<size_t... p>(auto pixels, std::index_sequence<p...>)
+                    __attribute__((always_inline)) {
+                    return Finish()(weighted<typename Products::Column>([&](int i) __attribute__((always_inline)) {
+                        return sums[p][r + i].*pixels;
+                    })...);
+                };
+                constexpr std::index_sequence_for<Products...> all;
+                const auto even = results(&EvenOdd::even, all), odd = results(&EvenOdd::odd, all);
+                putResults<false>(dst[r] + x,
+                                  std::array{permute<Alternately<0>>(even, odd), permute<Alternately<1>>(even, odd)});
+            });
         });
-        unrolled<kernelRows>([&](auto fromBelow) {
-            constexpr int r = kernelRows - 1 - fromBelow;
-            const auto results = [&]<size_t... p>(auto pixels, std::index_sequence<p...>) {
-                return Finish()(weighted<typename Products::Column>([&](int i) { return sums[p][r + i].*pixels; })...);
-            };
-            constexpr std::index_sequence_for<Products...> all;
-            const auto even = results(&EvenOdd::even, all), odd = results(&EvenOdd::odd, all);
-            putResults<false>(dst[r] + x,
-                              std::array{permute<Alternately<0>>(even, odd), permute<Alternately<1>>(even, odd)}, k);
-        });
-    });
 }
 
 }  // namespace zmv

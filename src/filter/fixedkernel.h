@@ -1,7 +1,7 @@
 // Filters whose kernels are known here: sums of neighbours with fixed weights, and what is made of them.
 //
-// A kernel is a function that makes a block of rows of results from the rows of their windows.  So the walker of small
-// windows is compiled once for each type, whatever the number of kernels.
+// A kernel is a function that makes a block of rows of results from the rows of their windows, at least a vector of
+// each.  So the walker of small windows is compiled once for each type, whatever the number of kernels.
 #pragma once
 
 #include "filter/fixedmask.h"
@@ -13,6 +13,12 @@ namespace zmv {
 constexpr int kernelRows = 4;  // of results in a block
 template <class T, class D>
 using Kernel = void (*)(const T* const* rows, D* const* dst, Len count);
+
+// body(x) for the vectors of a row, the last of which ends with it and does some elements twice.
+template <int step, class Body>
+ZMV_INLINE void eachWhole(Len count, Body body) {
+    for (Len x = 0; x < count; x += step) body(std::min(x, count - step));
+}
 
 // Sums of integers are exact in these; those of floats are floats.
 template <class T>
@@ -57,7 +63,7 @@ struct Weights {
 template <class W, class At>
 ZMV_INLINE auto weighted(At at) {
     decltype(at(0)) sum{};
-    unrolled<W::pairs + 1>([&](auto pair) {
+    unrolled<W::pairs + 1>([&](auto pair) __attribute__((always_inline)) {
         constexpr int k = pair, opposite = W::count - 1 - k, weight = W::weight(k);
         if constexpr (weight != 0) {
             auto term = at(k);
@@ -90,25 +96,21 @@ struct AsItIs {
     }
 };
 
-// Some vectors of sums as n results.  Of four channels the fourth may be left as it was.
+// Some vectors of sums as results.  Of four channels the fourth may be left as it was.
 struct NotAlpha {
     static constexpr bool at(int i) { return i % 4 != 3; }
 };
 template <bool alpha, class D, class V, size_t parts>
-ZMV_INLINE void putResults(D* dst, const std::array<V, parts>& sums, int n) {
-    constexpr int each = sizeof(Element<V>) / sizeof(D), step = lanes<D>;
-    unrolled<int(parts) / each>([&](auto part) {
-        const int left = n - part * step;
-        if (left <= 0) return;
+ZMV_INLINE void putResults(D* dst, const std::array<V, parts>& sums) {
+    constexpr int each = sizeof(Element<V>) / sizeof(D);
+    unrolled<int(parts) / each>([&](auto part) __attribute__((always_inline)) {
         std::array<V, each> some;
         for (int i = 0; i < each; ++i) some[size_t(i)] = sums[size_t(part * each + i)];
         auto results = (Vec<Bits<D>>)joined<D>(some);
-        D* const to = dst + part * step;
-        const int count = std::min(left, step);
+        D* const to = dst + part * lanes<D>;
         if constexpr (alpha)
-            results =
-                select((Vec<Bits<D>>)maskWhere<NotAlpha, Vec<Bits<D>>>(), results, (Vec<Bits<D>>)loadUpTo(to, count));
-        storeUpTo(to, results, count);
+            results = select((Vec<Bits<D>>)maskWhere<NotAlpha, Vec<Bits<D>>>(), results, (Vec<Bits<D>>)load(to));
+        store(to, results);
     });
 }
 
@@ -117,16 +119,16 @@ template <int n, bool alpha, class Rule, class T, class D>
 void neighbours(const T* const* rows, D* const* dst, Len count) {
     using S = SumOf<T>;
     for (int r = kernelRows - 1; r >= 0; --r)
-        eachVectorOf<lanes<T>>(count, [&](Len, Len x, int k) {
-            std::array<Vec<S>, sizeof(S) / sizeof(T)> sums;
-            unrolled<sizeof(S) / sizeof(T)>([&](auto part) {
-                constexpr int from = part * lanes<S>;
-                sums[part] = Rule()([&](int row, int column) {
-                    return loadWidenUpTo<S>(rows[r + row] + x + column * n + from, k - from);
+        eachWhole<lanes<T>>(
+            count, [&](Len x) __attribute__((always_inline)) {
+                std::array<Vec<S>, sizeof(S) / sizeof(T)> sums;
+                unrolled<sizeof(S) / sizeof(T)>([&](auto part) __attribute__((always_inline)) {
+                    sums[part] = Rule()([&](int row, int column) __attribute__((always_inline)) {
+                        return loadWiden<S>(rows[r + row] + x + column * n + part * lanes<S>);
+                    });
                 });
+                putResults<alpha>(dst[r] + x, sums);
             });
-            putResults<alpha>(dst[r] + x, sums, k);
-        });
 }
 
 // Kernels that are columns times rows: the columns of a stretch of a row are summed into lines, then along the lines.
@@ -136,7 +138,8 @@ struct InLines {
     static void run(const T* const* rows, D* const* dst, Len count) {
         for (int r = kernelRows - 1; r >= 0; --r)
             eachStretchOf<longest / Len(sizeof(SumOf<T>)), lanes<T>>(
-                count, [&](Len from, Len k) { stretch(rows + r, dst[r] + from, from, k); });
+                count, [&](Len from, Len k)
+                           __attribute__((always_inline)) { stretch(rows + r, dst[r] + from, from, k); });
     }
 
   private:
@@ -147,32 +150,27 @@ struct InLines {
     ZMV_INLINE static void stretch(const T* const* row, D* dst, Len from, Len count) {
         using S = SumOf<T>;
         constexpr int parts = sizeof(S) / sizeof(T), beyond = (side - 1) * n;
-        S lines[sizeof...(Products)][longest / sizeof(S) + beyond + 2 * lanes<T>];
-        eachVectorOf<lanes<T>>(count + beyond, [&](Len, Len x, int k) {
-            unrolled<parts>([&](auto part) {
-                constexpr int offset = part * lanes<S>;
-                const auto at = [&](int i) { return loadWidenUpTo<S>(row[i] + from + x + offset, k - offset); };
+        S lines[sizeof...(Products)][longest / sizeof(S) + beyond];
+        eachWhole<lanes<S>>(
+            count + beyond, [&](Len x) __attribute__((always_inline)) {
+                const auto at = [&](int i) __attribute__((always_inline)) { return loadWiden<S>(row[i] + from + x); };
                 int line = 0;
-                (..., store(lines[line++] + x + offset, weighted<typename Products::Column>(at)));
+                (..., store(lines[line++] + x, weighted<typename Products::Column>(at)));
             });
-        });
-        // A row shorter than a vector is read beyond its end, where no numbers lie that could be worth an exception.
-        if (count < lanes<T>)
-            for (auto& line : lines)
-                for (int i = 0; i < lanes<T>; ++i) line[count + beyond + i] = 0;
-        eachVectorOf<lanes<T>>(count, [&](Len, Len x, int k) {
-            std::array<Vec<S>, parts> sums;
-            const auto along = [&]<class Row>(Row, const S* p) {
-                return weighted<Row>([&](int i) { return load(p + i * n); });
-            };
-            unrolled<parts>([&](auto part) {
-                sums[part] = [&]<size_t... i>(std::index_sequence<i...>) {
-                    return Finish()(along(typename Products::Row(), lines[i] + x + part * lanes<S>)...);
-                }
-                (std::index_sequence_for<Products...>());
+        eachWhole<lanes<T>>(
+            count, [&](Len x) __attribute__((always_inline)) {
+                const auto along = [&]<class Row>(Row, const S* p) __attribute__((always_inline)) {
+                    return weighted<Row>([&](int i) __attribute__((always_inline)) { return load(p + i * n); });
+                };
+                std::array<Vec<S>, parts> sums;
+                unrolled<parts>([&](auto part) __attribute__((always_inline)) {
+                    sums[part] = [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+                        return Finish()(along(typename Products::Row(), lines[i] + x + part * lanes<S>)...);
+                    }
+                    (std::index_sequence_for<Products...>());
+                });
+                putResults<alpha>(dst + x, sums);
             });
-            putResults<alpha>(dst + x, sums, k);
-        });
     }
 };
 
@@ -184,7 +182,14 @@ struct CallKernel {
     static constexpr int rows = kernelRows, step = lanes<T>;
     static constexpr Len longest = 4096 / sizeof(T);
     CallKernel(Memory, Kernel<T, D> given) : kernel(given) {}
-    void operator()(const T* const* row, D* const* dst, Len count) const { kernel(row, dst, count); }
+    void operator()(const T* const* row, D* const* dst, Len count) const {
+        if (count >= step) return kernel(row, dst, count);
+        D few[rows][step];  // a row shorter than a vector
+        D* to[rows];
+        for (int r = 0; r < rows; ++r) to[r] = few[r], std::memcpy(few[r], dst[r], size_t(count) * sizeof(D));
+        kernel(row, to, step);
+        for (int r = rows - 1; r >= 0; --r) std::memcpy(dst[r], few[r], size_t(count) * sizeof(D));
+    }
     Kernel<T, D> kernel;
 };
 // All results.  The rows that the walker lays out lie on the stack: the work buffers that callers are told of hold
@@ -196,6 +201,8 @@ __attribute__((noinline)) void applyKernel(const Bands<T, n>& bands, Image<D> ds
     constexpr Len bytes = Len(scratchBytes<WindowMemory<T, Rule>>(Roi(1, 1), Window({5, 5}), n));
     static_assert(bytes <= 14000);
     uint8_t memory[bytes];
+    // Behind short rows lie no numbers that could be worth an exception.
+    if (roi.width * n < lanes<T>) std::memset(memory, 0, bytes);
     walk<Rule>(bands, dst, roi, window, Scratch(memory), kernel);
 }
 

@@ -41,9 +41,7 @@ namespace zmv {
 template <int step, class Body>
 ZMV_INLINE void eachVectorOf(Len count, Body body) {
     if (count < step) return body(Len(0), Len(0), int(count));
-    Len i = 0;
-    for (; (i + 1) * step <= count; ++i) body(i, i * step, step);
-    if (i * step < count) body(i, count - step, step);
+    for (Len i = 0; i * step < count; ++i) body(i, std::min(i * step, count - step), step);
 }
 
 // part(from, n): stretches of at most so many of the results that a rule is asked for, for what it keeps on the stack.

@@ -85,7 +85,8 @@ void arrangeByRoles(Case& c) {
     const Facts& facts = c.member.facts();
     Margins margins;
     if (c.has("maskSize")) {
-        c.arg("maskSize") = {c.rng.between(1, 9), c.rng.between(1, c.mode == Mode::far ? 3 : 9)};
+        if (!c.arg("maskSize").a)  // where the family has not chosen
+            c.arg("maskSize") = {c.rng.between(1, 9), c.rng.between(1, c.mode == Mode::far ? 3 : 9)};
         if (facts.reach == Reach::anchor) margins = readableRound(c, c.arg("maskSize").a, c.arg("maskSize").b);
     }
     const Parameter* const code = c.member.find("mask");  // of both sides
