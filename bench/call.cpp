@@ -79,6 +79,10 @@ ImageSizeL Call::area(const std::string& name) const {
     if (name == "srcSize" || name == "src1Size" || asSource) return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
     if (name == "maskSize") return {setting.mask, setting.mask};
+    if (name == "dstSize" || name == "dstTileSize") {  // the half, or that of a goal, whose sides are as 16 to 9
+        const int64_t width = setting.factor / 100;
+        return width ? ImageSizeL{width, width * 9 / 16} : ImageSizeL{setting.width / 2, setting.height / 2};
+    }
     if (name == "blockSize") return {16, 16};
     unknown(name);
 }
@@ -134,6 +138,10 @@ double Call::number(const std::string& name) const {
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
     if (name == "uniform") return 1;
+    if (name == "dstOffset" || name == "shiftX" || name == "shiftY" || name == "B") return 0;
+    if (name == "C") return 0.5;
+    if (name == "numLobes") return 3;
+    if (name == "antialiasing") return 0;
     unknown(name);
 }
 
@@ -176,11 +184,14 @@ void* Call::pointer(const std::string& name, int64_t element) {
     }
     if (name == "pKernel") return kernel(element);
     if (name == "buffer") return workBuffer();
-    if (name == "stepOut" || name == "pBufferSize") return &answer;
+    if (name == "stepOut" || name == "pBufferSize" || name == "bufSize") return &answer;
+    if (name == "initBuf") return allocate(8 * (area("dstSize").width + area("dstSize").height + 128)).data();
+    if (name == "specSize" || name == "initBufSize" || name == "borderSize" || name == "srcOffset" || name == "srcRoi")
+        return allocate(32).data();
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
         name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize")
         return allocate(32).data();
-    if (name == "pSpec") return specObject();
+    if (name == "pSpec" || name == "spec") return specObject();
     if (name == "pHist") return allocate(bins * element).data();
     if (name == "pTable") return allocate(bins * toChannels * element).data();
     if (name == "nLevels") return levels<int>(bins + 1, 0);
@@ -211,6 +222,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                bordered = has("dstRoiSize") && has("srcRoiSize");
     const bool convolved = has("src2Size");
     ImageSizeL size = area(convolved                         ? name == "src2" ? "src2Size" : "src1Size"
+                           : has("dstTileSize")              ? isRead ? "srcSize" : "dstTileSize"
                            : has("srcSize") && name == "src" ? "srcSize"
                            : has("dstRoiSize")               ? bordered && isRead ? "srcRoiSize" : "dstRoiSize"
                                                              : "roiSize");
@@ -254,7 +266,9 @@ void* Call::workBuffer() {
     const std::string name = member.name;
     if (name.rfind("zmviFilter_", 0) == 0) return nullptr;
     const bool filter = name.rfind("zmviFilterBorder_", 0) == 0;
-    const Member& query = findMember(name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize"));
+    const Member& query =
+        findMember(isResize() ? "zmviResizeGetBufferSize_" + type
+                              : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize"));
     Setting asked = setting;
     asked.about = name;
     const auto call = query.bind(asked, build);
@@ -262,17 +276,34 @@ void* Call::workBuffer() {
     return allocate(call->answer).data();
 }
 
+bool Call::isResize() const { return std::string(member.name).rfind("zmviResize", 0) == 0; }
+
+// The method of an execution, for antialiasing the one that a goal names; questions are asked of any object.
+std::string Call::resizeInit(std::string family) const {
+    const int kernel = setting.factor % 100;
+    if (family == "zmviResizeAntialiasing")
+        family += kernel == INTERP_CUBIC ? "Cubic" : kernel == INTERP_LANCZOS ? "Lanczos" : "Linear";
+    const bool question = family.find("Get") != std::string::npos || family.ends_with("Mode");
+    return (question ? "zmviResizeLinear" : family) + "Init_" + type;
+}
+
 // Made by the family's own initialisation, which keeps it; initialisations themselves get room for one.
 void* Call::specObject() {
     const std::string name = member.name, family = name.substr(0, name.find('_'));
-    if (name.find("Init") != name.npos) return spec = allocate(1 << 20).data();
+    if (name.find("Init") != name.npos) {
+        const int64_t sides =
+            isResize() ? setting.width + setting.height + area("dstSize").width + area("dstSize").height : 0;
+        return spec = allocate((1 << 20) + 100 * sides).data();
+    }
+    const std::string user = setting.about.empty() ? family : setting.about.substr(0, setting.about.find('_'));
     const bool filter = family.rfind("zmviFilterBorder", 0) == 0;
-    const Member& init = findMember(family.rfind("zmviHistogram", 0) == 0 ? "zmviHistogramUniformInit"
-                                    : family == "zmviLUT"                 ? "zmviLUT_Init_" + type
-                                    : !filter                             ? family + "Init"
-                                    : type == "64f"                       ? "zmviFilterBorderInit_64f"
-                                    : wholeTaps()                         ? "zmviFilterBorderInit_16s"
-                                                                          : "zmviFilterBorderInit_32f");
+    const Member& init = findMember(isResize()                              ? resizeInit(user)
+                                    : family.rfind("zmviHistogram", 0) == 0 ? "zmviHistogramUniformInit"
+                                    : family == "zmviLUT"                   ? "zmviLUT_Init_" + type
+                                    : !filter                               ? family + "Init"
+                                    : type == "64f"                         ? "zmviFilterBorderInit_64f"
+                                    : wholeTaps()                           ? "zmviFilterBorderInit_16s"
+                                                                            : "zmviFilterBorderInit_32f");
     Setting asked = setting;
     asked.about = name;
     maker = init.bind(asked, build);

@@ -23,7 +23,8 @@ struct Build {
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
 // and the scale factor, the compositing operation, or 1 for a histogram of equal pixels and for a table of uneven
-// levels, or the kernel of remap.  Of kernels see kernelSide().
+// levels, or the kernel of remap.  Of kernels see kernelSide().  Of resizing, the width of the result times 100, plus the
+// kernel of antialiasing.
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -80,6 +81,8 @@ class Call {
     uint8_t* map(const std::string& name);
     void* workBuffer();
     void* specObject();
+    bool isResize() const;
+    std::string resizeInit(std::string family) const;
     // Of a histogram: evenly spaced numbers, one a level.
     static constexpr int bins = 256;
     template <class T>

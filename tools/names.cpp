@@ -33,7 +33,13 @@ constexpr Code codes[] = {
     {"32sc", "Complex32s", Element::sc32, 8},
     {"32fc", "Complex32f", Element::fc32, 8},
 };
+// Points, rectangles and objects are arrays of these.
+constexpr std::pair<const char*, Element> structures[] = {{"ResizeSpec", Element::u8},   {"ImagePoint", Element::s32},
+                                                          {"ImagePointL", Element::s64}, {"ImageRect", Element::s32},
+                                                          {"ImageRectL", Element::s64}};
 Element elementOf(const std::string& text) {
+    for (const auto& [type, element] : structures)
+        if (text == type) return element;
     for (const Code& c : codes)
         if (text == c.code || text == c.type) return c.element;
     return Element::none;

@@ -82,7 +82,7 @@ TEST_F(Header, IndexWidthAgrees) {
             if (!large) {
                 EXPECT_EQ(p.type.find("int64_t"), std::string::npos) << f.name << ' ' << p.name;
             }
-            if (large) {
+            if (large && p.name != "borderSize") {  // widths of borders are never long
                 EXPECT_NE(p.type, "int*") << f.name << ' ' << p.name;
             }
         }
@@ -187,7 +187,9 @@ TEST_F(Header, TwinsOf64BitFormsTakeTheSameArguments) {
     for (const Prototype& f : functions) byName[f.name] = &f;
     for (const Prototype& f : functions) {
         if (!Name(f.name).large) continue;
-        const auto twin = byName.find(f.name.substr(0, f.name.size() - 2));
+        // Services that other types have one by one have one such form for all of them.
+        const std::string base = f.name.substr(0, f.name.size() - 2);
+        const auto twin = byName.find(byName.count(base) ? base : base + "_8u");
         ASSERT_NE(twin, byName.end()) << f.name << " has no 32-bit form";
         ASSERT_EQ(f.parameters.size(), twin->second->parameters.size()) << f.name;
         for (size_t i = 0; i < f.parameters.size(); ++i)

@@ -135,8 +135,10 @@ std::vector<Check> ladderOf(Case& c) {
 void apply(const Break& b, Case& c) {
     // In 64 bits: a negative value whose lower half is positive, and the largest value of all.
     int64_t value = b.value;
-    if (c.member.large && value == -1) value = -int64_t(0xffffffff);
-    if (c.member.large && value == INT32_MAX) value = INT64_MAX;
+    const std::string& type = c.member.find(b.argument)->type;
+    const bool wide = c.member.large && (type.ends_with("L") || type == "int64_t");
+    if (wide && value == -1) value = -int64_t(0xffffffff);
+    if (wide && value == INT32_MAX) value = INT64_MAX;
     switch (b.part) {
         case Break::whole:
         case Break::width:

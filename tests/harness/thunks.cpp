@@ -40,6 +40,8 @@ template <>
 struct Argument<ImageRectL> {
     static ImageRectL of(const Slot& s) { return {s.a, s.b, s.c, s.d}; }
 };
+template <>
+struct Argument<ImagePointL> : PairArgument<ImagePointL, int64_t> {};
 
 template <class R, class... P>
 struct Shape {

@@ -1,0 +1,178 @@
+// Lanes filled from anywhere in a row: each takes some taps, a pixel apart, of an element of its own.
+//
+// Destination pixels are looked up in runs, one table entry a vector.  Where the elements of a 16-byte lane lie within
+// 16 or 32 bytes, the lane is loaded from an address of its own and put in order by byte shuffles; else, and without
+// byte shuffles, the taps are loaded element by element.  What is loaded lies in the row, or in a copy of its end.
+#pragma once
+
+#include "kernels/borders.h"
+#include "kernels/rows.h"
+#include "kernels/scratch.h"
+#include "kernels/simd_lanes.h"
+
+namespace zmv {
+
+enum class Reading { oneWindow, twoWindows, elements, mapped };
+
+// The columns of a row that a tile may read in memory, and what stands for the others.
+struct ReadableColumns {
+    Len from, to, last, src;  // last: of all taps, inside or not; what lies behind it belongs to no tap
+    int word;
+    Len at(Len j) const {
+        j = std::min(j, last);
+        return j >= from && j < to ? j : borderAt(word, j, src);
+    }
+};
+
+// Pixels from .. to of a tile, whose tables these are.
+struct Run {
+    Len from = 0, to = 0;
+    Reading reading = Reading::elements;
+    int copy = -1;   // which copy of a part of the row it reads, if not the row
+    Len origin = 0;  // the column at the start of the copy, or 0
+    Len* offsets = nullptr;
+    uint8_t* controls = nullptr;
+};
+
+// U: a lane's bytes; it holds taps of T, q of them.  Vectors come by so many together.
+template <class T, class U, int together = 1>
+struct Gather {
+    static constexpr int q = int(sizeof(U) / sizeof(T));
+    static constexpr int perLane = 16 / int(sizeof(U)), perVector = vectorBytes / int(sizeof(U));
+    static constexpr Len mostCopied = 1024;  // bytes; longer taps are looked up one by one where the row ends
+
+    int n;       // channels
+    Len groups;  // of q taps
+    ReadableColumns columns;
+
+    Len pixelBytes() const { return n * Len(sizeof(T)); }
+    // How many pixels behind the one of its first element a 16-byte lane goes on.
+    Len pixelsBehind() const { return (n == 3 ? perLane + 1 : perLane - 1) / n; }
+    template <class Axis>
+    Reading readingFor(const Axis& axis, Len from, Len to) const {
+        if constexpr (!hasByteShuffle) return Reading::elements;
+        Len most = 0;
+        for (Len x = from; x < to; ++x)
+            most = std::max(most, axis.first(std::min(x + pixelsBehind(), to - 1)) - axis.first(x));
+        const Len span = (most + q) * pixelBytes();
+        return span <= 16 ? Reading::oneWindow : span <= 32 ? Reading::twoWindows : Reading::elements;
+    }
+    // Bytes read from a pixel's first tap on.
+    Len bytesRead(Reading reading) const {
+        const Len last = reading == Reading::oneWindow ? 16 : reading == Reading::twoWindows ? 32 : q * pixelBytes();
+        return (groups - 1) * q * pixelBytes() + last;
+    }
+    // Cuts pixels into those whose taps are in memory with all that is loaded beside them, and those at either end.
+    template <class Axis>
+    int cut(const Axis& axis, Len from, Len to, Run* runs) const {
+        const Reading reading = readingFor(axis, from, to);
+        const Len bytes = bytesRead(reading);
+        Len a = from, b;
+        while (a < to && axis.first(a) < columns.from) ++a;
+        for (b = to; b > a && axis.first(b - 1) * pixelBytes() + bytes > columns.to * pixelBytes();) --b;
+        int count = 0;
+        const auto add = [&](Len first, Len end, int copy) {
+            if (first >= end) return;
+            const bool small = reading != Reading::elements && copiedBytes(axis, first, end, bytes) <= mostCopied;
+            runs[count++] = copy < 0 ? Run{first, end, reading}
+                            : small  ? Run{first, end, reading, copy, axis.first(first)}
+                                     : Run{first, end, Reading::mapped};
+        };
+        add(from, a, 0), add(a, b, -1), add(b, to, 1);
+        return count;
+    }
+    template <class Axis>
+    Len copiedBytes(const Axis& axis, Len from, Len to, Len bytes) const {
+        return (axis.first(to - 1) - axis.first(from)) * pixelBytes() + bytes;
+    }
+
+    static Len vectors(const Run& run, int channels) {
+        constexpr int step = perVector * together;
+        return ((run.to - run.from) * channels + step - 1) / step * together;
+    }
+    // Of one vector.
+    static constexpr Len tableBytes = perVector * Len(sizeof(Len)) + vectorBytes;
+
+    template <class Axis>
+    void form(const Axis& axis, Run& run, Scratch& scratch) const {
+        const Len elements = (run.to - run.from) * n, count = vectors(run, n);
+        run.offsets = scratch.take<Len, 8>(count * (isWindow(run) ? vectorBytes / 16 : perVector));
+        if (isWindow(run)) run.controls = scratch.take<uint8_t>(count * vectorBytes);
+        Len x = run.from, c = 0, start = 0;
+        for (Len e = 0; e < count * perVector; ++e) {
+            const Len first = axis.first(x) - run.origin;
+            if (run.reading == Reading::mapped) {
+                run.offsets[e] = axis.first(x) * 4 + c;
+            } else if (run.reading == Reading::elements) {
+                run.offsets[e] = first * pixelBytes() + c * Len(sizeof(T));
+            } else {
+                if (e % perLane == 0) run.offsets[e / perLane] = start = first * pixelBytes();
+                uint8_t* const control = run.controls + e * Len(sizeof(U));
+                const Len at = first * pixelBytes() - start + c * Len(sizeof(T));
+                for (int k = 0; k < q; ++k)
+                    for (int i = 0; i < int(sizeof(T)); ++i)
+                        control[k * int(sizeof(T)) + i] = uint8_t(at + k * pixelBytes() + i);
+            }
+            if (e + 1 < elements && ++c == n) c = 0, ++x;  // lanes behind the last element repeat it
+        }
+    }
+    static bool isWindow(const Run& run) {
+        return run.reading == Reading::oneWindow || run.reading == Reading::twoWindows;
+    }
+
+    // What a run at the row's end reads instead of the row.
+    template <class Axis>
+    void copyEnd(const Axis& axis, const Run& run, const uint8_t* row, uint8_t* to) const {
+        const Len size = pixelBytes();
+        const Len first = run.origin, end = axis.end(run.to - 1);
+        const Len inside = std::max(first, columns.from), outside = std::min(end, columns.to);
+        const auto mapped = [&](Len j) {
+            std::memcpy(to + (j - first) * size, row + columns.at(j) * size, size_t(size));
+        };
+        for (Len j = first; j < std::min(inside, end); ++j) mapped(j);
+        if (outside > inside) copyRow(to + (inside - first) * size, row + inside * size, (outside - inside) * size);
+        for (Len j = std::max(outside, first); j < end; ++j) mapped(j);
+    }
+
+    // Group g of the taps of vector v of a run; base: the row at column 0, or the copy.
+    template <Reading reading>
+    ZMV_INLINE Vec<U> at(const Run& run, const uint8_t* base, Len v, Len g) const {
+        base += g * q * pixelBytes();
+        if constexpr (reading == Reading::oneWindow || reading == Reading::twoWindows) {
+            const Len* const offsets = run.offsets + v * (vectorBytes / 16);
+            const auto control = load(run.controls + v * vectorBytes);
+            const auto low = loadLanesAt<Vec<uint8_t>>(base, offsets);
+            if constexpr (reading == Reading::oneWindow) {
+                return (Vec<U>)shuffleBytes(low, control);
+            } else {  // a control byte with its highest bit set gives zero
+                const auto high = loadLanesAt<Vec<uint8_t>>(base + 16, offsets);
+                return (Vec<U>)(shuffleBytes(low, control + 0x70) | shuffleBytes(high, control - 16));
+            }
+        } else {
+            const Len* const offsets = run.offsets + v * perVector;
+            Vec<U> lanes{};
+            unrolled<perVector>([&](auto lane) { lanes[int(lane)] = element<reading>(base, offsets[int(lane)], g); });
+            return lanes;
+        }
+    }
+
+  private:
+    template <Reading reading>
+    ZMV_INLINE U element(const uint8_t* base, Len offset, Len g) const {
+        U taps = 0;
+        const auto tap = [&](int k) {
+            if constexpr (reading == Reading::mapped) {
+                const Len column = columns.at((offset >> 2) + g * q + k);
+                return get(reinterpret_cast<const Bits<T>*>(base - g * q * pixelBytes() + column * pixelBytes()) +
+                           (offset & 3));
+            } else {
+                return get(reinterpret_cast<const Bits<T>*>(base + offset + k * pixelBytes()));
+            }
+        };
+        if (reading == Reading::elements && n == 1) return get(reinterpret_cast<const U*>(base + offset));
+        for (int k = 0; k < q; ++k) taps |= U(U(tap(k)) << (8 * int(sizeof(T)) * k % (8 * int(sizeof(U)))));
+        return taps;
+    }
+};
+
+}  // namespace zmv

@@ -1,0 +1,203 @@
+// The driver of all filtering methods: a tile is worked off in bands of columns; in each, every source row is filtered
+// along once, into a ring of as many rows as a destination row takes, and destination rows are made from the ring.
+#pragma once
+
+#include "geometry/resize.h"
+#include "geometry/resizerules.h"
+#include "kernels/rounding.h"
+
+namespace zmv {
+
+// Memory for what a narrow tile needs, whose work buffer may not hold the tables of a whole vector.
+struct LocalMemory {
+    static constexpr Len bytes = 8192;
+    alignas(64) uint8_t memory[bytes];
+};
+
+template <class Rule, class Axis>
+class TileFilter {
+    using T = typename Rule::T;
+    using A = typename Rule::A;
+    using U = typename Rule::U;
+    using Weight = typename Rule::Weight;
+    static constexpr int vectorsOfTaps = int(sizeof(U) / sizeof(A));
+    using Lanes = Gather<T, U, vectorsOfTaps>;
+
+  public:
+    TileFilter(const ResizeTile& tile, const Axis& columns, const Axis& rows, Image<const T> src, Image<T> dst)
+        : tile_(tile), n_(tile.channels), columns_(columns), rows_(rows), dst_(dst), rule_{columns, rows} {
+        const At first = sourceOffset(tile.header, tile.offset);
+        src_ = src.at(-first.x * n_, -first.y);  // the pixel at column 0 of row 0
+        readableColumns_ = readable(columns, tile.offset.x, tile.size.width, BORDER_IN_MEM_LEFT, BORDER_IN_MEM_RIGHT);
+        readableRows_ = readable(rows, tile.offset.y, tile.size.height, BORDER_IN_MEM_TOP, BORDER_IN_MEM_BOTTOM);
+        gather_ = Lanes{n_, rule_.groups(), readableColumns_};
+    }
+    void run() {
+        LocalMemory local;
+        const Len given = Len(resizeBufferBytes(tile_.header, tile_.size, n_));
+        const bool inLocal = given <= LocalMemory::bytes;
+        const Len room = inLocal ? LocalMemory::bytes : given;
+        Len width = tile_.size.width;
+        while (width > 1 && bytesFor(width) > room) width = (width + 1) / 2;
+        const Len end = tile_.offset.x + tile_.size.width;
+        for (Len x = tile_.offset.x; x < end; x += width)
+            band(x, std::min(x + width, end), Scratch(inLocal ? local.memory : tile_.buffer));
+    }
+
+  private:
+    ReadableColumns readable(const Axis& axis, Len from, Len count, int lowFlag, int highFlag) const {
+        const Len first = axis.first(from), end = axis.end(from + count - 1);
+        return {tile_.word & lowFlag ? first : std::max<Len>(first, 0),
+                tile_.word & highFlag ? end : std::min(end, axis.src), end - 1, axis.src, tile_.word};
+    }
+
+    // Elements from row to row of the ring.  Vectors may end behind a band where there is room.
+    static Len strideFor(Len elements) {
+        if (elements > lanes<A>) return (elements + 2 * lanes<A> - 1) / lanes<A> * lanes<A>;
+        return (elements * Len(sizeof(A)) + 31) / 32 * 32 / Len(sizeof(A));
+    }
+    static constexpr Len slack = 256;  // for alignment, and for vectors read beyond the last row and the last weight
+    // What band() takes at most.
+    Len bytesFor(Len width) const {
+        const Len elements = width * n_, vectors = elements / lanes<A> + 3;
+        const Len weighed = elements <= lanes<A> ? elements : vectors * lanes<A>;
+        return rows_.shape.most * (strideFor(elements) * Len(sizeof(A)) + Len(sizeof(A*))) +
+               weighed * rule_.weightRows() * Len(sizeof(Weight)) + vectors * vectorsOfTaps * Lanes::tableBytes +
+               (gather_.bytesRead(Reading::twoWindows) <= Lanes::mostCopied ? 2 * Lanes::mostCopied : 0) + slack;
+    }
+
+    struct Part {
+        Run run;
+        Weight* weights;
+        Len step;  // from weight to weight of an element
+    };
+    void band(Len from, Len to, Scratch scratch) {
+        const Len elements = (to - from) * n_;
+        stride_ = strideFor(elements), from_ = from;
+        ring_ = scratch.take<A, 64>(rows_.shape.most * stride_);
+        scratch.take<uint8_t>(vectorBytes);  // vectors are read beyond the last row
+        const A** const rowAt = scratch.take<const A*, 8>(rows_.shape.most + 1);
+        Run runs[3];
+        parts_ = gather_.cut(columns_, from, to, runs);
+        for (int i = 0; i < parts_; ++i) form(part_[i], runs[i], scratch);
+        for (uint8_t*& copy : copies_) copy = nullptr;
+        for (int i = 0; i < parts_; ++i)
+            if (const int copy = part_[i].run.copy; copy >= 0) {
+                const Run& run = part_[i].run;
+                const Len bytes = gather_.copiedBytes(columns_, run.from, run.to, gather_.bytesRead(run.reading));
+                copies_[copy] = scratch.take<uint8_t>(bytes);
+                std::memset(copies_[copy], 0, size_t(bytes));
+            }
+
+        Len filtered = INT64_MIN;  // rows before this one have been
+        const Len bottom = tile_.offset.y + tile_.size.height;
+        for (Len y = tile_.offset.y; y < bottom; ++y) {
+            const Len first = rows_.first(y), end = rows_.end(y);
+            for (filtered = std::max(filtered, first); filtered < end; ++filtered)
+                filterRow(src_.row(readableRows_.at(filtered)), slot(filtered));
+            for (Len r = first; r < end; ++r) rowAt[r - first] = slot(r);
+            for (Len r = end; r <= first + rows_.shape.most; ++r) rowAt[r - first] = rowAt[0];
+            rule_.setRow(y);
+            T* const to = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
+            withCount(rule_.rowCount(), [&](auto count) {
+                const auto results = rule_.down(rowAt, count);
+                Len e = 0;
+                for (; e + lanes<T> <= elements; e += lanes<T>) store(to + e, results(e));
+                if (e < elements) storePart(to + e, results(e), int(elements - e));
+            });
+        }
+    }
+    A* slot(Len row) const {
+        const Len rows = rows_.shape.most, k = row % rows;
+        return ring_ + (k < 0 ? k + rows : k) * stride_;
+    }
+    void form(Part& part, const Run& run, Scratch& scratch) {
+        part.run = run;
+        gather_.form(columns_, part.run, scratch);
+        const Len elements = (run.to - run.from) * n_, vectors = (elements + lanes<A> - 1) / lanes<A>;
+        part.step = std::min<Len>(elements, lanes<A>);
+        part.weights = scratch.take<Weight, int(alignof(Weight))>(vectors * part.step * rule_.weightRows());
+        Len x = run.from, c = 0;
+        for (Len e = 0; e < vectors * part.step; ++e) {
+            const Len block = e / part.step, lane = e % part.step;
+            rule_.putWeights(x, part.weights + block * part.step * rule_.weightRows() + lane, part.step);
+            if (e + 1 < elements && ++c == n_) c = 0, ++x;
+        }
+    }
+
+    void filterRow(const T* row, A* to) const {
+        const auto base = reinterpret_cast<const uint8_t*>(row);
+        for (int i = 0; i < parts_; ++i) {
+            const Part& part = part_[i];
+            const uint8_t* from = base;
+            if (part.run.copy >= 0) {
+                gather_.copyEnd(columns_, part.run, base, copies_[part.run.copy]);
+                from = copies_[part.run.copy];
+            }
+            const auto along = [&]<Reading reading>(std::integral_constant<Reading, reading>) {
+                filterPart<reading>(part, from, to);
+            };
+            if constexpr (hasByteShuffle) {
+                if (part.run.reading == Reading::oneWindow)
+                    along(std::integral_constant<Reading, Reading::oneWindow>{});
+                if (part.run.reading == Reading::twoWindows)
+                    along(std::integral_constant<Reading, Reading::twoWindows>{});
+            }
+            if (part.run.reading == Reading::elements) along(std::integral_constant<Reading, Reading::elements>{});
+            if (part.run.reading == Reading::mapped) along(std::integral_constant<Reading, Reading::mapped>{});
+        }
+    }
+    template <Reading reading>
+    void filterPart(const Part& part, const uint8_t* base, A* row) const {
+        const Len begin = (part.run.from - from_) * n_, elements = (part.run.to - part.run.from) * n_;
+        const Len step = part.step, next = step * rule_.weightRows();
+        withCount(rule_.columnCount(), [&, rule = rule_, gather = gather_, run = part.run](auto count) {
+            const Weight* weights = part.weights;
+            Len v = 0, e = 0;
+            const auto sums = [&] {
+                const auto at = [&](Len g, int p) {
+                    return gather.template at<reading>(run, base, v * vectorsOfTaps + p, g);
+                };
+                return rule.along(at, weights, step, count);
+            };
+            A* const to = row + begin;
+            const Len whole =
+                std::min(elements, stride_ - begin - lanes<A> + 1);  // vectors that may end behind the run
+            for (; e < whole; ++v, e += lanes<A>, weights += next) store(to + e, sums());
+            if (e < elements) storePart(to + e, sums(), int(elements - e));
+        });
+    }
+
+    const ResizeTile& tile_;
+    const int n_;
+    const Axis &columns_, &rows_;
+    Image<const T> src_{};
+    Image<T> dst_;
+    Rule rule_;
+    ReadableColumns readableColumns_{}, readableRows_{};
+    Lanes gather_{};
+    Len stride_ = 0, from_ = 0;
+    A* ring_ = nullptr;
+    int parts_ = 0;
+    Part part_[3];
+    uint8_t* copies_[2];
+};
+
+// Which rule the bytes of an object are filtered by, and which numbers those of other types.
+template <class T>
+void ownpi_ResizeTile(const ResizeTile& tile, Image<const T> src, Image<T> dst) {
+    using W = std::conditional_t<sizeof(T) == 8, double, float>;
+    const auto columns = columnsOf<W>(tile.header, tile.object), rows = rowsOf<W>(tile.header, tile.object);
+    const auto run = [&]<class Rule>(std::type_identity<Rule>) {
+        toNearestIf<std::is_integral_v<T>>(
+            [&] { TileFilter<Rule, ResizeAxis<W>>(tile, columns, rows, src, dst).run(); });
+    };
+    if constexpr (sizeof(T) == 1) {
+        const bool reduced = columns.shape.kind == Taps::counted || rows.shape.kind == Taps::counted;
+        if (tile.header.interpolation == INTERP_LINEAR && !reduced) return run(std::type_identity<BytesLinear>{});
+        if (tile.header.fixedPoint) return run(std::type_identity<BytesWeighted<ResizeAxis<float>, Fractions>>{});
+    }
+    run(std::type_identity<Real<T, W>>{});
+}
+
+}  // namespace zmv
