@@ -2,15 +2,11 @@
 #pragma once
 
 #include <algorithm>
-#include <bit>
-#include <limits>
 
+#include "kernels/ranks.h"
 #include "stats/reduce.h"
 
 namespace zmv {
-
-template <class T>
-using RankOf = std::conditional_t<std::is_floating_point_v<T>, int32_t, T>;
 
 // Below, or above, all ranks of numbers; a NaN has it, and so goes before nothing.
 template <class Pick, class T>
@@ -20,24 +16,14 @@ template <class Pick>
 struct Rank {
     template <class V>
     ZMV_INLINE auto operator()(V v) const {
-        if constexpr (std::is_floating_point_v<Element<V>>) {
-            using Ranks = Vec<int32_t, sizeof(V)>;
-            const auto bits = (Ranks)v;
-            // Negative numbers with larger bits are smaller, and -0 comes before 0.
-            return select((Ranks)(v == v), bits ^ (bits >> 31 & INT32_MAX),
-                          fill<int32_t, sizeof(V)>(lastRank<Pick, float>));
-        } else {
-            return v;
-        }
+        return ranksOf(v, lastRank<Pick, Element<V>>);
     }
 };
 template <class Pick, class T>
 T fromRank(RankOf<T> rank) {
-    if constexpr (std::is_integral_v<T>)
-        return rank;
-    else
-        return rank == lastRank<Pick, T> ? std::numeric_limits<T>::quiet_NaN()
-                                         : std::bit_cast<T>(rank ^ (rank >> 31 & INT32_MAX));
+    if constexpr (std::is_floating_point_v<T>)
+        if (rank == lastRank<Pick, T>) return std::numeric_limits<T>::quiet_NaN();
+    return ofRank<T>(rank);
 }
 
 template <int n, class Pick, class T>
