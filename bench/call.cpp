@@ -110,7 +110,9 @@ double Call::number(const std::string& name) const {
     if (name == "dataType" || name == "srcDataType") return codes.at(type);
     if (name == "dstDataType") return codes.at(toType);
     if (name == "mask") return setting.mask == 5 && accepts("mask", MASK_5X5) ? MASK_5X5 : MASK_3X3;
+    if (name == "weight") return 3;
     if (name == "numChannels") {
+        if (std::strstr(member.name, "MedianGetBufferSize_32f")) return std::max(3, fromChannels);
         const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
         return three ? 3 : std::max(1, fromChannels);
     }
@@ -266,9 +268,11 @@ void* Call::workBuffer() {
     const std::string name = member.name;
     if (name.rfind("zmviFilter_", 0) == 0) return nullptr;
     const bool filter = name.rfind("zmviFilterBorder_", 0) == 0;
+    const bool typed = name.rfind("zmviFilterMedian_", 0) == 0;
     const Member& query =
         findMember(isResize() ? "zmviResizeGetBufferSize_" + type
-                              : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize"));
+                              : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize") +
+                                    (typed ? "_" + type : ""));
     Setting asked = setting;
     asked.about = name;
     const auto call = query.bind(asked, build);

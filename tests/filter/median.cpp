@@ -76,7 +76,8 @@ void arrangeBordered(Case& c) {
     if (c.mode == Mode::usual && c.rng.oneIn(24)) w = c.rng.between(500, 1100) / c.member.to.channels, h = 1;
     int word = c.rng.oneIn(2) && c.mode != Mode::controls ? BORDER_REPL : BORDER_CONST;
     if (c.rng.oneIn(2)) word |= 16 * c.rng.below(16);
-    if (c.rng.oneIn(12) || (word & 0xf0) == 0xf0) word = c.mode == Mode::controls ? BORDER_CONST : BORDER_IN_MEM;
+    if (c.rng.oneIn(12)) word = BORDER_IN_MEM;
+    if (c.mode == Mode::controls) word = BORDER_CONST;  // so that every check can fail
     const Reach reach(mw, mh);
     const auto readable = [&](int flag, int64_t pixels) { return word & flag ? pixels : 0; };
     place(c, w, h,
@@ -84,7 +85,8 @@ void arrangeBordered(Case& c) {
            readable(BORDER_IN_MEM_TOP, reach.top), readable(BORDER_IN_MEM_BOTTOM, reach.bottom)});
     c.arg("borderValue") = nullptr;
     c.arg("borderType") = word;
-    c.placeValue("borderValue", c.member.to.used()), c.bindValue("borderValue");
+    if ((word & 15) == BORDER_CONST || c.member.to.channels == 1)
+        c.placeValue("borderValue", c.member.to.used()), c.bindValue("borderValue");
     c.arg("maskSize") = {mw, mh};
     // A tile may ask for more than the whole: for no more than all of its pixels.
     c.placeBuffer("buffer", c.bufferSize() + (c.mode == Mode::tiles ? (mw + w) * (mh + h + 32) * 16 : 0));
@@ -95,7 +97,12 @@ void arrangeAnchored(Case& c) {
     const int ax = c.rng.below(mw), ay = c.rng.below(mh);
     place(c, c.width, c.height, {ax, mw - 1 - ax, ay, mh - 1 - ay});
     c.arg("maskSize") = {mw, mh}, c.arg("anchor") = {ax, ay};
-    c.placeBuffer("buffer", c.bufferSize());
+    const ImageSize roi{int(c.width), int(c.height)};
+    const bool doubles = c.member.source == Element::f64;
+    int bytes = 0;
+    (doubles ? FIND(c.library, zmviFilterMedianGetBufferSize_64f) : FIND(c.library, zmviFilterMedianGetBufferSize_32f))(
+        roi, {mw, mh}, c.member.to.channels, &bytes);
+    c.placeBuffer("buffer", bytes);
 }
 
 void arrangeFixed(Case& c) {
