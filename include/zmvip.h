@@ -1360,6 +1360,124 @@ ZMV_API StatusCode zmviFilterSharpenBorder_32f_C3R(const float* src, int srcStep
 ZMV_API StatusCode zmviFilterSharpenBorder_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
 ZMV_API StatusCode zmviFilterSharpenBorder_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask, int borderType, const float* borderValue, uint8_t* buffer);
 
+/* zmviFilterMedianBorderGetBufferSize: The size in bytes of the work buffer of zmviFilterMedianBorder.
+   For a region, a mask, an element type (DATATYPE_8U, _16U or _16S, or of one channel _32F) and a channel count (1, 3,
+   or 4 for C4 and AC4).  No alignment is asked of the buffer.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1, then width or height of maskSize is even.
+   STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U, _16S or
+   _32F, then DATATYPE_32F with more than one channel.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647; 0 is
+   written.
+   src/filter/pimedian8u.cpp */
+ZMV_API StatusCode zmviFilterMedianBorderGetBufferSize(ImageSize roiSize, ImageSize maskSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviFilterMedianBorder: The median of the window round each pixel, channel by channel.
+   The window of (x, y) is columns x - maskSize.width / 2 .. x + maskSize.width / 2 and rows likewise, both odd.  Pixels
+   outside the region come from borderType: BORDER_REPL or BORDER_CONST (borderValue: one value a channel, three for
+   AC4), each with any BORDER_IN_MEM_ flags for sides to be read from memory, or BORDER_IN_MEM alone.  AC4 leaves the
+   fourth channel as it was.
+   32f: -0 comes before 0, every NaN behind infinity; a NaN in the middle gives the positive quiet NaN.  A window of one
+   pixel copies its bits, or does nothing where src is dst.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviFilterMedianBorderGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1, then width or height of maskSize is even.
+   STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: BORDER_CONST without borderValue, unless all
+   four sides are in memory.
+   src/filter/pimedian8u.cpp, pimedian16u.cpp, pimedian16s.cpp, pimedian32f.cpp */
+ZMV_API StatusCode zmviFilterMedianBorder_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint8_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint8_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, uint16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const uint16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, int16_t borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, const int16_t* borderValue, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedianBorder_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, int borderType, float borderValue, uint8_t* buffer);
+
+/* zmviFilterMedianGetBufferSize: The size in bytes of the work buffer of zmviFilterMedian.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_CHANNELS: numChannels is neither 3 nor 4
+   (_64f: not 1).  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483647; nothing is written.
+   src/filter/pimedian32f.cpp */
+ZMV_API StatusCode zmviFilterMedianGetBufferSize_32f(ImageSize roiSize, ImageSize maskSize, int numChannels, int* pBufferSize);
+ZMV_API StatusCode zmviFilterMedianGetBufferSize_64f(ImageSize roiSize, ImageSize maskSize, int numChannels, int* pBufferSize);
+
+/* zmviFilterMedian: The median of the window that covers columns x - anchor.x .. + maskSize.width - 1 and rows
+   likewise, channel by
+   channel, all read from the caller's memory: those round the region must be readable.  Of an even number it is the
+   lower of the two in the middle.  Zeros and NaNs are ranked as by zmviFilterMedianBorder.
+   The images must not overlap.
+   buffer has the size that zmviFilterMedianGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image or buffer is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: width or height of maskSize below 1.  STATUS_BAD_ANCHOR: anchor lies outside the mask.
+   STATUS_BAD_STEP: a step is not positive.
+   src/filter/pimedian32f.cpp */
+ZMV_API StatusCode zmviFilterMedian_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, ImagePoint anchor, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedian_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, ImagePoint anchor, uint8_t* buffer);
+ZMV_API StatusCode zmviFilterMedian_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize, ImageSize maskSize, ImagePoint anchor, uint8_t* buffer);
+
+/* zmviFilterMedianCross: The median of a pixel's row and its column within MASK_3X3 (five values) or MASK_5X5 (nine),
+   channel by channel.
+   One or two pixels round the region are read from memory.  AC4 leaves the fourth channel as it was.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_STEP: a step is not positive.
+   src/filter/pimedianfixed.cpp */
+ZMV_API StatusCode zmviFilterMedianCross_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianCross_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+
+/* zmviFilterMedianColor: The vector median of colours: the pixel of the window, MASK_3X3 or MASK_5X5, whose distances
+   to the others add up to
+   least.  Of equals the middle one wins, then the first in the order of rows.
+   A distance is the sum of the three channels' absolute differences.  32f: (first + second) + third, added in the order
+   of rows under the caller's rounding mode; a sum that is NaN counts as infinite.
+   One or two pixels round the region are read from memory.  AC4 leaves the fourth channel as it was.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: mask is none of these.  STATUS_BAD_STEP: a step is not positive.
+   src/filter/pimediancolour.cpp */
+ZMV_API StatusCode zmviFilterMedianColor_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask);
+ZMV_API StatusCode zmviFilterMedianColor_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, int mask);
+
+/* zmviFilterMedianWeightedCenter3x3: The median of a pixel and its eight neighbours, where the pixel counts `weight`
+   times; of an even number the lower of
+   the two in the middle.  From a weight of 9 on a copy.  The pixels next to the region are read from memory.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_OUT_OF_RANGE: weight is below 1.  STATUS_BAD_STEP: a step is not positive.
+   src/filter/pimedianfixed.cpp */
+ZMV_API StatusCode zmviFilterMedianWeightedCenter3x3_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, int weight);
+
+/* zmviMedian: The median of three planes, pixel by pixel.  dst may be one of the planes, with the same step; other
+   overlap is
+   undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or a plane is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/filter/pimedianfixed.cpp */
+ZMV_API StatusCode zmviMedian_8u_P3C1R(const uint8_t* const src[3], int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+
 /* zmviAdd: dst = src1 + src2.
    Integers: the exact result times 2 to the power of -scaleFactor, rounded to nearest with ties to even, saturated; any
    scaleFactor is accepted.  32f: the result in single precision, under the caller's rounding mode; where both operands
@@ -4134,6 +4252,481 @@ ZMV_API StatusCode zmviRemap_64f_C1R(const double* src, ImageSize srcSize, int s
 ZMV_API StatusCode zmviRemap_64f_C3R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
 ZMV_API StatusCode zmviRemap_64f_C4R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
 ZMV_API StatusCode zmviRemap_64f_AC4R(const double* src, ImageSize srcSize, int srcStep, ImageRect srcRoi, const double* pxMap, int xMapStep, const double* pyMap, int yMapStep, double* dst, int dstStep, ImageSize dstRoiSize, int interpolation);
+
+/* zmviResizeGetSize: The bytes of a spec object, and of the buffer of its initialisation, for source and
+   destination of these sizes.  64f: INTERP_LINEAR, or with antialiasing INTERP_CUBIC and INTERP_LANCZOS too.  To _L
+   objects are those of the other types; those of 64f come from the functions of 64f.
+   Checked in this order.  STATUS_NULL_POINTER: specSize or initBufSize is null.  STATUS_NO_OPERATION: a width or height
+   is zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.  STATUS_BAD_INTERPOLATION: interpolation is none of these.  STATUS_BAD_ARGUMENT: interpolation is 0, or
+   one that 64f does not have.  STATUS_BAD_SIZE: the source is lower or narrower than 2 pixels (linear), 4 (cubic,
+   Lanczos), or than the destination (super-sampling).  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483646 (not in _L).
+   STATUS_WARN_ANTIALIAS_IGNORED: antialiasing is asked for with INTERP_NEAREST or INTERP_SUPER.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeGetSize_8u(ImageSize srcSize, ImageSize dstSize, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+ZMV_API StatusCode zmviResizeGetSize_16u(ImageSize srcSize, ImageSize dstSize, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+ZMV_API StatusCode zmviResizeGetSize_16s(ImageSize srcSize, ImageSize dstSize, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+ZMV_API StatusCode zmviResizeGetSize_32f(ImageSize srcSize, ImageSize dstSize, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+ZMV_API StatusCode zmviResizeGetSize_64f(ImageSize srcSize, ImageSize dstSize, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+ZMV_API StatusCode zmviResizeGetSize_L(ImageSizeL srcSize, ImageSizeL dstSize, int interpolation, int antialiasing, int64_t* specSize, int64_t* initBufSize);
+
+/* zmviResizeNearestInit: Makes an object for zmviResizeNearest.  Destination pixel i takes source pixel
+   (i + 0.5) * srcSize / dstSize - 1e-10, cut toward zero.  spec has the size that zmviResizeGetSize reports, at any
+   alignment: the object starts at the first multiple of 64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec is null.  STATUS_NO_OPERATION: a width or height is zero: nothing
+   is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds 2147483647.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeNearestInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeNearestInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeNearestInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeNearestInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeNearestInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec);
+
+/* zmviResizeLinearInit: Makes an object for zmviResizeLinear.  spec has the size that zmviResizeGetSize reports, at any
+   alignment: the object starts at the first multiple of
+   64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec is null.  STATUS_NO_OPERATION: a width or height is zero: nothing
+   is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds 2147483647.
+   STATUS_BAD_SIZE: the source is lower or narrower than 2 pixels.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeLinearInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeLinearInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeLinearInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeLinearInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeLinearInit_64f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeLinearInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec);
+
+/* zmviResizeCubicInit: Makes an object for zmviResizeCubic, with the cubic kernel of the parameters B and C: 0, 0.5 for
+   the
+   usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in between.  spec has the size that zmviResizeGetSize
+   reports, at any alignment: the object starts at the first multiple of 64 bytes in it.  The caller's control word has
+   no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.  STATUS_BAD_SIZE: the source is lower or narrower than 4 pixels.  STATUS_BAD_ARGUMENT: B or C is not
+   finite.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeCubicInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeCubicInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeCubicInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeCubicInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeCubicInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+
+/* zmviResizeLanczosInit: Makes an object for zmviResizeLanczos.  Two checks come after the header and the tables of
+   positions are
+   written: STATUS_BAD_ARGUMENT, numLobes is not 2 or 3, and STATUS_BAD_SIZE, the source is lower or narrower than 4
+   pixels (2 lobes) or 6 (3).  They leave such an object, and the processor in the mode of this computation, rounding to
+   nearest and flushing small results to zero.  spec has the size that zmviResizeGetSize reports, at any alignment: the
+   object starts at the first multiple of 64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeLanczosInit_8u(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeLanczosInit_16u(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeLanczosInit_16s(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeLanczosInit_32f(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeLanczosInit_L(ImageSizeL srcSize, ImageSizeL dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+
+/* zmviResizeSuperInit: Makes an object for zmviResizeSuper.  spec has the size that zmviResizeGetSize reports, at any
+   alignment: the object starts at the first multiple of
+   64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec is null.  STATUS_NO_OPERATION: a width or height is zero: nothing
+   is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds 2147483647.
+   STATUS_BAD_SIZE: the source is lower or narrower than the destination.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeSuperInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeSuperInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeSuperInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeSuperInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec);
+ZMV_API StatusCode zmviResizeSuperInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec);
+
+/* zmviResizeAntialiasingLinearInit: Makes an object for zmviResizeAntialiasing with the linear kernel.  spec has the
+   size that zmviResizeGetSize reports, at any alignment: the object starts at the first multiple of
+   64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.  STATUS_BAD_SIZE: the source is lower or narrower than 2 pixels.  STATUS_SIZE_EXCEEDS_INT: so many taps a
+   pixel that no int holds their number.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_64f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLinearInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec, uint8_t* initBuf);
+
+/* zmviResizeAntialiasingCubicInit: Makes an object for zmviResizeAntialiasing with a cubic kernel; B and C as in
+   zmviResizeCubicInit.  spec has the size that zmviResizeGetSize reports, at any alignment: the object starts at the
+   first multiple of 64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.  STATUS_BAD_SIZE: the source is lower or narrower than 4 pixels.  STATUS_SIZE_EXCEEDS_INT: so many taps a
+   pixel that no int holds their number.  STATUS_BAD_ARGUMENT: B or C is not finite.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_8u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_16u(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_16s(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_32f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_64f(ImageSize srcSize, ImageSize dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+ZMV_API StatusCode zmviResizeAntialiasingCubicInit_L(ImageSizeL srcSize, ImageSizeL dstSize, ResizeSpec* spec, uint8_t* initBuf, float B, float C);
+
+/* zmviResizeAntialiasingLanczosInit: Makes an object for zmviResizeAntialiasing with a Lanczos kernel.  spec has the
+   size that zmviResizeGetSize reports, at any alignment: the object starts at the first multiple of
+   64 bytes in it.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_SIZE_EXCEEDS_INT: _L: a width or height exceeds
+   2147483647.  STATUS_BAD_ARGUMENT: numLobes is not 2 or 3.  STATUS_BAD_SIZE: the source is lower or narrower than 4
+   pixels (2 lobes) or 6 (3).  STATUS_SIZE_EXCEEDS_INT: so many taps a pixel that no int holds their number.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_8u(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_16u(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_16s(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_32f(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_64f(ImageSize srcSize, ImageSize dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+ZMV_API StatusCode zmviResizeAntialiasingLanczosInit_L(ImageSizeL srcSize, ImageSizeL dstSize, uint32_t numLobes, ResizeSpec* spec, uint8_t* initBuf);
+
+/* zmviResizeGetBufferSize: The bytes of the work buffer for tiles of this size and so many channels.  Sizes beyond
+   2147483646, in _L beyond 64 bits, are STATUS_SIZE_EXCEEDS_INT.
+   Checked in this order.  STATUS_NULL_POINTER: spec or bufSize is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of resizing, or not of this type (64f has its own;
+   _L services take all).  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_BAD_SIZE: one is negative.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeGetBufferSize_8u(const ResizeSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviResizeGetBufferSize_16u(const ResizeSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviResizeGetBufferSize_16s(const ResizeSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviResizeGetBufferSize_32f(const ResizeSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviResizeGetBufferSize_64f(const ResizeSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviResizeGetBufferSize_L(const ResizeSpec* spec, ImageSizeL dstTileSize, int numChannels, int64_t* bufSize);
+
+/* zmviResizeGetBorderSize: How many pixels beyond the source's left, top, right and bottom side are taken into
+   account, in this order: so many have to be in memory where a border word says that they are.
+   Checked in this order.  STATUS_NULL_POINTER: spec or borderSize is null.  STATUS_CONTEXT_MISMATCH: spec is no object
+   of resizing, or not of this type (64f has its own; _L services take all).
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeGetBorderSize_8u(const ResizeSpec* spec, int* borderSize);
+ZMV_API StatusCode zmviResizeGetBorderSize_16u(const ResizeSpec* spec, int* borderSize);
+ZMV_API StatusCode zmviResizeGetBorderSize_16s(const ResizeSpec* spec, int* borderSize);
+ZMV_API StatusCode zmviResizeGetBorderSize_32f(const ResizeSpec* spec, int* borderSize);
+ZMV_API StatusCode zmviResizeGetBorderSize_64f(const ResizeSpec* spec, int* borderSize);
+ZMV_API StatusCode zmviResizeGetBorderSize_L(const ResizeSpec* spec, int* borderSize);
+
+/* zmviResizeGetSrcOffset: The source pixel that src has to point at for a tile that starts at dstOffset:
+   dstOffset * srcSize / dstSize, rounded down, in every method.
+   Checked in this order.  STATUS_NULL_POINTER: spec or srcOffset is null.  STATUS_CONTEXT_MISMATCH: spec is no object
+   of resizing, or not of this type (64f has its own; _L services take all).  STATUS_OUT_OF_RANGE: dstOffset lies
+   outside the destination.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeGetSrcOffset_8u(const ResizeSpec* spec, ImagePoint dstOffset, ImagePoint* srcOffset);
+ZMV_API StatusCode zmviResizeGetSrcOffset_16u(const ResizeSpec* spec, ImagePoint dstOffset, ImagePoint* srcOffset);
+ZMV_API StatusCode zmviResizeGetSrcOffset_16s(const ResizeSpec* spec, ImagePoint dstOffset, ImagePoint* srcOffset);
+ZMV_API StatusCode zmviResizeGetSrcOffset_32f(const ResizeSpec* spec, ImagePoint dstOffset, ImagePoint* srcOffset);
+ZMV_API StatusCode zmviResizeGetSrcOffset_64f(const ResizeSpec* spec, ImagePoint dstOffset, ImagePoint* srcOffset);
+ZMV_API StatusCode zmviResizeGetSrcOffset_L(const ResizeSpec* spec, ImagePointL dstOffset, ImagePointL* srcOffset);
+
+/* zmviResizeGetSrcRoi: The rectangle of source pixels, inside the source, that a tile may read under any border word;
+   nothing else has to be there, but on sides in memory what lies beyond them.
+   Checked in this order.  STATUS_NULL_POINTER: spec or srcRoi is null.  STATUS_NO_OPERATION: a width or height is zero:
+   nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of resizing, or not of this type (64f has its own; _L
+   services take all).  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeGetSrcRoi_8u(const ResizeSpec* spec, ImagePoint dstOffset, ImageSize dstTileSize, ImageRect* srcRoi);
+ZMV_API StatusCode zmviResizeGetSrcRoi_16u(const ResizeSpec* spec, ImagePoint dstOffset, ImageSize dstTileSize, ImageRect* srcRoi);
+ZMV_API StatusCode zmviResizeGetSrcRoi_16s(const ResizeSpec* spec, ImagePoint dstOffset, ImageSize dstTileSize, ImageRect* srcRoi);
+ZMV_API StatusCode zmviResizeGetSrcRoi_32f(const ResizeSpec* spec, ImagePoint dstOffset, ImageSize dstTileSize, ImageRect* srcRoi);
+ZMV_API StatusCode zmviResizeGetSrcRoi_64f(const ResizeSpec* spec, ImagePoint dstOffset, ImageSize dstTileSize, ImageRect* srcRoi);
+ZMV_API StatusCode zmviResizeGetSrcRoi_L(const ResizeSpec* spec, ImagePointL dstOffset, ImageSizeL dstTileSize, ImageRectL* srcRoi);
+
+/* zmviResizeSetMode: Moves the places that destination pixels take in the source by up to half a source pixel, as
+   chroma planes want it: x = (i + 0.5) * srcSize / dstSize - 0.5 + shiftX.  Forms the object anew, from its header.
+   Checked in this order.  STATUS_NULL_POINTER: spec is null.  STATUS_CONTEXT_MISMATCH: spec is no object of resizing,
+   or not of this type (64f has its own; _L services take all).  STATUS_OUT_OF_RANGE: a shift is NaN or beyond 0.5 in
+   magnitude.  STATUS_BAD_ARGUMENT: the object is one for super-sampling.
+   src/geometry/piresizen64x.cpp */
+ZMV_API StatusCode zmviResizeSetMode(double shiftX, double shiftY, ResizeSpec* spec);
+
+/* zmviResizeNearest: Resizes by the nearest pixel.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_NO_OPERATION: a width or
+   height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of resizing, or not of this type (64f
+   has its own; _L services take all).  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside
+   the destination.  STATUS_BAD_ARGUMENT: the object is for antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for
+   another method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeNearest_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+
+/* zmviResizeLinear: Resizes by linear interpolation, a + (b - a) * f, along rows and then along columns.  8u: with
+   fractions of 14 bits, between its neighbours and within 0.55 of the exact value.
+   Pixel i is taken from x = (i + 0.5) * srcSize / dstSize - 0.5, rows first.  What lies outside the whole source comes
+   from borderType: BORDER_REPL or 4, the nearest pixel; BORDER_MIRROR (not for Lanczos); each with any BORDER_IN_MEM_
+   flags for sides whose pixels are in memory, as many as zmviResizeGetBorderSize says, or BORDER_IN_MEM alone.
+   borderValue is not looked at.  An axis of equal lengths takes the pixel itself.  16u, 16s: in floats, rounded once at
+   the end, to nearest even; 32f, 64f: in their type, under the caller's rounding mode.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: an image, spec or
+   buffer is null.  STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is
+   no object of resizing, or not of this type (64f has its own; _L services take all).  STATUS_BAD_SIZE: one is
+   negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.  STATUS_BAD_ARGUMENT: the object is for
+   antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for another method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C1R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C3R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLinear_64f_C4R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+
+/* zmviResizeCubic: Resizes with 4 x 4 pixels and the weights of a cubic kernel.  8u: with weights of 14 bits, within
+   0.6
+   of the exact value.
+   Pixel i is taken from x = (i + 0.5) * srcSize / dstSize - 0.5, rows first.  What lies outside the whole source comes
+   from borderType: BORDER_REPL or 4, the nearest pixel; BORDER_MIRROR (not for Lanczos); each with any BORDER_IN_MEM_
+   flags for sides whose pixels are in memory, as many as zmviResizeGetBorderSize says, or BORDER_IN_MEM alone.
+   borderValue is not looked at.  An axis of equal lengths takes the pixel itself.  16u, 16s: in floats, rounded once at
+   the end, to nearest even; 32f, 64f: in their type, under the caller's rounding mode.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: an image, spec or
+   buffer is null.  STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is
+   no object of resizing, or not of this type (64f has its own; _L services take all).  STATUS_BAD_SIZE: one is
+   negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.  STATUS_BAD_ARGUMENT: the object is for
+   antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for another method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeCubic_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+
+/* zmviResizeLanczos: Resizes with 4 x 4 or 6 x 6 pixels and the weights of a Lanczos kernel of 2 or 3 lobes.  8u: with
+   weights of 14 bits, within 0.6 of the exact value.
+   Pixel i is taken from x = (i + 0.5) * srcSize / dstSize - 0.5, rows first.  What lies outside the whole source comes
+   from borderType: BORDER_REPL or 4, the nearest pixel; BORDER_MIRROR (not for Lanczos); each with any BORDER_IN_MEM_
+   flags for sides whose pixels are in memory, as many as zmviResizeGetBorderSize says, or BORDER_IN_MEM alone.
+   borderValue is not looked at.  An axis of equal lengths takes the pixel itself.  16u, 16s: in floats, rounded once at
+   the end, to nearest even; 32f, 64f: in their type, under the caller's rounding mode.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: an image, spec or
+   buffer is null.  STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is
+   no object of resizing, or not of this type (64f has its own; _L services take all).  STATUS_BAD_SIZE: one is
+   negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.  STATUS_BAD_ARGUMENT: the object is for
+   antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for another method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeLanczos_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeLanczos_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+
+/* zmviResizeSuper: Reduces by the mean over the area of the source that a pixel covers, parts of pixels in proportion.
+   Integers: the exact mean, rounded to nearest even.  32f: in double, columns first, divided and rounded once, under
+   the caller's rounding mode.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_NO_OPERATION: a width or
+   height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of resizing, or not of this type (64f
+   has its own; _L services take all).  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside
+   the destination.  STATUS_BAD_ARGUMENT: the object is for antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for
+   another method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeSuper_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeSuper_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, const ResizeSpec* spec, uint8_t* buffer);
+
+/* zmviResizeAntialiasing: Resizes with the kernel of the object; along an axis that becomes shorter it is stretched by
+   the
+   reduction, so that every source pixel counts.  8u: with weights of 14 bits and up to 16 taps, within 0.75 of the
+   exact value; else in floats.
+   Pixel i is taken from x = (i + 0.5) * srcSize / dstSize - 0.5, rows first.  What lies outside the whole source comes
+   from borderType: BORDER_REPL or 4, the nearest pixel; BORDER_MIRROR (not for Lanczos); each with any BORDER_IN_MEM_
+   flags for sides whose pixels are in memory, as many as zmviResizeGetBorderSize says, or BORDER_IN_MEM alone.
+   borderValue is not looked at.  An axis of equal lengths takes the pixel itself.  16u, 16s: in floats, rounded once at
+   the end, to nearest even; 32f, 64f: in their type, under the caller's rounding mode.
+   A tile of the destination starts at dstOffset; dst is its first pixel, src the source pixel that
+   zmviResizeGetSrcOffset names.  What overhangs the destination is left out.  Tiles of any size give the bits of the
+   whole.  buffer has the size that zmviResizeGetBufferSize reports for the tile, at any alignment, and is used by one
+   call at a time; spec may serve many.  Any step is accepted.  src and dst must not overlap.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_BAD_BORDER: borderType is none of these.  STATUS_NULL_POINTER: an image, spec or
+   buffer is null.  STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is
+   no object of resizing, or not of this type (64f has its own; _L services take all).  STATUS_BAD_SIZE: one is
+   negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.  STATUS_BAD_ARGUMENT: the object is not for
+   antialiasing.  Then again STATUS_CONTEXT_MISMATCH: it is for a method without weights.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizen.cpp */
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C1R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C3R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_16s_C4R_L(const int16_t* src, int64_t srcStep, int16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const int16_t* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C1R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C3R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
 
 #ifdef __cplusplus
 }
