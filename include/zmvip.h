@@ -1446,7 +1446,7 @@ ZMV_API StatusCode zmviFilterMedianCross_16s_AC4R(const int16_t* src, int srcSte
    to the others add up to
    least.  Of equals the middle one wins, then the first in the order of rows.
    A distance is the sum of the three channels' absolute differences.  32f: (first + second) + third, added in the order
-   of rows under the caller's rounding mode; a sum that is NaN counts as infinite.
+   of rows, each step rounded to nearest; a sum that is NaN counts as infinite.
    One or two pixels round the region are read from memory.  AC4 leaves the fourth channel as it was.
    The images must not overlap.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.

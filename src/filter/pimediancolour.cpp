@@ -1,4 +1,5 @@
 // zmviFilterMedianColor: the vector median, the pixel of a window that is nearest to all the others.
+#include "kernels/rounding.h"
 #include "kernels/rows.h"
 #include "kernels/simd_convert.h"
 #include "kernels/smallwindow.h"
@@ -93,6 +94,6 @@ StatusCode ownpi_MedianColor(Image<const T> src, Image<T> dst, Roi roi, int mask
 }  // namespace zmv
 
 using namespace zmv;
-#define ENTRY_OF ZMV_DEFINE
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
 #include "filter/median.def"
 MEDIAN_COLOUR_FAMILY

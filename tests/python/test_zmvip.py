@@ -20,7 +20,7 @@ LIBC = ctypes.CDLL(None)
 # Everyday values of parameters that may be anything, but not what they are of their kind.
 USUAL = {"mask_size": 3, "block_size": 4, "window_size": 3, "kernel": np.arange(9).reshape(3, 3), "levels": [0, 60, 200, 256],
          "values": [250, 10, 90, 30], "lower_level": 0, "upper_level": 256, "n_levels": 9, "n_bit_size": 8, "table": None,
-         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "num_lobes": 3, "size": (30, 19), "dst_order": None}
+         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "num_lobes": 3, "size": (13, 9), "dst_order": None}
 BY_ROLE = {"constant": 5, "number": 1, "size": 3, "option": 0}
 
 
