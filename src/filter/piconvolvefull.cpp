@@ -187,7 +187,7 @@ void convolveTiles(Image<const T> src, Image<const T> kernel, Image<T> dst, cons
                     const bool inside = row >= 0 && row < plan.image.height;
                     for (Len x = 0; x < tile.width + window.width - 1; ++x) {
                         const bool has = inside && first + x >= 0 && first + x < plan.image.width;
-                        pixels[y * width + x] = has ? get(src.row(row) + (first + x) * n + c) : T(0);
+                        put(pixels + y * width + x, has ? get(src.row(row) + (first + x) * n + c) : T(0));
                     }
                 }
                 Window within = window;
@@ -198,7 +198,7 @@ void convolveTiles(Image<const T> src, Image<const T> kernel, Image<T> dst, cons
                     {kernel.data + c, kernel.step}, n, within, divisor, scratch);
                 for (Len y = 0; y < tile.height; ++y)
                     for (Len x = 0; x < tile.width; ++x)
-                        put(dst.row(y0 + y) + (x0 + x) * n + c, made[y * tileWidth + x]);
+                        put(dst.row(y0 + y) + (x0 + x) * n + c, get(made + y * tileWidth + x));
             }
 }
 

@@ -109,7 +109,7 @@ class Quotient {
             const auto b = wideValue<rounding>(loadWiden<double>(ints + half));
             return roundToInt(a, b) + add_;
         } else {
-            auto u = s + (int32_t(bias_) - int32_t(base_));
+            auto u = asSigned(asUnsigned(s) + uint32_t(bias_ - base_));  // modulo 2^32, in which it fits
             if constexpr (rounding == towardZero) u += (s < zero_) & int32_t(divisor_ - 1);
             if constexpr (kind == shift) {
                 if constexpr (rounding == even) u = u - 1 + (((u - int32_t(bias_)) >> shift_) & 1);
