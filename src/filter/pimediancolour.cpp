@@ -1,4 +1,6 @@
 // zmviFilterMedianColor: the vector median, the pixel of a window that is nearest to all the others.
+#include <algorithm>
+
 #include "kernels/rounding.h"
 #include "kernels/rows.h"
 #include "kernels/simd_convert.h"
@@ -27,8 +29,11 @@ class ColourMedian {
         for (Len from = 0; from < count / n; from += most) {
             const Len pixels = std::min(most, count / n - from);
             for (int i = 0; i < side; ++i)
-                for (int c = 0; c < channels; ++c)
-                    for (Len x = 0; x < pixels + side - 1; ++x) planes[c][i][x] = S(get(row[i] + (from + x) * n + c));
+                for (int c = 0; c < channels; ++c) {
+                    const Len end = pixels + side - 1;
+                    for (Len x = 0; x < end; ++x) planes[c][i][x] = S(get(row[i] + (from + x) * n + c));
+                    std::fill_n(planes[c][i] + end, lanes<S>, S(0));  // the rest of a vector
+                }
             for (Len x = 0; x < pixels; x += lanes<S>) {
                 int32_t best[lanes<S>];
                 store(best, nearest(planes, x));

@@ -252,7 +252,8 @@ StatusCode ownpi_ResizeGetSrcOffset(ObjectsOf objects, const ResizeSpec* spec, A
     const ResizeHeader header = headerIn(spec);
     if (auto bad = firstOf({pointers(spec, src), known(header, objects), insideDestination(header, dst)})) return bad;
     const At offset = sourceOffset(header, dst);
-    put(&src->x, decltype(src->x)(offset.x)), put(&src->y, decltype(src->y)(offset.y));
+    using Number = decltype(Point::x);
+    put(src, {Number(offset.x), Number(offset.y)});
     return STATUS_OK;
 }
 
@@ -288,9 +289,8 @@ StatusCode ownpi_ResizeGetSrcRoi(ObjectsOf objects, const ResizeSpec* spec, At d
                             ? std::pair(area(header.horizontal, dst.x, right), area(header.vertical, dst.y, bottom))
                         : header.isDouble() ? tables(double{})
                                             : tables(float{});
-    using Number = decltype(rect->x);
-    put(&rect->x, Number(x.from)), put(&rect->width, Number(x.to - x.from));
-    put(&rect->y, Number(y.from)), put(&rect->height, Number(y.to - y.from));
+    using Number = decltype(Rect::x);
+    put(rect, {Number(x.from), Number(y.from), Number(x.to - x.from), Number(y.to - y.from)});
     return clipped.status;
 }
 

@@ -46,11 +46,13 @@ struct BytesLinear {
         return int16_t(2 * std::min(toWhole(16384 * double(*axis.group(i))), 16383.0));
     }
     void putWeights(Len x, Weight* to, Len) const { *to = factor(columns, x); }
+    // Within 16 bits, but for what stands in lanes that nobody asked for.
+    static ZMV_INLINE Vec<A> mix(Vec<A> a, Vec<A> b) { return (Vec<A>)((Vec<U>)a + (Vec<U>)b); }
     template <class At, class Count>
     ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len, Count) const {
         const Vec<U> taps = at(Len(0), 0);
         const auto a = (Vec<A>)((taps & 255) << 7), b = (Vec<A>)(taps >> 1 & 0x7f80);
-        return a + 64 + mulRoundedSigned(b - a, load(weights));
+        return mix(a + 64, mulRoundedSigned(b - a, load(weights)));
     }
     void setRow(Len y) { rowFactor = factor(rows, y); }
     template <class Count>
@@ -59,7 +61,8 @@ struct BytesLinear {
             const auto mixed = [&](Len i) {
                 const auto a = load(first + i);
                 if constexpr (Count::value != 2) return a >> 7;
-                return (a + mulRoundedSigned(load(second + i) - a, factor)) >> 7;
+                const auto apart = (Vec<A>)((Vec<U>)load(second + i) - (Vec<U>)a);
+                return mix(a, mulRoundedSigned(apart, factor)) >> 7;
             };
             return joined<T>(std::array{mixed(x), mixed(x + lanes<A>)});
         };
