@@ -1,6 +1,7 @@
 // zmviFilterMedianColor: the vector median, the pixel of a window that is nearest to all the others.
 #include <algorithm>
 
+#include "filter/fixedmask.h"
 #include "kernels/rounding.h"
 #include "kernels/rows.h"
 #include "kernels/simd_convert.h"
@@ -78,9 +79,7 @@ class ColourMedian {
 
 template <Layout layout, class T>
 StatusCode ownpi_MedianColor(Image<const T> src, Image<T> dst, Roi roi, int mask) {
-    if (auto bad =
-            firstOf({pointers(src.data, dst.data), size(roi),
-                     refuse(mask != MASK_3X3 && mask != MASK_5X5, STATUS_BAD_MASK_SIZE), steps(src.step, dst.step)}))
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), maskCode(mask, true), steps(src.step, dst.step)}))
         return bad;
     constexpr int n = layout.channels;
     const auto go = [&]<int side>() {

@@ -1,4 +1,5 @@
 // Medians of fixed shapes: crosses, the weighted middle of 3 x 3, three planes.
+#include "filter/fixedmask.h"
 #include "filter/mediannetwork.h"
 #include "kernels/pointwise.h"
 
@@ -63,9 +64,7 @@ struct Cross {
 };
 template <Layout layout, class T>
 StatusCode ownpi_MedianCross(Image<const T> src, Image<T> dst, Roi roi, int mask) {
-    if (auto bad =
-            firstOf({pointers(src.data, dst.data), size(roi),
-                     refuse(mask != MASK_3X3 && mask != MASK_5X5, STATUS_BAD_MASK_SIZE), steps(src.step, dst.step)}))
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), maskCode(mask, true), steps(src.step, dst.step)}))
         return bad;
     if (mask == MASK_3X3)
         filterShape<layout>(src, dst, roi, 3, Cross<3>());

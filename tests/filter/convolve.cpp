@@ -1,40 +1,23 @@
-// zmviFilterBorder, zmviFilter and zmviConv, their queries and the spec object.
-#include <gtest/gtest.h>
+// zmviFilterBorder and zmviFilter, their queries and the spec object.
+#include "filter/convolve.h"
 
-#include <climits>
 #include <cmath>
-#include <memory>
 
-#include "filter/box.h"
+#include "arith/arith.h"
 #include "harness/spec.h"
 
 namespace {
 
 using namespace test;
 
-const std::map<Element, int> typeCodes = {{Element::u8, DATATYPE_8U},
-                                          {Element::u16, DATATYPE_16U},
-                                          {Element::s16, DATATYPE_16S},
-                                          {Element::f32, DATATYPE_32F},
-                                          {Element::f64, DATATYPE_64F}};
-
-#define FIND(library, name) reinterpret_cast<decltype(&name)>((library).find(#name))
-
 // ---- Rounding ----
-
-__int128 floorOf(__int128 a, __int128 b) { return a / b - (a % b != 0 && (a < 0) != (b < 0)); }
 
 // sum / divisor, rounded once.
 __int128 quotient(int64_t sum, int divisor, int mode) {
     const __int128 n = divisor < 0 ? -__int128(sum) : sum, d = divisor < 0 ? -int64_t(divisor) : divisor;
-    if (mode == ROUND_ZERO) return divisor > 0 && (d & (d - 1)) == 0 ? floorOf(n, d) : n / d;
-    const __int128 q = floorOf(2 * n + d, 2 * d);
+    if (mode == ROUND_ZERO) return divisor > 0 && (d & (d - 1)) == 0 ? floorOver(n, d) : n / d;
+    const __int128 q = floorOver(2 * n + d, 2 * d);
     return mode == ROUND_NEAR && (2 * n + d) % (2 * d) == 0 && q % 2 != 0 ? q - 1 : q;
-}
-template <class T>
-T saturated(__int128 v) {
-    constexpr __int128 low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-    return T(std::min(std::max(v, low), high));
 }
 template <class T>
 T rounded(float v, int mode) {
@@ -45,33 +28,6 @@ T rounded(float v, int mode) {
     if (mode == ROUND_ZERO) return T(std::trunc(x));
     if (mode == ROUND_FINANCIAL) return T(std::floor(x + 0.5));
     return T(x - down > 0.5 || (x - down == 0.5 && std::fmod(down, 2) != 0) ? down + 1 : down);
-}
-
-// ---- Sums ----
-
-// One operation in the order of the contract: the NaN of a goes before that of b.
-template <class T, class Operation>
-T inOrder(T x, T y, Operation operation) {
-    const volatile T a = x, b = y;
-    return a != a ? a + a : operation(T(a), T(b));
-}
-// tap(i, j) and pixel(i, j), the top row of the window first.
-template <class T, class Tap, class Pixel>
-T realSum(int64_t rows, int64_t columns, Tap tap, Pixel pixel) {
-    T sum = 0;
-    for (int64_t i = 0; i < rows; ++i)
-        for (int64_t j = 0; j < columns; ++j) {
-            const T product = inOrder<T>(tap(i, j), pixel(i, j), [](T a, T b) { return a * b; });
-            sum = i + j == 0 ? product : inOrder<T>(sum, product, [](T a, T b) { return a + b; });
-        }
-    return sum;
-}
-template <class Tap, class Pixel>
-int64_t wholeSum(int64_t rows, int64_t columns, Tap tap, Pixel pixel) {
-    int64_t sum = 0;
-    for (int64_t i = 0; i < rows; ++i)
-        for (int64_t j = 0; j < columns; ++j) sum += int64_t(tap(i, j)) * int64_t(pixel(i, j));
-    return sum;
 }
 
 // ---- The spec object ----
@@ -106,9 +62,6 @@ __int128 bandBytes(int64_t kw, int64_t kh, int64_t w, int64_t h, int element, in
     }
     return ((cells * element * channels + 31) & ~31) + 32;
 }
-
-const int divisors[] = {1,   1,    2,    3,     4,     6,  8,  9,  16,  41,      100,     255,
-                        256, 1000, 4096, 65536, 70001, -1, -3, -4, -41, 1 << 30, INT_MAX, INT_MIN};
 
 // A kernel of any kind, at the limits of what could make it quicker to use.
 void tellKernel(Case& c, int kw, int kh, bool integers) {
@@ -180,7 +133,7 @@ void arrangeFilter(Case& c) {
     if (c.mode == Mode::usual && c.rng.oneIn(16)) w = c.rng.between(900, 9000) / channelsOf(c), h = c.rng.between(1, 3);
     const Element type = c.member.source;
     tellKernel(c, kw, kh, type != Element::f32 && type != Element::f64 && c.rng.oneIn(2));
-    placeFilter(c, typeCodes.at(type), channelsOf(c));
+    placeFilter(c, dataTypeOf(type), channelsOf(c));
 
     const int rules[] = {BORDER_REPL, BORDER_MIRROR, BORDER_CONST};
     int word = c.mode == Mode::controls ? int(BORDER_CONST) : rules[c.rng.below(3)];
@@ -204,7 +157,7 @@ void arrangeFilter(Case& c) {
     c.arg("dstRoiSize") = {w, h};
     c.arg("borderType") = word;
     int unused = 0, bytes = 0;
-    const int code = typeCodes.at(type);
+    const int code = dataTypeOf(type);
     FIND(c.library, zmviFilterBorderGetSize)
     ({kw, kh}, {int(w), int(h)}, code, code == DATATYPE_64F ? code : DATATYPE_32F, channelsOf(c), &unused, &bytes);
     // A tile may ask for more than the whole: for no more than all of its pixels.
@@ -247,7 +200,7 @@ void judgeFilter(Case& c) {
             for (int64_t y = 0; y < src.height; ++y)
                 for (int64_t x = 0; x < src.width; ++x)
                     c.set(dst, x, y, k,
-                          filtered<T>(told, typeCodes.at(src.element), src.channels, [&](int64_t i, int64_t j) {
+                          filtered<T>(told, dataTypeOf(src.element), src.channels, [&](int64_t i, int64_t j) {
                               return extended(x - reach.left + j, y - reach.top + i, k);
                           }));
     });
@@ -283,75 +236,7 @@ void judgeDirect(Case& c) {
                   }));
 }
 
-// ---- zmviConv ----
-
-int64_t areaOf(Slot size) { return size.a * size.b; }
-bool exchanges(bool valid, Slot a, Slot b) { return valid ? a.a < b.a || a.b < b.b : areaOf(a) < areaOf(b); }
-
-void arrangeConv(Case& c) {
-    const bool valid = c.rng.oneIn(2), far = c.mode == Mode::far;
-    Slot one{c.width, far ? c.height : c.rng.between(1, 12)}, two{c.rng.between(1, 12), far ? 3 : c.rng.between(1, 12)};
-    if (valid) two = {std::min(one.a, two.a), std::min(one.b, two.b)};
-    if (c.rng.oneIn(3)) std::swap(one, two);
-    const bool apart = valid && c.mode == Mode::usual && c.rng.oneIn(20);  // neither lies in the other
-    if (apart) one.a = two.a + 1, two.b = one.b + 1, c.expected = STATUS_BAD_SIZE;
-    const bool swapped = exchanges(valid, one, two);
-    const Slot image = swapped ? two : one, kernel = swapped ? one : two;
-    const int64_t sign = valid ? -1 : 1;
-    c.rowsApart = true;
-    c.place("src1", one.a, one.b), c.place("src2", two.a, two.b);
-    c.place("dst", std::max<int64_t>(1, image.a + sign * (kernel.a - 1)),
-            std::max<int64_t>(1, image.b + sign * (kernel.b - 1)));
-    c.arg("src1Size") = one, c.arg("src2Size") = two;
-    for (const char* name : {"src1", "src2"})
-        if (c.member.source == Element::f32) fillFloats<float>(c, c.image(name));
-    if (c.has("divisor")) c.arg("divisor") = divisors[c.rng.below(int(std::size(divisors)))];
-    const int algType = c.rng.below(3) | (valid ? CONV_SHAPE_VALID : CONV_SHAPE_FULL) | 0x7f00ff00 * c.rng.below(2);
-    c.arg("algType") = algType;
-    int bytes = 64;
-    FIND(c.library, zmviConvGetBufferSize)
-    ({int(one.a), int(one.b)}, {int(two.a), int(two.b)}, typeCodes.at(c.member.source), channelsOf(c), algType, &bytes);
-    c.placeBuffer("buffer", bytes);
-}
-
-void judgeConv(Case& c) {
-    if (c.expected < 0) return;
-    const bool valid = c.arg("algType").a >> 16 & 255;
-    const bool swapped = exchanges(valid, c.arg("src1Size"), c.arg("src2Size"));
-    const Image &image = c.image(swapped ? "src2" : "src1"), &kernel = c.image(swapped ? "src1" : "src2"),
-                &dst = c.image("dst");
-    const int64_t left = valid ? 0 : kernel.width - 1, top = valid ? 0 : kernel.height - 1;
-    withElement(image.element, [&](auto zero) {
-        using T = decltype(zero);
-        for (int k = 0; k < image.channels; ++k)
-            for (int64_t y = 0; y < dst.height; ++y)
-                for (int64_t x = 0; x < dst.width; ++x) {
-                    const auto tap = [&](int64_t i, int64_t j) {
-                        return c.get<T>(kernel, kernel.width - 1 - j, kernel.height - 1 - i, k);
-                    };
-                    const auto pixel = [&](int64_t i, int64_t j) {
-                        const int64_t column = x - left + j, row = y - top + i;
-                        const bool inside = column >= 0 && row >= 0 && column < image.width && row < image.height;
-                        return inside ? c.get<T>(image, column, row, k) : T(0);
-                    };
-                    if constexpr (std::is_floating_point_v<T>)
-                        c.set(dst, x, y, k, realSum<T>(kernel.height, kernel.width, tap, pixel));
-                    else
-                        c.set(dst, x, y, k,
-                              saturated<T>(quotient(wholeSum(kernel.height, kernel.width, tap, pixel),
-                                                    int(c.arg("divisor").a), ROUND_NEAR)));
-                }
-    });
-}
-
 // ---- Queries and makers ----
-
-int anyLength(Case& c, int bits) {
-    const bool everyday = c.mode == Mode::controls || c.rng.oneIn(3);
-    return everyday          ? c.rng.between(1, 60)
-           : c.rng.oneIn(30) ? INT_MAX
-                             : std::max(1, int(c.rng.next() % INT_MAX >> c.rng.below(bits)));
-}
 
 void arrangeSizes(Case& c) {
     const int types[] = {DATATYPE_8U, DATATYPE_16U, DATATYPE_16S, DATATYPE_32F, DATATYPE_64F};
@@ -443,52 +328,6 @@ void arrangeNoBuffer(Case& c) {
 }
 void answerNoBuffer(Case& c) { c.set(c.image("pSize"), 0, 0, 0, 0); }
 
-void arrangeConvSize(Case& c) {
-    const int one = anyLength(c, 31), two = anyLength(c, 31);
-    c.arg("src1Size") = {std::max(one, 2), std::max(two, 2)};
-    c.arg("src2Size") = {anyLength(c, 31) % std::max(one, 2) + 1, anyLength(c, 31) % std::max(two, 2) + 1};
-    const int types[] = {DATATYPE_8U, DATATYPE_16S, DATATYPE_32F}, counts[] = {1, 3, 4};
-    c.arg("dataType") = types[c.rng.below(3)], c.arg("numChannels") = counts[c.rng.below(3)];
-    c.arg("algType") = c.rng.below(3) | CONV_SHAPE_VALID * c.rng.below(2);
-    if (c.mode == Mode::usual && c.rng.oneIn(10)) {
-        c.arg("src1Size") = {2, 1}, c.arg("src2Size") = {1, 2}, c.arg("algType") = CONV_SHAPE_VALID;
-        c.expected = STATUS_BAD_SIZE;
-    }
-    c.place("pBufferSize", 1, 1);
-}
-void answerConvSize(Case& c) {  // that it is enough is seen where it is used
-    const Image& place = c.image("pBufferSize");
-    const int bytes = c.result<int>(place, 0, 0);
-    if (c.expected < 0) return;
-    if (c.returned == STATUS_SIZE_EXCEEDS_INT) return void(c.expected = STATUS_SIZE_EXCEEDS_INT);
-    if (bytes < 64) c.fail("too small a buffer");
-    c.set(place, 0, 0, 0, bytes);
-}
-
-// Products that cancel each other only after their sum has passed what doubles hold.
-TEST(Large, ConvolutionsBeyondDoubles) {
-    constexpr int side = 4100;
-    constexpr int16_t most = 32767, rest = 1234;
-    std::vector<int16_t> image(size_t(side) * side, most), kernel(image.size(), most);
-    for (size_t k = kernel.size() / 2; k < kernel.size(); ++k) kernel[k] = -most;
-    kernel[0] = most - 1, image[image.size() - 1] = most;  // one product less by 32767
-    int bytes = 0;
-    const ImageSize size{side, side};
-    const Library& l = builds().front();
-    ASSERT_EQ(FIND(l, zmviConvGetBufferSize)(size, size, DATATYPE_16S, 1, CONV_SHAPE_VALID, &bytes), STATUS_OK);
-    const std::unique_ptr<uint8_t[]> buffer(new uint8_t[size_t(bytes)]);
-    int16_t result = 0;
-    ASSERT_EQ(FIND(l, zmviConv_16s_C1R)(image.data(), side * 2, size, kernel.data(), side * 2, size, &result, 2, 1,
-                                        CONV_SHAPE_VALID, buffer.get()),
-              STATUS_OK);
-    EXPECT_EQ(result, -most);
-    kernel[1] = rest, kernel.back() = -rest + 1;
-    ASSERT_EQ(FIND(l, zmviConv_16s_C1R)(image.data(), side * 2, size, kernel.data(), side * 2, size, &result, 2, 1,
-                                        CONV_SHAPE_VALID, buffer.get()),
-              STATUS_OK);
-    EXPECT_EQ(result, 0);
-}
-
 }  // namespace
 
 extern const Family test_zmviFilterBorderGetSize = {.arrange = arrangeSizes, .oracle = answerSizes};
@@ -497,5 +336,3 @@ extern const Family test_zmviFilterBorderSetMode = {.arrange = arrangeMode, .ora
 extern const Family test_zmviFilterBorder = {.arrange = arrangeFilter, .oracle = judgeFilter};
 extern const Family test_zmviFilterGetBufSize = {.arrange = arrangeNoBuffer, .oracle = answerNoBuffer};
 extern const Family test_zmviFilter = {.arrange = arrangeDirect, .oracle = judgeDirect};
-extern const Family test_zmviConvGetBufferSize = {.arrange = arrangeConvSize, .oracle = answerConvSize};
-extern const Family test_zmviConv = {.arrange = arrangeConv, .oracle = judgeConv};

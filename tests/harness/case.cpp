@@ -243,20 +243,15 @@ void Case::alias(const std::string& name, const std::string& other) {
 int64_t Case::bufferSize(const std::string& reported) {
     for (const Member& query : members()) {
         if (query.name != member.facts().query) continue;
-        static const std::map<Element, int> codes = {{Element::u8, DATATYPE_8U},
-                                                     {Element::u16, DATATYPE_16U},
-                                                     {Element::s16, DATATYPE_16S},
-                                                     {Element::f32, DATATYPE_32F},
-                                                     {Element::f64, DATATYPE_64F}};
         std::vector<Slot> asked;
         int64_t answer = 0, other = 0;
         for (const Parameter& p : query.params)
             asked.push_back(p.name == reported        ? Slot(&answer)
                             : p.role == Role::result  ? Slot(&other)
                             : has(p.name)             ? arg(p.name)
-                            : p.name == "dataType"    ? codes.at(member.source)
-                            : p.name == "srcDataType" ? codes.at(member.source)
-                            : p.name == "dstDataType" ? codes.at(member.destination)
+                            : p.name == "dataType"    ? dataTypeOf(member.source)
+                            : p.name == "srcDataType" ? dataTypeOf(member.source)
+                            : p.name == "dstDataType" ? dataTypeOf(member.destination)
                             : p.name == "numChannels" ? member.to.channels
                                                       : throw query.name + ": what is " + p.name + "?");
         if (query.invoke(library.find(query.name), asked.data()) != STATUS_OK)

@@ -34,6 +34,23 @@ const Table& table() {
 
 }  // namespace
 
+int dataTypeOf(Element element) {
+    switch (element) {
+        case Element::u8:
+            return DATATYPE_8U;
+        case Element::u16:
+            return DATATYPE_16U;
+        case Element::s16:
+            return DATATYPE_16S;
+        case Element::f32:
+            return DATATYPE_32F;
+        case Element::f64:
+            return DATATYPE_64F;
+        default:
+            throw std::string("an element type that no query is told");
+    }
+}
+
 const std::vector<Member>& members() { return table().members; }
 const std::vector<Tested>& families() { return table().families; }
 

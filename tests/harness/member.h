@@ -47,6 +47,8 @@ void withElement(Element element, F f) {
     }
 }
 
+int dataTypeOf(Element element);  // as size queries are told
+
 struct Family;
 
 // A member with what is needed to call and to judge it.

@@ -45,14 +45,10 @@ void choosePixels(Case& c, const Image& src) {
 }
 
 void arrangeHistogram(Case& c) {
-    static const std::map<Element, int> codes = {{Element::u8, DATATYPE_8U},
-                                                 {Element::u16, DATATYPE_16U},
-                                                 {Element::s16, DATATYPE_16S},
-                                                 {Element::f32, DATATYPE_32F}};
     const int channels = c.member.to.channels, bytes = bytesOf(c.member.source);
     if (c.mode == Mode::usual && bytes < 4 && c.rng.oneIn(20))  // where one way to count ends
         c.height = (bytes == 1 ? 131072 : 32768) / c.width + c.rng.below(2);
-    arranged = anySpec(c, codes.at(c.member.source), channels, c.rng.oneIn(2));
+    arranged = anySpec(c, dataTypeOf(c.member.source), channels, c.rng.oneIn(2));
     const Image& src = c.place("src", c.width, c.height);
     withElement(c.member.source, [&](auto zero) { choosePixels<decltype(zero)>(c, src); });
     c.arg("roiSize") = {c.width, c.height};
