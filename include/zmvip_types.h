@@ -27,7 +27,7 @@ typedef int32_t StatusCode;
     STATUS(-59, STATUS_BAD_DATATYPE, "the data-type code is not accepted")                                     \
     STATUS(-58, STATUS_BAD_QUAD, "the quadrangle is degenerate")                                               \
     STATUS(-57, STATUS_BAD_RECT, "the rectangle is narrower or lower than two pixels")                         \
-    STATUS(-56, STATUS_BAD_COEFFS, "the affine coefficients map the rectangle onto a degenerate quadrangle")   \
+    STATUS(-56, STATUS_BAD_COEFFS, "the coefficients map the rectangle onto a degenerate quadrangle")          \
     STATUS(-53, STATUS_BAD_CHANNELS, "the channel count is not accepted")                                      \
     STATUS(-51, STATUS_BAD_DIVISOR, "the divisor of the kernel is zero")                                       \
     STATUS(-50, STATUS_BAD_ALPHA_TYPE, "the compositing operation is not accepted")                            \
@@ -103,7 +103,13 @@ enum { MASK_3X3 = 33, MASK_5X5 = 55 };
 enum { ROUND_ZERO = 0, ROUND_NEAR = 1, ROUND_FINANCIAL = 2, ROUND_HINT_ACCURATE = 16 };
 
 /* How zmviConv works, and which part of the result it gives: all of it, or where the smaller image lies inside. */
-enum { CONV_METHOD_AUTO = 0, CONV_METHOD_DIRECT = 1, CONV_METHOD_FFT = 2, CONV_SHAPE_FULL = 0, CONV_SHAPE_VALID = 0x10000 };
+enum {
+    CONV_METHOD_AUTO = 0,
+    CONV_METHOD_DIRECT = 1,
+    CONV_METHOD_FFT = 2,
+    CONV_SHAPE_FULL = 0,
+    CONV_SHAPE_VALID = 0x10000
+};
 
 /* The hint of sums and norms of floats: add up in double.  Any other number: in float, where that is faster. */
 enum { HINT_ACCURATE = 2 };
@@ -124,7 +130,8 @@ enum {
 };
 
 /* What compositing shows of image A and of image B, each with its alpha: A over B; A inside of B; A outside of B; A
-   inside of B, over B; each outside of the other; the sum of both.  _PREMUL: colours come multiplied by their alphas. */
+   inside of B, over B; each outside of the other; the sum of both.
+   _PREMUL: colours come multiplied by their alphas. */
 enum {
     ALPHA_OVER = 0,
     ALPHA_IN = 1,
@@ -146,9 +153,10 @@ enum { AXIS_HORIZONTAL = 0, AXIS_VERTICAL = 1, AXIS_BOTH = 2, AXIS_DIAGONAL_A = 
 /* The border word: a rule, plus one flag for every side whose outside pixels are readable in memory and to be used
    as they are.  BORDER_IN_MEM alone means that the whole frame is readable. */
 enum {
-    BORDER_REPL = 1,   /* outside pixels repeat the nearest edge pixel:        a a|a b c d|d d */
-    BORDER_MIRROR = 3, /* the image mirrored about its edge pixel:             c b|a b c d|c b */
-    BORDER_CONST = 6,  /* outside pixels take the value passed by the caller:  v v|a b c d|v v */
+    BORDER_REPL = 1,        /* outside pixels repeat the nearest edge pixel:        a a|a b c d|d d */
+    BORDER_MIRROR = 3,      /* the image mirrored about its edge pixel:             c b|a b c d|c b */
+    BORDER_CONST = 6,       /* outside pixels take the value passed by the caller:  v v|a b c d|v v */
+    BORDER_TRANSPARENT = 8, /* for warps: what comes from outside the source leaves the destination as it is */
     BORDER_IN_MEM_TOP = 16,
     BORDER_IN_MEM_BOTTOM = 32,
     BORDER_IN_MEM_LEFT = 64,
@@ -159,6 +167,17 @@ enum {
 /* What an initialisation of the resize families makes, in a block of the caller's: any alignment will do.  A copy is as
    good, at an address that leaves the same remainder when divided by 64. */
 typedef struct ResizeSpec ResizeSpec;
+
+/* The same for an image of luma and colour planes: how many rows and columns the colour planes have (CHROMA_420: half
+   of both, CHROMA_422: half the columns), and where their samples lie among those of luma. */
+typedef struct ResizeYUVSpec ResizeYUVSpec;
+enum { CHROMA_420 = 0, CHROMA_422 = 1 };
+enum { CHROMA_CENTER = 0, CHROMA_LEFT = 1, CHROMA_TOP_LEFT = 2 };
+
+/* The same for a warp by coefficients, which say where a source pixel goes (forward) or where a destination pixel comes
+   from (backward). */
+typedef struct WarpSpec WarpSpec;
+enum { WARP_FORWARD = 0, WARP_BACKWARD = 1 };
 
 /* What zmviGetLibVersion points to.  The record and its texts are constant and never freed. */
 typedef struct LibraryVersion {

@@ -34,7 +34,8 @@ constexpr Code codes[] = {
     {"32fc", "Complex32f", Element::fc32, 8},
 };
 // Points, rectangles and objects are arrays of these.
-constexpr std::pair<const char*, Element> structures[] = {{"ResizeSpec", Element::u8},   {"ImagePoint", Element::s32},
+constexpr std::pair<const char*, Element> structures[] = {{"ResizeSpec", Element::u8},   {"ResizeYUVSpec", Element::u8},
+                                                          {"WarpSpec", Element::u8},     {"ImagePoint", Element::s32},
                                                           {"ImagePointL", Element::s64}, {"ImageRect", Element::s32},
                                                           {"ImageRectL", Element::s64}};
 Element elementOf(const std::string& text) {
@@ -112,8 +113,7 @@ constexpr RoleRow roles[] = {
     {Role::spec, written, "pSpec spec pState pSrcDstState"},
     {Role::initBuffer, written, "initBuf"},
     {Role::kernel, read, "pKernel"},
-    {Role::result, written,
-     "value sum mean pMin pMax pIndexX pIndexY pCounts pThreshold pDp pHu pQuality pValue"},
+    {Role::result, written, "value sum mean pMin pMax pIndexX pIndexY pCounts pThreshold pDp pHu pQuality pValue"},
     {Role::result, written, "stepOut pBufferSize bufSize pSize pSpecSize specSize pStateSize initBufSize"},
     {Role::result, written, "borderSize", "", 0, "4"},
     {Role::result, written, "srcOffset srcRoi xShift yShift coeffs quad bound"},
