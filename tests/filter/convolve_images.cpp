@@ -117,6 +117,52 @@ TEST(Large, ConvolutionsBeyondDoubles) {
     EXPECT_EQ(result, 0);
 }
 
+// The same product in four ways: either operand may be the kernel, an impulse gives the other one back, and a filter
+// over zeros is the middle of the full form.
+TEST(Convolution, CommutesAndIsWhatTheFilterMakes) {
+    constexpr int w = 37, h = 23, kw = 5, kh = 4, fw = w + kw - 1, fh = h + kh - 1;
+    constexpr int bytesAPixel = 2, divisor = 7;
+    const ImageSize size{w, h}, kernelSize{kw, kh};
+    Rng rng(20);
+    std::vector<int16_t> image(w * h), kernel(kw * kh), impulse(kw * kh), one(fw * fh), two(fw * fh), same(w * h);
+    for (int16_t& pixel : image) pixel = int16_t(rng.between(-900, 900));
+    for (int16_t& tap : kernel) tap = int16_t(rng.between(-90, 90));
+    impulse[kw + 2] = 1;  // column 2 of row 1
+    for (const Library& l : builds()) {
+        int bytes = 0, specBytes = 0;
+        ASSERT_EQ(FIND(l, zmviConvGetBufferSize)(size, kernelSize, DATATYPE_16S, 1, CONV_SHAPE_FULL, &bytes),
+                  STATUS_OK);
+        std::vector<uint8_t> buffer(static_cast<size_t>(bytes));
+        const auto conv = [&](const auto& a, ImageSize aSize, const auto& b, ImageSize bSize, auto& to, int scale) {
+            return FIND(l, zmviConv_16s_C1R)(a.data(), aSize.width * bytesAPixel, aSize, b.data(),
+                                             bSize.width * bytesAPixel, bSize, to.data(), fw * bytesAPixel, scale,
+                                             CONV_SHAPE_FULL, buffer.data());
+        };
+        ASSERT_EQ(conv(image, size, impulse, kernelSize, one, 1), STATUS_OK);
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < w; ++x)
+                ASSERT_EQ(one[size_t((y + 1) * fw + x + 2)], image[size_t(y * w + x)])
+                    << l.build << ' ' << x << ' ' << y;
+        ASSERT_EQ(conv(image, size, kernel, kernelSize, one, divisor), STATUS_OK);
+        ASSERT_EQ(conv(kernel, kernelSize, image, size, two, divisor), STATUS_OK);
+        EXPECT_EQ(one, two) << l.build;
+        FIND(l, zmviFilterBorderGetSize)(kernelSize, size, DATATYPE_16S, DATATYPE_16S, 1, &specBytes, &bytes);
+        std::vector<uint8_t> spec(static_cast<size_t>(specBytes)), work(static_cast<size_t>(bytes));
+        ASSERT_EQ(FIND(l, zmviFilterBorderInit_16s)(kernel.data(), kernelSize, divisor, DATATYPE_16S, 1, ROUND_NEAR,
+                                                    spec.data()),
+                  STATUS_OK);
+        const int16_t zero = 0;
+        ASSERT_EQ(FIND(l, zmviFilterBorder_16s_C1R)(image.data(), w * bytesAPixel, same.data(), w * bytesAPixel, size,
+                                                    BORDER_CONST, &zero, spec.data(), work.data()),
+                  STATUS_OK);
+        const Reach reach(kw, kh);
+        for (int y = 0; y < h; ++y)
+            for (int x = 0; x < w; ++x)
+                ASSERT_EQ(same[size_t(y * w + x)], one[size_t((y + kh - 1 - reach.top) * fw + x + kw - 1 - reach.left)])
+                    << l.build << ' ' << x << ' ' << y;
+    }
+}
+
 }  // namespace
 
 extern const Family test_zmviConvGetBufferSize = {.arrange = arrangeConvSize, .oracle = answerConvSize};
