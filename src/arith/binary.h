@@ -20,6 +20,15 @@ bool binaryPastCache(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi
     return src1.data != dst.data && src2.data != dst.data && regionPastCache(roi, layout, 3 * sizeof(T));
 }
 
+// Where arithmetic takes longer than memory, ordinary stores go on behind it, and streaming ones are waited for.
+template <class Op, class T>
+constexpr bool streams() {
+    if constexpr (requires { Op::template streams<T>; })
+        return Op::template streams<T>;
+    else
+        return true;
+}
+
 // An operation that is no rule of exact results has drivers of its own: Op::images and Op::constant.
 template <class Op, class T>
 StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, Roi roi, Layout layout, int factor) {
@@ -29,7 +38,8 @@ StatusCode ownpi_Binary(Image<const T> src1, Image<const T> src2, Image<T> dst, 
         if (auto bad = firstOf(
                 {pointers(src1.data, src2.data, dst.data), size(roi), stepsOf<Op>(src1.step, src2.step, dst.step)}))
             return bad;
-        scaled<Op>(dst, roi, layout, factor, binaryPastCache(src1, src2, dst, roi, layout), src1, src2);
+        const bool pastCache = binaryPastCache(src1, src2, dst, roi, layout) && streams<Op, T>();
+        scaled<Op>(dst, roi, layout, factor, pastCache, src1, src2);
         return STATUS_OK;
     }
 }

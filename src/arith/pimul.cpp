@@ -6,8 +6,12 @@
 namespace zmv {
 namespace {
 
+constexpr bool narrowRegisters = vectorBytes == 16;
+
 struct Mul {
     static constexpr bool takesAnyStep = true;
+    template <class T>
+    static constexpr bool streams = !(narrowRegisters && sizeof(T) == 2);
     template <class T>
     static constexpr int64_t largest = std::is_signed_v<T>
                                            ? int64_t(std::numeric_limits<T>::min()) * std::numeric_limits<T>::min()
@@ -29,6 +33,8 @@ struct Mul {
 // Bytes are rounded down, 16-bit numbers to nearest.
 struct MulScale {
     static constexpr bool withoutFactor = true;
+    template <class>
+    static constexpr bool streams = !narrowRegisters;
     template <int half, class V>
     ZMV_INLINE static auto quotient(V a, V b) {
         using T = Element<V>;

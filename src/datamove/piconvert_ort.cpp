@@ -19,9 +19,10 @@ struct Rounded {
 template <class D>
 StatusCode ownpi_ConvertRounded(Image<const float> src, Image<D> dst, Roi roi, Layout layout, int roundMode) {
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
-    const auto run = [&](const auto& rule) {
-        pointwiseIn<float>(rule, dst, roi, layout, regionPastCache(roi, layout, sizeof(float) + sizeof(D)), src);
-    };
+    // With registers of 16 bytes, saturating to unsigned 16-bit numbers takes longer than memory.
+    constexpr bool streams = !(vectorBytes == 16 && std::is_same_v<D, uint16_t>);
+    const bool pastCache = regionPastCache(roi, layout, sizeof(float) + sizeof(D)) && streams;
+    const auto run = [&](const auto& rule) { pointwiseIn<float>(rule, dst, roi, layout, pastCache, src); };
     if (isFinancial(roundMode))
         run(Rounded<true>{cutRoundingOf(roundMode)});
     else
