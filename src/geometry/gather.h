@@ -2,7 +2,8 @@
 //
 // Destination pixels are looked up in runs, one table entry a vector.  Where the elements of a 16-byte lane lie within
 // 16 or 32 bytes, the lane is loaded from an address of its own and put in order by byte shuffles; else, and without
-// byte shuffles, the taps are loaded element by element.  What is loaded lies in the row, or in a copy of its end.
+// byte shuffles, the taps are loaded element by element.  What is loaded lies in the row: at its ends windows are moved
+// inside, from where the shuffles find all taps; or, of more taps than a lane holds, in a copy of the row's end.
 #pragma once
 
 #include "kernels/borders.h"
@@ -62,10 +63,20 @@ struct Gather {
         const Len last = reading == Reading::oneWindow ? 16 : reading == Reading::twoWindows ? 32 : q * pixelBytes();
         return (groups - 1) * q * pixelBytes() + last;
     }
+    static constexpr Len windowBytes(Reading reading) { return reading == Reading::oneWindow ? 16 : 32; }
+    // Whether windows that are moved inside at the row's ends still hold all taps.
+    template <class Axis>
+    bool movable(const Axis& axis, Reading reading, Len from, Len to) const {
+        const Len most = windowBytes(reading),
+                  outside = std::max(columns.from - axis.first(from), axis.end(to - 1) - columns.to);
+        return groups == 1 && reading != Reading::elements && (columns.to - columns.from) * pixelBytes() >= most &&
+               (std::max<Len>(outside, 0) + 1) * pixelBytes() <= most;
+    }
     // Cuts pixels into those whose taps are in memory with all that is loaded beside them, and those at either end.
     template <class Axis>
     int cut(const Axis& axis, Len from, Len to, Run* runs) const {
         const Reading reading = readingFor(axis, from, to);
+        if (movable(axis, reading, from, to)) return runs[0] = {from, to, reading}, 1;
         const Len bytes = bytesRead(reading);
         Len a = from, b;
         while (a < to && axis.first(a) < columns.from) ++a;
@@ -90,14 +101,17 @@ struct Gather {
         constexpr int step = perVector * together;
         return ((run.to - run.from) * channels + step - 1) / step * together;
     }
-    // Of one vector.
-    static constexpr Len tableBytes = perVector * Len(sizeof(Len)) + vectorBytes;
+    // Of one vector, at most where a longer stretch is read so.
+    static constexpr Len tableBytes(Reading reading) {
+        constexpr Len windows = vectorBytes / 16 * Len(sizeof(Len)) + vectorBytes;
+        return reading == Reading::elements ? std::max<Len>(windows, perVector * Len(sizeof(Len))) : windows;
+    }
 
     template <class Axis>
     void form(const Axis& axis, Run& run, Scratch& scratch) const {
         const Len elements = (run.to - run.from) * n, count = vectors(run, n);
         run.offsets = scratch.take<Len, 8>(count * (isWindow(run) ? vectorBytes / 16 : perVector));
-        if (isWindow(run)) run.controls = scratch.take<uint8_t>(count * vectorBytes);
+        if (isWindow(run)) run.controls = scratch.take<uint8_t, 64>(count * vectorBytes);
         Len x = run.from, c = 0, start = 0;
         for (Len e = 0; e < count * perVector; ++e) {
             const Len first = axis.first(x) - run.origin;
@@ -106,15 +120,22 @@ struct Gather {
             } else if (run.reading == Reading::elements) {
                 run.offsets[e] = first * pixelBytes() + c * Len(sizeof(T));
             } else {
-                if (e % perLane == 0) run.offsets[e / perLane] = start = first * pixelBytes();
+                if (e % perLane == 0) run.offsets[e / perLane] = start = windowAt(run, first);
                 uint8_t* const control = run.controls + e * Len(sizeof(U));
-                const Len at = first * pixelBytes() - start + c * Len(sizeof(T));
-                for (int k = 0; k < q; ++k)
-                    for (int i = 0; i < int(sizeof(T)); ++i)
-                        control[k * int(sizeof(T)) + i] = uint8_t(at + k * pixelBytes() + i);
+                for (int k = 0; k < q; ++k) {
+                    const Len column = run.copy < 0 ? columns.at(first + k) : first + k;
+                    const Len at = column * pixelBytes() - start + c * Len(sizeof(T));
+                    for (int i = 0; i < int(sizeof(T)); ++i) control[k * int(sizeof(T)) + i] = uint8_t(at + i);
+                }
             }
             if (e + 1 < elements && ++c == n) c = 0, ++x;  // lanes behind the last element repeat it
         }
+    }
+    // Where the window of a lane starts whose first tap is this one.
+    Len windowAt(const Run& run, Len first) const {
+        if (run.copy >= 0) return first * pixelBytes();
+        const Len end = columns.to * pixelBytes() - windowBytes(run.reading);
+        return std::min(std::max(first, columns.from) * pixelBytes(), end);
     }
     static bool isWindow(const Run& run) {
         return run.reading == Reading::oneWindow || run.reading == Reading::twoWindows;
@@ -151,7 +172,9 @@ struct Gather {
         } else {
             const Len* const offsets = run.offsets + v * perVector;
             Vec<U> lanes{};
-            unrolled<perVector>([&](auto lane) { lanes[int(lane)] = element<reading>(base, offsets[int(lane)], g); });
+            unrolled<perVector>([&](auto lane) __attribute__((always_inline)) {
+                lanes[int(lane)] = element<reading>(base, offsets[int(lane)], g);
+            });
             return lanes;
         }
     }
@@ -160,7 +183,7 @@ struct Gather {
     template <Reading reading>
     ZMV_INLINE U element(const uint8_t* base, Len offset, Len g) const {
         U taps = 0;
-        const auto tap = [&](int k) {
+        const auto tap = [&](int k) __attribute__((always_inline)) {
             if constexpr (reading == Reading::mapped) {
                 const Len column = columns.at((offset >> 2) + g * q + k);
                 return get(reinterpret_cast<const Bits<T>*>(base - g * q * pixelBytes() + column * pixelBytes()) +

@@ -50,7 +50,7 @@ struct NearestTile {
     }
     void run() {
         uint8_t tables[tableRoom];
-        const Len vectors = tableRoom / (Lanes::tableBytes + 8) - 3,
+        const Len vectors = tableRoom / (Lanes::tableBytes(Reading::oneWindow) + 8) - 3,
                   width = std::max<Len>(vectors * lanes<T> / gather.n, 1);
         const Len end = tile.offset.x + tile.size.width;
         for (Len x = tile.offset.x; x < end; x += width) {

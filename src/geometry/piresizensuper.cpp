@@ -1,9 +1,10 @@
 // Super-sampling: the mean over the area of the source that a destination pixel covers.  Overlaps are whole numbers in
-// units of one over the reduced destination size.  Of small areas of bytes they are the weights of a filter; else sums
-// of columns come first, in double, which holds those of integers exactly.
-#include "geometry/resizetile.h"
+// units of one over the reduced destination size.  Sums of columns come first; of small areas of bytes in 16 bits, else
+// in double, which holds those of integers exactly.
+#include "geometry/gather.h"
+#include "geometry/resize.h"
+#include "geometry/resizeaxis.h"
 #include "kernels/rounding.h"
-#include "kernels/rows.h"
 #include "kernels/simd_convert.h"
 
 namespace zmv {
@@ -30,6 +31,175 @@ T meanOf(__int128 sum, Len area) {
     return T(whole + (2 * rest > area || (2 * rest == area && whole % 2 != 0)));
 }
 
+// Areas of few columns, in vectors: the line of sums is looked up as rows of pixels are.
+template <class T, class Line>
+class AreaTile {
+    static constexpr bool bytes = sizeof(Line) == 2;  // areas of bytes whose sums are that small
+    using U = std::conditional_t<bytes, uint32_t, uint64_t>;
+    using Weight = std::conditional_t<bytes, uint32_t, double>;  // of two columns, or of one
+    using Sum = std::conditional_t<bytes, int32_t, double>;
+    using Lanes = Gather<Line, U>;
+    static constexpr Len mostColumns = 16;
+
+  public:
+    AreaTile(const ResizeTile& tile, Image<const T> src, Image<T> dst)
+        : tile_(tile),
+          src_(src),
+          dst_(dst),
+          n_(tile.channels),
+          columns_(tile.header.horizontal),
+          rows_(tile.header.vertical) {
+        const Len area = columns_.whole() * rows_.whole();
+        area_ = double(area);
+        // A factor where it gives the quotient's bits: exactly, or of bytes near enough to tell halves, which an odd
+        // area does not have.
+        factor_ = (area & (area - 1)) == 0 || (bytes && area % 2 && area <= 4096) ? 1 / area_ : 0;
+        groups_ = (columns_.most() + Lanes::q - 1) / Lanes::q;
+    }
+    // Up to this size a quotient in float is nearer to its integer than to the next one, and exact at a half.
+    static bool fits(const SuperAxis& columns, const SuperAxis& rows) {
+        if (columns.most() > mostColumns) return false;
+        return !bytes || (rows.whole() <= 128 && columns.whole() <= 128 && columns.whole() * rows.whole() <= 1 << 14);
+    }
+    void run() {
+        alignas(64) uint8_t local[least];
+        const WideLen given = resizeBufferBytes(tile_.header, tile_.size, n_);
+        const Len room = given > least ? Len(std::min<WideLen>(given, most)) : least;
+        Len width = tile_.size.width;
+        while (width > 1 && bytesFor(width) > room) width = (width + 1) / 2;
+        for (Len x = 0; x < tile_.size.width; x += width)
+            band(x, std::min(x + width, tile_.size.width), Scratch(room > least ? tile_.buffer : local));
+    }
+
+  private:
+    static constexpr Len least = 8192, most = 32768;  // bytes, of a narrow tile's memory and of what stays near
+    Len weightRows() const { return bytes ? groups_ : columns_.most() + 1; }
+    Len bytesFor(Len width) const {
+        const Len elements = width * n_, whole = (elements / lanes<U> + 1) * lanes<U>;
+        return ((width + 1) * columns_.whole() / columns_.parts() + mostColumns + 2) * n_ * Len(sizeof(Line)) +
+               whole * weightRows() * Len(sizeof(Weight)) +
+               (elements / lanes<U> + 1) * Lanes::tableBytes(Reading::elements) + 4 * vectorBytes + 256;
+    }
+    void band(Len from, Len to, Scratch scratch) {
+        const Len left = tile_.offset.x + from, right = tile_.offset.x + to, elements = (to - from) * n_;
+        const Len first = columns_.first(left), count = (columns_.end(right - 1) - first) * n_;
+        const Len vectors = (elements + lanes<U> - 1) / lanes<U>;
+        Line* const line = scratch.take<Line, 64>(count + mostColumns * n_ + 2 * lanes<Line>);
+        Weight* const weights = scratch.take<Weight, 64>(vectors * lanes<U> * weightRows());
+        std::memset(line, 0, size_t((count + mostColumns * n_) * Len(sizeof(Line)) + 2 * vectorBytes));
+        const Lanes gather{n_, groups_, {first, first + count / n_ + mostColumns, INT64_MAX, INT64_MAX, BORDER_REPL}};
+        Run run{left, right, gather.readingFor(columns_, left, right)};
+        run.copy = 0, run.origin = first;  // the line starts with its first column
+        gather.form(columns_, run, scratch);
+        formWeights(weights, left, elements, vectors);
+        for (Len y = 0; y < tile_.size.height; ++y) {
+            sumColumns(line, tile_.offset.y + y, first * n_, count);
+            T* const row = dst_.row(y) + from * n_;
+            const auto base = reinterpret_cast<const uint8_t*>(line);
+            if constexpr (hasByteShuffle) {
+                if (run.reading == Reading::oneWindow)
+                    along<Reading::oneWindow>(gather, run, base, weights, row, elements);
+                if (run.reading == Reading::twoWindows)
+                    along<Reading::twoWindows>(gather, run, base, weights, row, elements);
+            }
+            if (run.reading == Reading::elements) along<Reading::elements>(gather, run, base, weights, row, elements);
+        }
+    }
+    void formWeights(Weight* weights, Len x, Len elements, Len vectors) const {
+        Len c = 0;
+        for (Len e = 0; e < vectors * lanes<U>; ++e) {
+            Weight* to = weights + e / lanes<U> * lanes<U> * weightRows() + e % lanes<U>;
+            const Len first = columns_.first(x), count = columns_.count(x);
+            const auto overlap = [&](Len k) { return k < count ? columns_.overlap(x, first + k) : 0; };
+            if constexpr (!bytes) *to = double(count), to += lanes<U>;
+            for (Len g = 0; g < (bytes ? groups_ : columns_.most()); ++g, to += lanes<U>)
+                *to = bytes ? Weight(overlap(2 * g) | overlap(2 * g + 1) << 16) : Weight(overlap(g));
+            if (e + 1 < elements && ++c == n_) c = 0, ++x;
+        }
+    }
+    // Of the rows of an area only the first and the last can lie in it in part.
+    void sumColumns(Line* line, Len y, Len first, Len count) const {
+        const Len top = rows_.first(y), bottom = rows_.end(y) - 1;
+        const auto weight = [&](Len row) { return fill(Line(rows_.overlap(y, row))); };
+        const auto atTop = weight(top), between = fill(Line(rows_.parts())), atBottom = weight(bottom);
+        const T* const row = src_.row(top) + first;
+        const auto sums = [&](Len e, auto pixels) __attribute__((always_inline)) {
+            Image<const T> at{row + e, src_.step};
+            auto sum = times(pixels(at.data), atTop);
+            for (Len r = top + 1; r < bottom; ++r)
+                at.data = at.row(1), sum = plus(sum, times(pixels(at.data), between));
+            if (bottom > top) sum = plus(sum, times(pixels(at.row(1)), atBottom));
+            store(line + e, sum);
+        };
+        Len e = 0;
+        for (; e + lanes<Line> <= count; e += lanes<Line>) sums(e, [](const T* p) { return loadWiden<Line>(p); });
+        if (e < count) sums(e, [&](const T* p) { return loadWidenPart<Line>(p, int(count - e)); });
+    }
+    template <class V>
+    ZMV_INLINE static V times(V a, V b) {
+        if constexpr (bytes)
+            return a * b;
+        else
+            return mulInOrder(a, b);
+    }
+    template <class V>
+    ZMV_INLINE static V plus(V a, V b) {
+        if constexpr (bytes)
+            return a + b;
+        else
+            return addInOrder(a, b);
+    }
+    template <Reading reading>
+    void along(const Lanes& lanesOfLine, const Run& theRun, const uint8_t* base, const Weight* weights, T* row,
+               Len elements) const {
+        const auto gather = lanesOfLine;
+        const auto run = theRun;
+        const Len next = lanes<U> * weightRows(), fewest = columns_.fewest(), columns = columns_.most(),
+                  groups = groups_;
+        const auto factor = fill(float(factor_)), area = fill(float(area_));
+        const auto factors = fill(factor_), areas = fill(area_);
+        const auto meanAt = [&](Len v) __attribute__((always_inline)) {
+            const Weight* w = weights + v * next;
+            const auto at = [&](Len g) __attribute__((always_inline)) {
+                return gather.template at<reading>(run, base, v, g);
+            };
+            if constexpr (bytes) {
+                auto sum = pairProducts((Vec<int16_t>)at(0), (Vec<int16_t>)load(w));
+                for (Len g = 1; g < groups; ++g)
+                    sum += pairProducts((Vec<int16_t>)at(g), (Vec<int16_t>)load(w + g * lanes<U>));
+                return roundToInt(factor_ != 0 ? toFloat(sum) * factor : toFloat(sum) / area);
+            } else {
+                const auto counts = load(w);
+                auto sum = mulInOrder((Vec<double>)at(0), load(w + lanes<U>));
+                for (Len k = 1; k < columns; ++k) {
+                    const auto sums = addInOrder(sum, mulInOrder((Vec<double>)at(k), load(w + (k + 1) * lanes<U>)));
+                    sum = k < fewest
+                              ? sums
+                              : (Vec<double>)select((Vec<U>)(counts > fill(double(k))), (Vec<U>)sums, (Vec<U>)sum);
+                }
+                return factor_ != 0 ? sum * factors : sum / areas;
+            }
+        };
+        constexpr int together = int(sizeof(U) / sizeof(T));
+        const Len last = (elements + lanes<U> - 1) / lanes<U> - 1;
+        for (Len e = 0, v = 0; e < elements; e += lanes<T>, v += together) {
+            std::array<Vec<Sum>, together> means;
+            unrolled<together>([&](auto i)
+                                   __attribute__((always_inline)) { means[i] = meanAt(std::min(v + i, last)); });
+            storeUpTo(row + e, joined<T>(means), int(std::min<Len>(lanes<T>, elements - e)));
+        }
+    }
+
+    const ResizeTile& tile_;
+    const Image<const T> src_;  // at column and row 0 of the source
+    const Image<T> dst_;
+    const int n_;
+    const SuperAxis columns_, rows_;
+    double area_, factor_;
+    Len groups_;
+};
+
+// Areas of any size, pixel by pixel.
 template <class T, class Sum>
 struct SuperTile {
     const ResizeTile& tile;
@@ -88,13 +258,16 @@ template <class T>
 void ownpi_ResizeSuperTile(const ResizeTile& tile, Image<const T> src, Image<T> dst) {
     const At first = sourceOffset(tile.header, tile.offset);
     const auto whole = src.at(-first.x * tile.channels, -first.y);
-    const Len area = SuperAxis(tile.header.horizontal).whole() * SuperAxis(tile.header.vertical).whole();
+    const SuperAxis columns(tile.header.horizontal), rows(tile.header.vertical);
+    const Len area = columns.whole() * rows.whole();
     toNearestIf<std::is_integral_v<T>>([&] {
         if constexpr (sizeof(T) == 1)
-            if (const SuperAxis columns(tile.header.horizontal), rows(tile.header.vertical); Areas::fit(columns, rows))
-                return TileFilter<BytesWeighted<SuperAxis, Areas>, SuperAxis>(tile, columns, rows, src, dst).run();
+            if (AreaTile<T, uint16_t>::fits(columns, rows))
+                return apart([&] { AreaTile<T, uint16_t>(tile, whole, dst).run(); });
         if constexpr (std::is_integral_v<T>)
             if (area >= mostInDouble) return SuperTile<T, __int128>{tile, whole, dst}.run();
+        if (AreaTile<T, double>::fits(columns, rows))
+            return apart([&] { AreaTile<T, double>(tile, whole, dst).run(); });
         SuperTile<T, double>{tile, whole, dst}.run();
     });
 }

@@ -7,7 +7,7 @@ namespace zmv {
 
 // One call, its arguments checked.
 struct ResizeTile {
-    ResizeHeader header;
+    const ResizeHeader& header;
     const uint8_t* object;
     At offset;
     Roi size;

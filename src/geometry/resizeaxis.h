@@ -146,25 +146,19 @@ struct AxisTables {
 // Super-sampling: destination pixel i covers the source from i * s to (i + 1) * s in units of 1 / d, both reduced.
 class SuperAxis {
   public:
-    explicit SuperAxis(const ResizeHeader::Axis& axis) : src(axis.src), s_(axis.srcReduced), d_(axis.dstReduced) {
-        const auto most = int32_t(s_ / d_ + std::min<Len>(s_ % d_, 2));
-        shape = {Taps::counted, most, 1, 0, 0};
-    }
-    Len src;
-    AxisShape shape;
+    explicit SuperAxis(const ResizeHeader::Axis& axis) : s_(axis.srcReduced), d_(axis.dstReduced) {}
     Len first(Len i) const { return i * s_ / d_; }
     Len end(Len i) const { return ((i + 1) * s_ + d_ - 1) / d_; }
     Len count(Len i) const { return end(i) - first(i); }
+    Len most() const { return s_ / d_ + std::min<Len>(s_ % d_, 2); }
+    Len fewest() const { return (s_ + d_ - 1) / d_; }
     // How much of pixel j lies in the area of pixel i.
     Len overlap(Len i, Len j) const { return std::min((i + 1) * s_, (j + 1) * d_) - std::max(i * s_, j * d_); }
-    Len whole() const { return s_; }
+    Len whole() const { return s_; }  // of an area
+    Len parts() const { return d_; }  // of a pixel
 
   private:
     Len s_, d_;
 };
-template <class Put>
-void wholeWeightsOf(const SuperAxis& axis, Len i, Put put) {
-    for (Len k = 0; k < axis.count(i); ++k) put(k, double(axis.overlap(i, axis.first(i) + k)));
-}
 
 }  // namespace zmv

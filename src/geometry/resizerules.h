@@ -4,8 +4,8 @@
 // which every element has weightRows() numbers.  along() makes a vector of filtered elements: at(g, p) gives group g of
 // the taps, p counting the vectors of U that a vector of A takes.  down() gives what makes a vector of results from
 // element x on of the rows at rowAt, for which setRow() has chosen weights; behind the last row there is one more.
-// Both come with a count, a constant where it is small, that columnCount() and rowCount() have chosen; 0 stands for
-// whatever the rule makes of it.
+// Both come with a count, a constant where it is one of ColumnCounts or RowCounts, that columnCount() and rowCount()
+// have chosen; 0 stands for whatever the rule makes of it.
 #pragma once
 
 #include <array>
@@ -16,16 +16,16 @@
 
 namespace zmv {
 
-// Calls f with the number as a constant where it is one of the usual ones, else with 0.
-template <class F>
-void withCount(Len n, F f) {
-    const auto is = [&]<int k>(std::integral_constant<int, k> count) { return n == k && (f(count), true); };
-    using std::integral_constant;
-    if (is(integral_constant<int, 1>{}) || is(integral_constant<int, 2>{}) || is(integral_constant<int, 3>{}) ||
-        is(integral_constant<int, 4>{}) || is(integral_constant<int, 6>{}))
-        return;
-    f(integral_constant<int, 0>{});
-}
+// Numbers that are worth a loop of their own; the last one stands for all others.
+template <int first, int... more>
+struct Counts {
+    template <class F>
+    static void with(Len n, F f) {
+        if constexpr (sizeof...(more) > 0)
+            if (n != first) return Counts<more...>::with(n, f);
+        f(std::integral_constant<int, first>{});
+    }
+};
 
 // Bytes between two pixels: rows are filtered in 1/128, with the half of the last rounding in them.
 struct BytesLinear {
@@ -33,32 +33,40 @@ struct BytesLinear {
     using U = uint16_t;
     using A = int16_t;
     using Weight = int16_t;
+    using ColumnCounts = Counts<1>;
+    using RowCounts = Counts<1, 2>;
     const ResizeAxis<float> columns, rows;
     int16_t rowFactor = 0;
 
     Len groups() const { return 1; }
-    Len weightRows() const { return 1; }
+    Len weightRows() const { return 2; }
     Len columnCount() const { return 1; }
     Len rowCount() const { return rows.shape.most; }
-    // Twice the fraction in 2^-14: a rounded high product takes it back.
-    static int16_t factor(const ResizeAxis<float>& axis, Len i) {
-        if (axis.shape.kind == Taps::one) return 0;
-        return int16_t(2 * std::min(toWhole(16384 * double(*axis.group(i))), 16383.0));
+    // The fraction in 2^-14.
+    static int fraction(const ResizeAxis<float>& axis, Len i) {
+        return axis.shape.kind == Taps::one ? 0 : int(std::min(toWhole(16384 * double(*axis.group(i))), 16383.0));
     }
-    void putWeights(Len x, Weight* to, Len) const { *to = factor(columns, x); }
+    // a + (b - a) f, from the nearer of both on: the difference of the bytes, 64 times, and four times the fraction, or
+    // what it lacks to one, fit 16 bits, and a rounded high product takes 2^15 back.
+    void putWeights(Len x, Weight* to, Len step) const {
+        const int f = fraction(columns, x);
+        to[0] = int16_t(4 * f), to[step] = int16_t(f < 8192 ? 64 : 64 << 8);
+    }
     // Within 16 bits, but for what stands in lanes that nobody asked for.
     static ZMV_INLINE Vec<A> mix(Vec<A> a, Vec<A> b) { return (Vec<A>)((Vec<U>)a + (Vec<U>)b); }
     template <class At, class Count>
-    ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len, Count) const {
-        const Vec<U> taps = at(Len(0), 0);
-        const auto a = (Vec<A>)((taps & 255) << 7), b = (Vec<A>)(taps >> 1 & 0x7f80);
-        return mix(a + 64, mulRoundedSigned(b - a, load(weights)));
+    ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len step, Count) const {
+        const auto taps = (Vec<uint8_t>)at(Len(0), 0);
+        const auto differences = bytePairProducts(taps, (Vec<int8_t>)fill<int16_t>(int16_t((64 << 8) - 64 + 256)));
+        const auto nearer = bytePairProducts(taps, (Vec<int8_t>)load(weights + step));
+        return mix(mix(mix(nearer, nearer), fill<A>(64)), mulRoundedSigned(differences, load(weights)));
     }
-    void setRow(Len y) { rowFactor = factor(rows, y); }
+    void setRow(Len y) { rowFactor = int16_t(2 * fraction(rows, y)); }
     template <class Count>
     ZMV_INLINE auto down(const A* const* rowAt, Count) const {
-        return [first = rowAt[0], second = rowAt[Count::value == 2], factor = fill(rowFactor)](Len x) {
-            const auto mixed = [&](Len i) {
+        return [ first = rowAt[0], second = rowAt[Count::value == 2], factor = fill(rowFactor) ](Len x)
+            __attribute__((always_inline)) {
+            const auto mixed = [&](Len i) __attribute__((always_inline)) {
                 const auto a = load(first + i);
                 if constexpr (Count::value != 2) return a >> 7;
                 const auto apart = (Vec<A>)((Vec<U>)load(second + i) - (Vec<U>)a);
@@ -69,14 +77,15 @@ struct BytesLinear {
     }
 };
 
-// Bytes with integer weights, products by twos.  Scale: what becomes of sums, along and down.
-template <class Axis, class Scale>
+// Bytes with integer weights, products by twos: filtered rows in 1/64.
 struct BytesWeighted {
     using T = uint8_t;
     using U = uint32_t;
     using A = int16_t;
     using Weight = uint32_t;  // of two taps
-    const Axis columns, rows;
+    using ColumnCounts = Counts<1, 2, 3, 0>;
+    using RowCounts = Counts<1, 2, 3, 4, 5, 0>;
+    const ResizeAxis<float> columns, rows;
     Weight rowWeights[mostWholeWeights / 2] = {};
 
     Len groups() const { return (columns.shape.most + 3) / 4; }
@@ -93,15 +102,15 @@ struct BytesWeighted {
     template <class At, class Count>
     ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len step, Count) const {
         const Len count = Count::value ? Count::value : groups();
-        std::array<Vec<int32_t>, 2> sums = {fill(Scale::half), fill(Scale::half)};
+        std::array<Vec<int32_t>, 2> sums = {fill(128), fill(128)};
         for (Len g = 0; g < count; ++g, weights += 2 * step)
-            unrolled<2>([&](auto p) {
+            unrolled<2>([&](auto p) __attribute__((always_inline)) {
                 const auto taps = (Vec<uint16_t>)at(g, p);
                 const Weight* const w = weights + p * lanes<Weight>;
                 sums[p] += pairProducts((Vec<A>)(taps & 255), (Vec<A>)load(w));
                 sums[p] += pairProducts((Vec<A>)(taps >> 8), (Vec<A>)load(w + step));
             });
-        return joined<A>(std::array{sums[0] >> Scale::shift, sums[1] >> Scale::shift});
+        return joined<A>(std::array{sums[0] >> 8, sums[1] >> 8});
     }
     void setRow(Len y) {
         int16_t w[mostWholeWeights] = {};
@@ -117,40 +126,19 @@ struct BytesWeighted {
         for (int k = 0; k < count; ++k)
             w[size_t(k)] = (Vec<A>)fill(rowWeights[k]), at[size_t(2 * k)] = rowAt[2 * k],
             at[size_t(2 * k + 1)] = rowAt[2 * k + 1];
-        return [=, scale = Scale(columns, rows)](Len x) {
-            const auto mixed = [&](Len i) {
-                Vec<int32_t> low{}, high{};
+        return [=](Len x) __attribute__((always_inline)) {
+            const auto mixed = [&](Len i) __attribute__((always_inline)) {
+                Vec<int32_t> low = fill(1 << 19), high = low;
                 for (int k = 0; k < count; ++k) {
                     const auto a = load(at[size_t(2 * k)] + i), b = load(at[size_t(2 * k + 1)] + i);
                     low += pairProducts(interleaveLow(a, b), w[size_t(k)]);
                     high += pairProducts(interleaveHigh(a, b), w[size_t(k)]);
                 }
-                return narrow<A>(scale(low), scale(high));
+                return narrow<A>(low >> 20, high >> 20);
             };
             return joined<T>(std::array{mixed(x), mixed(x + lanes<A>)});
         };
     }
-};
-
-// Weights of 2^-14: filtered rows in 1/64.
-struct Fractions {
-    static constexpr int half = 128, shift = 8;
-    template <class Axis>
-    Fractions(const Axis&, const Axis&) {}
-    ZMV_INLINE Vec<int32_t> operator()(Vec<int32_t> sum) const { return (sum + (1 << 19)) >> 20; }
-};
-// Overlaps: the sum over an area, divided by its size.  Up to this size a quotient in float is nearer to its integer
-// than to the next one, and exact at a half.
-struct Areas {
-    static constexpr int half = 0, shift = 0;
-    static constexpr Len most = 1 << 14, mostAlong = 128;
-    Vec<float> area;
-    Areas(const SuperAxis& columns, const SuperAxis& rows) : area(fill(float(columns.whole() * rows.whole()))) {}
-    static bool fit(const SuperAxis& columns, const SuperAxis& rows) {
-        return columns.whole() <= mostAlong && columns.whole() * rows.whole() <= most &&
-               std::max(columns.shape.most, rows.shape.most) <= mostWholeWeights;
-    }
-    ZMV_INLINE Vec<int32_t> operator()(Vec<int32_t> sum) const { return roundToInt(toFloat(sum) / area); }
 };
 
 // Everything else in real numbers R, each operation rounded once.
@@ -162,6 +150,9 @@ struct Real {
     using Weight = R;
     using V = Vec<R>;
     static constexpr int q = int(sizeof(U) / sizeof(T));
+    // Bytes come here with many taps.
+    using ColumnCounts = std::conditional_t<sizeof(T) == 1, Counts<0>, Counts<1, 2, 4, 6, 0>>;
+    using RowCounts = ColumnCounts;
     const ResizeAxis<R> columns, rows;
     const R* rowWeights = nullptr;
     Len rowTaps = 1;
@@ -196,19 +187,20 @@ struct Real {
     template <class At, class Count>
     ZMV_INLINE V along(At at, const Weight* weights, Len step, Count) const {
         Vec<U> taps = at(Len(0), 0);
-        if constexpr (Count::value == 1) return tap(taps, 0);
-        if constexpr (Count::value == 2)
+        const Taps kind = columns.shape.kind;
+        if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return tap(taps, 0);
+        if (Count::value == 2 || (Count::value == 0 && kind == Taps::two))
             return between(tap(taps, 0), q == 1 ? tap(at(Len(1), 0), 0) : tap(taps, 1), load(weights));
-        const auto counts = Count::value ? Vec<U>{} : (Vec<U>)load(weights);
-        if (!Count::value) weights += step;
-        const Len most = Count::value ? Count::value : columns.shape.most;
+        const bool counted = Count::value == 0 && kind == Taps::counted;
+        const auto counts = counted ? (Vec<U>)load(weights) : Vec<U>{};
+        if (counted) weights += step;
+        const Len most = Count::value ? Count::value : columns.shape.most,
+                  fewest = counted ? Len(columns.shape.fewest) : most;
         V sum = product(tap(taps, 0), load(weights));
         for (Len k = 1; k < most; ++k) {
             if (k % q == 0) taps = at(k / q, 0);
             const V next = addInOrder(sum, product(tap(taps, int(k % q)), load(weights + k * step)));
-            sum = !Count::value && k >= columns.shape.fewest
-                      ? (V)select((Vec<U>)(counts > U(k)), (Vec<U>)next, (Vec<U>)sum)
-                      : next;
+            sum = k >= fewest ? (V)select((Vec<U>)(counts > U(k)), (Vec<U>)next, (Vec<U>)sum) : next;
         }
         return sum;
     }
@@ -221,11 +213,13 @@ struct Real {
         for (size_t k = 0; k < known; ++k)
             first[k] = rowAt[k],
             w[k] = rows.shape.kind == Taps::one ? V{} : fill(rowWeights[Count::value == 2 ? 0 : k]);
-        return [=, weights = rowWeights, taps = rowTaps](Len x) {
-            const auto mixed = [&](Len i) {
+        return [ =, kind = rows.shape.kind, weights = rowWeights, taps = rowTaps ](Len x)
+            __attribute__((always_inline)) {
+            const auto mixed = [&](Len i) __attribute__((always_inline)) {
                 const V top = load(first[0] + i);
-                if constexpr (Count::value == 1) return top;
+                if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return top;
                 if constexpr (Count::value == 2) return between(top, load(first[known - 1] + i), w[0]);
+                if (Count::value == 0 && kind == Taps::two) return between(top, load(rowAt[1] + i), w[0]);
                 V sum = product(top, w[0]);
                 for (size_t k = 1; k < known; ++k) sum = addInOrder(sum, product(load(first[k] + i), w[k]));
                 if constexpr (Count::value == 0)
@@ -233,7 +227,9 @@ struct Real {
                 return sum;
             };
             std::array<V, sizeof(R) / sizeof(T)> all;
-            unrolled<int(sizeof(R) / sizeof(T))>([&](auto i) { all[i] = mixed(x + i * lanes<R>); });
+            unrolled<int(sizeof(R) / sizeof(T))>([&](auto i) __attribute__((always_inline)) {
+                all[i] = mixed(x + i * lanes<R>);
+            });
             return joined<T>(all);
         };
     }

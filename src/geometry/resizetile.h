@@ -31,6 +31,7 @@ class TileFilter {
         readableColumns_ = readable(columns, tile.offset.x, tile.size.width, BORDER_IN_MEM_LEFT, BORDER_IN_MEM_RIGHT);
         readableRows_ = readable(rows, tile.offset.y, tile.size.height, BORDER_IN_MEM_TOP, BORDER_IN_MEM_BOTTOM);
         gather_ = Lanes{n_, rule_.groups(), readableColumns_};
+        reading_ = gather_.readingFor(columns, tile.offset.x, tile.offset.x + tile.size.width);
     }
     void run() {
         LocalMemory local;
@@ -56,13 +57,14 @@ class TileFilter {
         if (elements > lanes<A>) return (elements + 2 * lanes<A> - 1) / lanes<A> * lanes<A>;
         return (elements * Len(sizeof(A)) + 31) / 32 * 32 / Len(sizeof(A));
     }
-    static constexpr Len slack = 256;  // for alignment, and for vectors read beyond the last row and the last weight
+    static constexpr Len slack = 768;  // for alignment, and for vectors read beyond the last row and the last weight
     // What band() takes at most.
     Len bytesFor(Len width) const {
         const Len elements = width * n_, vectors = elements / lanes<A> + 3;
         const Len weighed = elements <= lanes<A> ? elements : vectors * lanes<A>;
         return rows_.shape.most * (strideFor(elements) * Len(sizeof(A)) + Len(sizeof(A*))) +
-               weighed * rule_.weightRows() * Len(sizeof(Weight)) + vectors * vectorsOfTaps * Lanes::tableBytes +
+               weighed * rule_.weightRows() * Len(sizeof(Weight)) +
+               vectors * vectorsOfTaps * Lanes::tableBytes(reading_) +
                (gather_.bytesRead(Reading::twoWindows) <= Lanes::mostCopied ? 2 * Lanes::mostCopied : 0) + slack;
     }
 
@@ -95,11 +97,12 @@ class TileFilter {
             const Len first = rows_.first(y), end = rows_.end(y);
             for (filtered = std::max(filtered, first); filtered < end; ++filtered)
                 filterRow(src_.row(readableRows_.at(filtered)), slot(filtered));
-            for (Len r = first; r < end; ++r) rowAt[r - first] = slot(r);
-            for (Len r = end; r <= first + rows_.shape.most; ++r) rowAt[r - first] = rowAt[0];
+            const A *at = slot(first), *const behind = ring_ + rows_.shape.most * stride_;
+            for (Len k = 0; k < end - first; ++k, at = at + stride_ < behind ? at + stride_ : ring_) rowAt[k] = at;
+            for (Len k = end - first; k <= rows_.shape.most; ++k) rowAt[k] = rowAt[0];
             rule_.setRow(y);
             T* const to = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
-            withCount(rule_.rowCount(), [&](auto count) {
+            Rule::RowCounts::with(rule_.rowCount(), [&](auto count) {
                 const auto results = rule_.down(rowAt, count);
                 Len e = 0;
                 for (; e + lanes<T> <= elements; e += lanes<T>) store(to + e, results(e));
@@ -116,7 +119,7 @@ class TileFilter {
         gather_.form(columns_, part.run, scratch);
         const Len elements = (run.to - run.from) * n_, vectors = (elements + lanes<A> - 1) / lanes<A>;
         part.step = std::min<Len>(elements, lanes<A>);
-        part.weights = scratch.take<Weight, int(alignof(Weight))>(vectors * part.step * rule_.weightRows());
+        part.weights = scratch.take<Weight, 64>(vectors * part.step * rule_.weightRows());
         Len x = run.from, c = 0;
         for (Len e = 0; e < vectors * part.step; ++e) {
             const Len block = e / part.step, lane = e % part.step;
@@ -151,11 +154,16 @@ class TileFilter {
     void filterPart(const Part& part, const uint8_t* base, A* row) const {
         const Len begin = (part.run.from - from_) * n_, elements = (part.run.to - part.run.from) * n_;
         const Len step = part.step, next = step * rule_.weightRows();
-        withCount(rule_.columnCount(), [&, rule = rule_, gather = gather_, run = part.run](auto count) {
+        // Taps looked up one by one are few: one loop will do.
+        using Known = std::conditional_t<reading == Reading::mapped, Counts<0>, typename Rule::ColumnCounts>;
+        Known::with(rule_.columnCount(), [&](auto count) {
+            const auto rule = rule_;  // not where stores might reach them
+            const auto gather = gather_;
+            const auto run = part.run;
             const Weight* weights = part.weights;
             Len v = 0, e = 0;
-            const auto sums = [&] {
-                const auto at = [&](Len g, int p) {
+            const auto sums = [&]() __attribute__((always_inline)) {
+                const auto at = [&](Len g, int p) __attribute__((always_inline)) {
                     return gather.template at<reading>(run, base, v * vectorsOfTaps + p, g);
                 };
                 return rule.along(at, weights, step, count);
@@ -176,6 +184,7 @@ class TileFilter {
     Rule rule_;
     ReadableColumns readableColumns_{}, readableRows_{};
     Lanes gather_{};
+    Reading reading_;  // of the whole tile
     Len stride_ = 0, from_ = 0;
     A* ring_ = nullptr;
     int parts_ = 0;
@@ -195,7 +204,7 @@ void ownpi_ResizeTile(const ResizeTile& tile, Image<const T> src, Image<T> dst) 
     if constexpr (sizeof(T) == 1) {
         const bool reduced = columns.shape.kind == Taps::counted || rows.shape.kind == Taps::counted;
         if (tile.header.interpolation == INTERP_LINEAR && !reduced) return run(std::type_identity<BytesLinear>{});
-        if (tile.header.fixedPoint) return run(std::type_identity<BytesWeighted<ResizeAxis<float>, Fractions>>{});
+        if (tile.header.fixedPoint) return run(std::type_identity<BytesWeighted>{});
     }
     run(std::type_identity<Real<T, W>>{});
 }

@@ -8,10 +8,12 @@ namespace zmv {
 // Each 16-byte lane of the vector from an address of its own: lane k at p + offsets[k] bytes.
 template <class V>
 ZMV_INLINE V loadLanesAt(const uint8_t* p, const Len* offsets) {
-    const auto lane = [&](int k) { return loadAs<__m128i>(p + offsets[k]); };
+    const auto lane = [&](int k) __attribute__((always_inline)) { return loadAs<__m128i>(p + offsets[k]); };
     if constexpr (sizeof(V) == 16) return (V)lane(0);
 #if defined(__AVX2__)
-    const auto pair = [&](int k) { return _mm256_inserti128_si256(_mm256_castsi128_si256(lane(k)), lane(k + 1), 1); };
+    const auto pair = [&](int k) __attribute__((always_inline)) {
+        return _mm256_inserti128_si256(_mm256_castsi128_si256(lane(k)), lane(k + 1), 1);
+    };
     if constexpr (sizeof(V) == 32) return (V)pair(0);
 #endif
 #if defined(__AVX512BW__)
