@@ -41,9 +41,9 @@ def __getattr__(name):
         found = _make_class(name)
     elif name == "parallel":
         from ._parallel import parallel as found
-    elif name == "raw":
+    elif name in ("dask", "raw"):
         from importlib import import_module
-        found = import_module(".raw", __name__)
+        found = import_module("." + name, __name__)
     else:
         raise AttributeError(f"zmvip has no {name}")
     globals()[name] = found
@@ -51,4 +51,4 @@ def __getattr__(name):
 
 
 def __dir__():
-    return sorted({*globals(), *_api.FUNCTIONS, *_api.SPECS, "parallel", "raw"})
+    return sorted({*globals(), *_api.FUNCTIONS, *_api.SPECS, "dask", "parallel", "raw"})

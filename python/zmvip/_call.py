@@ -37,12 +37,18 @@ class Call(Regions):
         return self.params.get(python, default) if python else None
 
     def source_offset(self):
+        point = self.asked("GetSrcOffset", "srcOffset")
+        return (point.x, point.y) if point else (0, 0)
+
+    def source_region(self):
+        """The pixels of the source that the region of the result takes."""
+        return self.asked("GetSrcRoi", "srcRoi")
+
+    def asked(self, ending, result):
+        """What the service of the call's page says whose name ends so; None if there is none."""
         page = self.member.facts["page"]
-        family = next((f for f, facts in _api.FACTS.items() if facts["page"] == page and f.endswith("GetSrcOffset")), None)
-        if not family:
-            return 0, 0
-        point = self.serve(family)["srcOffset"]
-        return point.x, point.y
+        family = next((f for f, facts in _api.FACTS.items() if facts["page"] == page and f.endswith(ending)), None)
+        return family and self.serve(family)[result]
 
     # Members that serve this one.
 

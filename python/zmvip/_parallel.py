@@ -6,6 +6,7 @@ import numpy as np
 
 from ._arrays import contiguous
 from ._function import plain
+from ._plan import naming
 from ._spec import Spec
 
 REASONS = {"size": "a tile of its result takes the whole image", "combine": "its results for parts do not make that of the "
@@ -20,29 +21,20 @@ def parallel(function, *args, threads=None, tile=(1024, 1024), **keywords):
     engine = function.engine
     args, keywords = tuple(map(plain, args)), {n: plain(v) for n, v in keywords.items()}
     plan = engine.plan(args, keywords)
-    call, facts = plan.call, plan.member.facts
-    writes = plan.member.writes or plan.member.changes
-    why = None if call.pictures else "service"
-    if not why and writes:
-        why = "size" if not facts["tiles"] or call.mode() == "crop" else None
-    elif not why:
-        integers = not plan.member.source.endswith("f")
-        how = {"addIntegers": "add" if integers else "no"}.get(facts["combine"], facts["combine"])
-        why = "combine" if how == "no" or call.mode() != "slice" else None
-    if why:
-        raise ValueError(f"parallel: {engine.name} of {plan.member.source} is not worked in tiles: {REASONS[why]}")
+    call = plan.call
+    how = tiled(engine, plan, "parallel")
     args, keywords = once(engine, plan, args, keywords)
     x, y, w, h = call.roi
     workers = threads or len(os.sched_getaffinity(0))
     regions = tiles(w, h, tile, reach(call))
     out = keywords.pop("out", None)
-    if writes and out is None:
+    if not how and out is None:
         out = plan.room(args, keywords)
 
     def work(region):
         left, top, width, height = region
         roi = x + left, y + top, width, height
-        if not writes:
+        if how:
             return engine(*args, **{**keywords, "roi": roi})
         cut = lambda image: tuple(map(cut, image)) if isinstance(image, tuple) else \
             image[top:top + height, left:left + width]
@@ -50,7 +42,23 @@ def parallel(function, *args, threads=None, tile=(1024, 1024), **keywords):
 
     with ThreadPoolExecutor(workers) as pool:
         found = list(pool.map(work, regions))
-    return out if writes else together(found, how, plan)
+    return together(found, how, naming_of(plan)) if how else out
+
+
+def tiled(engine, plan, caller):
+    """How the results of parts make that of the whole; None where tiles are parts of the result."""
+    call, facts = plan.call, plan.member.facts
+    writes = plan.member.writes or plan.member.changes
+    why, how = None if call.pictures else "service", None
+    if not why and writes:
+        why = "size" if not facts["tiles"] or call.mode() == "crop" else None
+    elif not why:
+        integers = not plan.member.source.endswith("f")
+        how = {"addIntegers": "add" if integers else "no"}.get(facts["combine"], facts["combine"])
+        why = "combine" if how == "no" or call.mode() != "slice" else None
+    if why:
+        raise ValueError(f"{caller}: {engine.name} of {plan.member.source} is not worked in tiles: {REASONS[why]}")
+    return how
 
 
 def reach(call):
@@ -95,7 +103,12 @@ def least(a, b):
     return np.where(take, a, b)
 
 
-def together(found, how, plan):
+def naming_of(plan):
+    """The names of results, and of their tuple if they are several."""
+    return [name for _, name, *_ in plan.results], plan.tuple and plan.tuple.__name__
+
+
+def together(found, how, names):
     """The result of the whole from those of its parts."""
     def join(name, parts):
         if isinstance(parts[0], tuple):
@@ -111,7 +124,7 @@ def together(found, how, plan):
                     np.maximum(total, part)
         return total.item() if total.ndim == 0 else total.astype(kind)
 
-    names = [name for _, name, *_ in plan.results]
-    if plan.tuple:
-        return plan.tuple(*(join(n, [f[i] for f in found]) for i, n in enumerate(names)))
-    return join(names[0], found)
+    fields, kind = names
+    if kind:
+        return naming(kind, tuple(fields))(*(join(n, [f[i] for f in found]) for i, n in enumerate(fields)))
+    return join(fields[0], found)

@@ -35,7 +35,9 @@ auto weigh(const Line& weights, At at) {
         if (k < n / 2 && first == last) term = sum(term, at(n - 1 - k));
         if (k < n / 2 && first != last)
             term = first < 0 ? difference(at(n - 1 - k), term) : difference(term, at(n - 1 - k));
-        const volatile T product = term * T(first != last ? std::abs(first) : first);
+        // Once a number is that number, also where the caller has products of small ones flushed to zero.
+        const int weight = first != last ? std::abs(first) : first;
+        const volatile T product = weight == 1 ? term : term * T(weight);
         total = any ? sum(total, T(product)) : T(product);
         any = true;
     }

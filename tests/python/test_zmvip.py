@@ -14,6 +14,12 @@ import zmvip
 from zmvip import _api, raw
 from zmvip._arrays import C_DTYPES, DTYPES
 
+try:
+    import dask.array
+    import zmvip.dask
+except ImportError:
+    dask = None
+
 W, H = 23, 17
 PAGE = mmap.PAGESIZE
 LIBC = ctypes.CDLL(None)
@@ -281,6 +287,16 @@ class Families(unittest.TestCase):
                     expected = case.call([np.copy(i) if not isinstance(i, int) else i for i in images], out=out.copy())
                     self.assertTrue(same(case.call(images, out=out), expected))
 
+    def on_dask(self, case, tile, region, whole):
+        """The same in blocks of dask arrays, where there is dask."""
+        if not dask or set(case.keywords) & {"mask", "out"} or case.m.has("map"):
+            return
+        chunks = tile[1] + 3, tile[0] + 3
+        lazy = lambda image: image if isinstance(image, int) else \
+            each(lambda a: dask.array.from_array(a, (*chunks, *a.shape[2:])), image)
+        found = getattr(zmvip.dask, case.function.__name__)(*map(lazy, case.images.values()), **case.keywords, **region)
+        self.assertTrue(same(dask.compute(found, scheduler="synchronous")[0], whole))
+
     def test_regions_and_tiles(self):
         chance = random.Random(1)
         for case in cases(lambda m: m.reads):
@@ -297,6 +313,7 @@ class Families(unittest.TestCase):
                                      not case.m.facts["extent"] and not case.m.has("srcRoiSize"))
                 else:
                     self.assertTrue(same(found, whole), tile)
+                    self.on_dask(case, tile, region, whole)
                 if not case.m.writes or inside:
                     continue
                 w, h = case.extent
