@@ -129,7 +129,10 @@ double Call::number(const std::string& name) const {
     if (name == "cmpOp") return CMP_GREATER;
     if (name == "lowerBound") return 50;
     if (name == "upperBound") return 200;
-    if (name == "hint") return 0;
+    if (name == "hint") return setting.factor;
+    if (name.ends_with("BitOffset")) return 0;
+    if (name == "colorKey" || name == "loVal") return 5;
+    if (name == "hiVal") return 250;
     if (name == "delta" || name == "valLE" || name == "borderValue") return 5;
     if (name == "valGT") return 255;
     if (name == "sigma") return 0;
@@ -177,7 +180,7 @@ void* Call::pointer(const std::string& name, int64_t element) {
         return image(name, toChannels * element);
     if (name == "mask") return image(name, element);
     if (name == "value" || name == "borderValue" || name.ends_with("Bound") || name.rfind("threshold", 0) == 0 ||
-        name.rfind("value", 0) == 0)
+        name.rfind("value", 0) == 0 || name == "colorKey")
         return allocate(4 * element).data();
     if (name == "dstOrder") {
         // Pixels of another size keep the order of their channels, the others get the first and third exchanged.
@@ -191,7 +194,7 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "specSize" || name == "initBufSize" || name == "borderSize" || name == "srcOffset" || name == "srcRoi")
         return allocate(32).data();
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize")
+        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize" || name == "pDp")
         return allocate(32).data();
     if (name == "pSpec" || name == "spec") return specObject();
     if (name == "pHist") return allocate(bins * element).data();
@@ -233,7 +236,8 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     const bool framed = isRead && facts().reach == zmv::Reach::anchor && !has("borderType") && !has("anchor");
     // Steps count what is read left and right where a kernel is an argument, or a frame is read.
     const int64_t beyond = has("pKernel") && isRead ? kernelSide() - 1 : framed ? 4 : 0;
-    const int64_t row = size.width * pixel, step = row + setting.padding + beyond * pixel;
+    const bool bits = (isRead ? member.parts->source : member.parts->destination) == catalog::Element::u1;
+    const int64_t row = bits ? (size.width + 7) / 8 : size.width * pixel, step = row + setting.padding + beyond * pixel;
     // Members with an anchor or a frame read round the region; so many rows also cover what lies left and right of it.
     const int64_t margin = has("anchor") || framed ? kernelSide() + kernelSide() / setting.width + 1 : 0;
     Memory& block = allocate(step * (size.height + 2 * margin));

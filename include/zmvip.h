@@ -3147,6 +3147,53 @@ ZMV_API StatusCode zmviAlphaPremulC_16u_AC4IR(uint16_t* srcDst, int srcDstStep, 
 ZMV_API StatusCode zmviAlphaPremulC_16u_AP4R(const uint16_t* const src[4], int srcStep, uint16_t alpha, uint16_t* const dst[4], int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviAlphaPremulC_16u_AP4IR(uint16_t* const srcDst[4], int srcDstStep, uint16_t alpha, ImageSize roiSize);
 
+/* zmviCompColorKey: dst = src2 where the pixel of src1 equals colorKey in every channel, elsewhere src1.
+   colorKey: a number for C1, a pointer to three for C3 and AC4, to four for C4.  AC4 compares and writes three
+   channels: the fourth of the destination stays as it was.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or colorKey is null.  STATUS_BAD_SIZE: width or height below 1.
+   src/arith/picolorkey.cpp */
+ZMV_API StatusCode zmviCompColorKey_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t colorKey);
+ZMV_API StatusCode zmviCompColorKey_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t colorKey);
+ZMV_API StatusCode zmviCompColorKey_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst, int dstStep, ImageSize roiSize, const uint16_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, int16_t colorKey);
+ZMV_API StatusCode zmviCompColorKey_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* colorKey);
+ZMV_API StatusCode zmviCompColorKey_16s_AC4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst, int dstStep, ImageSize roiSize, const int16_t* colorKey);
+
+/* zmviAlphaCompColorKey: dst = src1 composited with src2, each pixel by the alphas of both, where pixels of src1 whose
+   three colours equal
+   colorKey count as colour 0 with alpha 0.
+   cA, cB: colours of src1 and src2; aA, aB: their alphas; 1: the largest number of the type, 1.0 in 32f.
+     alphaType     colour, times its alpha            alpha
+     ALPHA_OVER    cA*aA + cB*aB*(1 - aA)             aA + aB*(1 - aA)
+     ALPHA_IN      cA*aA*aB                           aA*aB
+     ALPHA_OUT     cA*aA*(1 - aB)                     aA*(1 - aB)
+     ALPHA_ATOP    cA*aA*aB + cB*aB*(1 - aA)          aB
+     ALPHA_XOR     cA*aA*(1 - aB) + cB*aB*(1 - aA)    aA*(1 - aB) + aB*(1 - aA)
+     ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
+   The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
+   aB behind a colour, and at most 1.
+   Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
+   negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
+   rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
+   Alphas below 0 count as 0, of floats those above 1 as 1 and NaN as 0.
+   The fourth channel is alpha, of dst too.  colorKey points to three colours.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   In place (I): srcDst is the second image and the destination.  In the other forms dst may be one of the sources if it
+   has that source's step; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image or colorKey is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_ALPHA_TYPE: alphaType is none of the twelve.
+   src/arith/picolorkey.cpp */
+ZMV_API StatusCode zmviAlphaCompColorKey_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep, ImageSize roiSize, const uint8_t* colorKey, int alphaType);
+
 /* zmviConvert: dst = src as another element type: the name has the two types, source first.
    Wider types hold every value; 32s32f and 32u32f round to nearest even.  Narrower types saturate.  Rs: negative
    numbers become 0.  With roundMode: a real number becomes an integer by ROUND_ZERO, toward zero; by ROUND_NEAR, to
@@ -3382,6 +3429,35 @@ ZMV_API StatusCode zmviScaleC_64f16u_C1R(const double* src, int srcStep, double 
 ZMV_API StatusCode zmviScaleC_64f16s_C1R(const double* src, int srcStep, double mVal, double aVal, int16_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScaleC_64f32s_C1R(const double* src, int srcStep, double mVal, double aVal, int32_t* dst, int dstStep, ImageSize roiSize);
 ZMV_API StatusCode zmviScaleC_64f32f_C1R(const double* src, int srcStep, double mVal, double aVal, float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviGrayToBin: dst = 1 where src > threshold, elsewhere 0, in an image of one bit a pixel.
+   A row of dst holds eight pixels a byte, the leftmost in the highest bit.  The region starts in the byte at dst, in
+   each row dstBitOffset (0 to 7) bits from the highest.
+   Bits outside the region stay as they were, and bytes without a bit of it are not touched.  The first and the last
+   byte of a row are read and written back: tiles that share a byte must not be written at once.
+   32f: 0 where src or threshold is NaN; small numbers are compared as what they are, whatever the caller's denormal
+   setting.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_OUT_OF_RANGE: dstBitOffset is none of 0 to 7.  STATUS_BAD_STEP: a step is not positive.
+   src/datamove/pibinary.cpp */
+ZMV_API StatusCode zmviGrayToBin_8u1u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset, ImageSize roiSize, uint8_t threshold);
+ZMV_API StatusCode zmviGrayToBin_16u1u_C1R(const uint16_t* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset, ImageSize roiSize, uint16_t threshold);
+ZMV_API StatusCode zmviGrayToBin_16s1u_C1R(const int16_t* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset, ImageSize roiSize, int16_t threshold);
+ZMV_API StatusCode zmviGrayToBin_32f1u_C1R(const float* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset, ImageSize roiSize, float threshold);
+
+/* zmviBinToGray: dst = loVal where src is 0, hiVal where it is 1, from an image of one bit a pixel.
+   A row of src holds eight pixels a byte, the leftmost in the highest bit.  The region starts in the byte at src, in
+   each row srcBitOffset (0 to 7) bits from the highest.
+   Bytes without a bit of the region are not read.
+   The images must not overlap.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_OUT_OF_RANGE: srcBitOffset is none of 0 to 7.  STATUS_BAD_STEP: a step is not positive.
+   src/datamove/pibinary.cpp */
+ZMV_API StatusCode zmviBinToGray_1u8u_C1R(const uint8_t* src, int srcStep, int srcBitOffset, uint8_t* dst, int dstStep, ImageSize roiSize, uint8_t loVal, uint8_t hiVal);
+ZMV_API StatusCode zmviBinToGray_1u16u_C1R(const uint8_t* src, int srcStep, int srcBitOffset, uint16_t* dst, int dstStep, ImageSize roiSize, uint16_t loVal, uint16_t hiVal);
+ZMV_API StatusCode zmviBinToGray_1u16s_C1R(const uint8_t* src, int srcStep, int srcBitOffset, int16_t* dst, int dstStep, ImageSize roiSize, int16_t loVal, int16_t hiVal);
+ZMV_API StatusCode zmviBinToGray_1u32f_C1R(const uint8_t* src, int srcStep, int srcBitOffset, float* dst, int dstStep, ImageSize roiSize, float loVal, float hiVal);
 
 /* zmviNorm_Inf: value = the largest magnitude of src, for each channel.
    value: one double for C1, an array of three for C3 and of four for C4, the fourth channel like the others.
@@ -3630,6 +3706,44 @@ ZMV_API StatusCode zmviMean_16s_C4R(const int16_t* src, int srcStep, ImageSize r
 ZMV_API StatusCode zmviMean_32f_C1R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
 ZMV_API StatusCode zmviMean_32f_C3R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
 ZMV_API StatusCode zmviMean_32f_C4R(const float* src, int srcStep, ImageSize roiSize, double* mean, int hint);
+
+/* zmviDotProd: pDp = the sum of src1 * src2 over all pixels, for each channel; src1 and src2 may be one image.
+   pDp: one double for C1, an array of three for C3 and AC4 and of four for C4.
+   Integers: exact for a region of any size, and rounded once.  32f: NaN where the channel has one; with hint
+   HINT_ACCURATE each product and all sums are formed in double, with any other hint in float, in partial sums that are
+   added up in double (docs/sums.md has their order, the same in every build).  The caller's rounding mode has no
+   influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: an image or pDp is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/stats/pidotprod.cpp */
+ZMV_API StatusCode zmviDotProd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8s_C1R(const int8_t* src1, int src1Step, const int8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8s_C3R(const int8_t* src1, int src1Step, const int8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8s_C4R(const int8_t* src1, int src1Step, const int8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_8s_AC4R(const int8_t* src1, int src1Step, const int8_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_16s_AC4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32u_C1R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32u_C3R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32u_C4R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32u_AC4R(const uint32_t* src1, int src1Step, const uint32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, ImageSize roiSize, double* pDp);
+ZMV_API StatusCode zmviDotProd_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* pDp, int hint);
+ZMV_API StatusCode zmviDotProd_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* pDp, int hint);
+ZMV_API StatusCode zmviDotProd_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* pDp, int hint);
+ZMV_API StatusCode zmviDotProd_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, double* pDp, int hint);
 
 /* zmviMin: pMin = the smallest pixel, for each channel.
    One value for C1, an array of three for C3 and AC4, which leaves the fourth channel out, and of four for C4.

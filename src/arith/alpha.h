@@ -15,6 +15,10 @@ namespace zmv {
 
 constexpr int compositions = 6, alphaTypes = 2 * compositions;  // without and with premultiplied colours
 
+inline StatusCode knownAlphaType(int alphaType) {
+    return refuse(alphaType < 0 || alphaType >= alphaTypes, STATUS_BAD_ALPHA_TYPE);
+}
+
 // The part of an image that is shown: all, none, what lies inside of the other one, or outside.
 struct Shown {
     bool otherAlpha, complement;

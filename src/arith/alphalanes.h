@@ -7,6 +7,7 @@
 #pragma once
 
 #include "arith/alpha.h"
+#include "kernels/rounding.h"
 
 namespace zmv {
 
@@ -134,5 +135,20 @@ class CompositingLanes {
     W own_, maskA_, flipA_, maskB_, flipB_;
     W fourth_;  // of odd elements
 };
+
+// Calls f with the operation.
+template <class T, class F>
+void compositing(int alphaType, F f) {
+    if constexpr (std::is_integral_v<T> && sizeof(T) <= 2) {
+        if (alphaType == ALPHA_OVER) return f(CompositingLanes<T, Weighing::over>(alphaType));
+        if (alphaType == ALPHA_OVER_PREMUL) return f(CompositingLanes<T, Weighing::overPremultiplied>(alphaType));
+        if (isCut(alphaType)) return f(CompositingLanes<T, Weighing::whole>(alphaType));
+        f(CompositingLanes<T, Weighing::both>(alphaType));
+    } else if constexpr (std::is_integral_v<T>) {
+        f(Compositing<T>(alphaType));
+    } else {
+        toNearest([&] { f(Compositing<T>(alphaType)); });
+    }
+}
 
 }  // namespace zmv

@@ -3,7 +3,6 @@
 #include "arith/alpha.h"
 #include "arith/alphalanes.h"
 #include "kernels/pointwise.h"
-#include "kernels/rounding.h"
 
 namespace zmv {
 namespace {
@@ -34,23 +33,7 @@ StatusCode given(Packed<T> image) {
 }
 template <class... Operand>
 StatusCode checked(Roi roi, int alphaType, Operand... operands) {
-    return firstOf(
-        {given(operands)..., size(roi), refuse(alphaType < 0 || alphaType >= alphaTypes, STATUS_BAD_ALPHA_TYPE)});
-}
-
-// Calls f with the operation.
-template <class T, class F>
-void compositing(int alphaType, F f) {
-    if constexpr (std::is_integral_v<T> && sizeof(T) <= 2) {
-        if (alphaType == ALPHA_OVER) return f(CompositingLanes<T, Weighing::over>(alphaType));
-        if (alphaType == ALPHA_OVER_PREMUL) return f(CompositingLanes<T, Weighing::overPremultiplied>(alphaType));
-        if (isCut(alphaType)) return f(CompositingLanes<T, Weighing::whole>(alphaType));
-        f(CompositingLanes<T, Weighing::both>(alphaType));
-    } else if constexpr (std::is_integral_v<T>) {
-        f(Compositing<T>(alphaType));
-    } else {
-        toNearest([&] { f(Compositing<T>(alphaType)); });
-    }
+    return firstOf({given(operands)..., size(roi), knownAlphaType(alphaType)});
 }
 
 // Alphas alone, under the weights that they give each other.

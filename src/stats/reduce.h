@@ -105,6 +105,7 @@ struct IsChannel {
     static constexpr bool at(int i) { return (k * lanesOf<V> + i) % n == channel; }
 };
 template <int n, class V>
+requires requires(V v) { v[0]; }
 ZMV_INLINE Group<n, V> byChannel(const Group<n, V>& group) {
     if constexpr (n == 1) {
         return group;
@@ -143,24 +144,91 @@ struct Sums<uint16_t> {
     }
     uint64_t total() const { return 256 * laneSum(allBytes) - 255 * laneSum(lowBytes); }
 };
+// Of products of two numbers, of squares.
+template <class V>
+struct Factors {
+    V a, b;
+};
+template <int n, class V>
+ZMV_INLINE Group<n, Factors<V>> byChannel(const Group<n, Factors<V>>& group) {
+    Group<n, V> a, b;
+    unrolled<groupVectors<n>>([&](auto k) { a[k] = group[k].a, b[k] = group[k].b; });
+    a = byChannel<n>(a), b = byChannel<n>(b);
+    Group<n, Factors<V>> sorted;
+    unrolled<groupVectors<n>>([&](auto k) { sorted[k] = {a[k], b[k]}; });
+    return sorted;
+}
 template <class T>
-struct SquareSums;
-template <>
-struct SquareSums<uint8_t> {
-    static constexpr Len mostVectors = 1 << 14;  // four squares a lane: 2^14 * 4 * 255^2 is below 2^32
+struct ProductSums;
+template <class T>
+requires(sizeof(T) == 1) struct ProductSums<T> {
+    static constexpr Len mostVectors = 1 << 14;  // four products a lane: 2^14 * 4 * 255^2 is below 2^32
     Vec<uint32_t> sums{};
-    void add(Vec<uint8_t> v) {
-        const auto even = (Vec<int16_t>)v & 255, odd = (Vec<int16_t>)((Vec<uint16_t>)v >> 8);
-        sums += (Vec<uint32_t>)(pairProducts(even, even) + pairProducts(odd, odd));
+    void add(Factors<Vec<T>> v) {
+        const auto even = [](Vec<T> v) {
+            return std::is_signed_v<T> ? (Vec<int16_t>)v << 8 >> 8 : (Vec<int16_t>)v & 255;
+        };
+        const auto odd = [](Vec<T> v) { return (Vec<int16_t>)((Vec<Wider<T>>)v >> 8); };
+        sums += (Vec<uint32_t>)(pairProducts(even(v.a), even(v.b)) + pairProducts(odd(v.a), odd(v.b)));
     }
-    uint64_t total() const { return laneSum(pairSums(sums)); }
+    int64_t total() const {
+        if constexpr (std::is_signed_v<T>) return int64_t(laneSum(pairSums(sums ^ 1u << 31))) - lanes<int32_t> * half;
+        return int64_t(laneSum(pairSums(sums)));
+    }
+
+  private:
+    static constexpr int64_t half = int64_t(1) << 31;
 };
 template <>
-struct SquareSums<uint16_t> {
+struct ProductSums<uint16_t> {
     static constexpr Len mostVectors = 1 << 20;
     Vec<uint64_t> sums{};
-    void add(Vec<uint16_t> v) { sums += pairSums(product<0>(v, v)) + pairSums(product<1>(v, v)); }
+    void add(Factors<Vec<uint16_t>> v) { sums += pairSums(product<0>(v.a, v.b)) + pairSums(product<1>(v.a, v.b)); }
     uint64_t total() const { return laneSum(sums); }
+};
+template <>
+struct ProductSums<int16_t> {
+    static constexpr Len mostVectors = 1 << 20;
+    static constexpr uint32_t lift = INT32_MAX;  // two products are above -2^31 and up to 2^31, which is one too many
+    Vec<uint64_t> sums{};
+    int64_t added = 0;
+    void add(Factors<Vec<int16_t>> v) {
+        sums += pairSums((Vec<uint32_t>)pairProducts(v.a, v.b) + lift);
+        ++added;
+    }
+    int64_t total() const { return int64_t(laneSum(sums)) - added * lanes<uint32_t> * int64_t(lift); }
+};
+// The halves of 64 bits apart.
+template <>
+struct ProductSums<uint32_t> {
+    static constexpr Len mostVectors = 1 << 20;
+    Vec<uint64_t> low{}, high{};
+    void add(Factors<Vec<uint32_t>> v) {
+        for (const auto& p : {mulEven(v.a, v.b), mulEven(oddToEven(v.a), oddToEven(v.b))})
+            low += p & 0xffffffff, high += p >> 32;
+    }
+    __int128 total() const { return (__int128(laneSum(high)) << 32) + laneSum(low); }
+};
+// Counted from the smallest number on: a b = (a + 2^31) (b + 2^31) - 2^31 (a + b + 2^32) + 2^62.
+template <>
+struct ProductSums<int32_t> {
+    static constexpr Len mostVectors = 1 << 20;
+    ProductSums<uint32_t> products;
+    Vec<uint64_t> sums{};
+    int64_t added = 0;
+    void add(Factors<Vec<int32_t>> v) {
+        const auto a = (Vec<uint32_t>)v.a ^ 1u << 31, b = (Vec<uint32_t>)v.b ^ 1u << 31;
+        products.add({a, b});
+        sums += pairSums(a) + pairSums(b);
+        ++added;
+    }
+    __int128 total() const {
+        return products.total() - (__int128(laneSum(sums)) << 31) + (__int128(added * lanes<int32_t>) << 62);
+    }
+};
+template <class T>
+struct SquareSums : ProductSums<T> {
+    void add(Vec<T> v) { ProductSums<T>::add({v, v}); }
 };
 
 // Of ones and zeros.

@@ -1,4 +1,4 @@
-// zmviAlphaComp, zmviAlphaCompC, zmviAlphaPremul, zmviAlphaPremulC.
+// zmviAlphaComp, zmviAlphaCompC, zmviAlphaPremul, zmviAlphaPremulC, zmviCompColorKey, zmviAlphaCompColorKey.
 #include <gtest/gtest.h>
 
 #include "arith/arith.h"
@@ -47,6 +47,37 @@ void arrangeAlpha(Case& c) {
         }
     c.arg("roiSize") = {c.width, c.height};
     if (c.has("alphaType")) c.arg("alphaType") = int64_t(c.seed % 12);
+}
+
+// A colour key, pixels that have it, and others that miss it by one channel, of four also by the one that AC4 skips.
+void arrangeKey(Case& c) {
+    arrangeByRoles(c);
+    const Image &first = c.image("src1"), &key = c.image("colorKey");
+    const int n = key.channels;
+    withElement(first.element, [&]<class T>(T) {
+        for (int64_t y = 0; y < c.height; ++y)
+            for (int64_t x = 0; x < c.width; ++x) {
+                if (c.rng.oneIn(3)) continue;
+                for (int k = 0; k < n; ++k) c.set(first, x, y, k, c.get<T>(key, 0, 0, k));
+                if (const int k = c.rng.below(first.channels); c.rng.oneIn(2))
+                    first.at(c.blocks(), x, y, k)[c.rng.below(int(sizeof(T)))] ^= uint8_t(1 << c.rng.below(8));
+            }
+    });
+}
+bool hasKey(Case& c, int64_t x, int64_t y) {
+    bool equal = true;
+    withElement(c.image("src1").element, [&]<class T>(T) {
+        for (int k = 0; k < c.member.to.used(); ++k)
+            equal &= c.get<T>(c.image("src1"), x, y, k) == c.get<T>(c.image("colorKey"), 0, 0, k);
+    });
+    return equal;
+}
+void keyed(Case& c) {
+    const Image& to = c.image("dst");
+    for (int64_t y = 0; y < c.height; ++y)
+        for (int64_t x = 0; x < c.width; ++x)
+            std::memmove(to.at(c.blocks(), x, y, 0), c.image(hasKey(c, x, y) ? "src2" : "src1").at(c.blocks(), x, y, 0),
+                         size_t(c.member.to.used() * bytesOf(to.element)));
 }
 
 template <class T>
@@ -119,13 +150,16 @@ void composite(Case& c) {
     withElement(to.element, [&](auto zero) {
         using T = decltype(zero);
         const Reference<T> due{c.arg("alphaType").a};
+        bool hidden = false;  // a pixel of colour 0 and alpha 0
         const auto put = [&](int64_t x, int64_t y, int k) {
             const bool alphas = layout.alpha && !constants && k == layout.channels - 1;
             const int at = layout.channels - 1;
-            const T aA = constants ? c.get<T>(c.image("alpha1"), 0, 0) : c.get<T>(a, x, y, at);
+            if (k == 0) hidden = c.has("colorKey") && hasKey(c, x, y);
+            const T aA = constants ? c.get<T>(c.image("alpha1"), 0, 0) : hidden ? T(0) : c.get<T>(a, x, y, at);
             const T aB = constants ? c.get<T>(c.image("alpha2"), 0, 0) : c.get<T>(b, x, y, at);
             c.set(to, x, y, k,
-                  alphas ? due.alpha(aA, aB) : due.colour(c.get<T>(a, x, y, k), c.get<T>(b, x, y, k), aA, aB));
+                  alphas ? due.alpha(aA, aB)
+                         : due.colour(hidden ? T(0) : c.get<T>(a, x, y, k), c.get<T>(b, x, y, k), aA, aB));
         };
         // In place, alphas are read until they are overwritten: after the colours of the pixel, or of the image.
         const int written = layout.channels - (constants && layout.alpha);
@@ -192,3 +226,5 @@ extern const Family test_zmviAlphaComp = {.arrange = arrangeAlpha, .oracle = com
 extern const Family test_zmviAlphaCompC = test_zmviAlphaComp;
 extern const Family test_zmviAlphaPremul = {.arrange = arrangeAlpha, .oracle = premultiply};
 extern const Family test_zmviAlphaPremulC = test_zmviAlphaPremul;
+extern const Family test_zmviCompColorKey = {.arrange = arrangeKey, .oracle = keyed};
+extern const Family test_zmviAlphaCompColorKey = {.arrange = arrangeKey, .oracle = composite};

@@ -1,4 +1,4 @@
-// zmviNorm, zmviNormDiff, zmviNormRel, zmviSum, zmviMean.
+// zmviNorm, zmviNormDiff, zmviNormRel, zmviSum, zmviMean, zmviDotProd.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,12 +9,18 @@ namespace {
 
 using namespace test;
 
-enum class Kind { inf, l1, l2, sum };
+enum class Kind { inf, l1, l2, sum, dot };
 Kind kindOf(const Member& m) {
     const auto named = [&](const char* part) { return m.name.find(part) != std::string::npos; };
-    return named("_Inf_") ? Kind::inf : named("_L1_") ? Kind::l1 : named("_L2_") ? Kind::l2 : Kind::sum;
+    return named("DotProd") ? Kind::dot
+           : named("_Inf_") ? Kind::inf
+           : named("_L1_")  ? Kind::l1
+           : named("_L2_")  ? Kind::l2
+                            : Kind::sum;
 }
-std::string resultOf(const Case& c) { return c.has("sum") ? "sum" : c.has("mean") ? "mean" : "value"; }
+std::string resultOf(const Case& c) {
+    return c.has("sum") ? "sum" : c.has("mean") ? "mean" : c.has("pDp") ? "pDp" : "value";
+}
 
 void arrangeNorm(Case& c) {
     if (c.mode == Mode::usual && c.rng.oneIn(40)) c.width = c.rng.between(16300, 17500), c.height = c.rng.between(2, 8);
@@ -32,7 +38,7 @@ void arrangeNorm(Case& c) {
                         }
             });
         }
-    c.place(resultOf(c), c.member.from.channels, 1);
+    c.place(resultOf(c), c.member.from.used(), 1);
     c.arg("roiSize") = {c.width, c.height};
     if (c.has("hint")) c.arg("hint") = c.rng.oneIn(2) ? HINT_ACCURATE : c.rng.between(-1, 4);
 }
@@ -64,7 +70,7 @@ Measures exact(Case& c, Kind kind, bool onlySecond) {
         if (kind == Kind::inf)
             so_far = std::max(so_far, size);
         else
-            so_far += kind == Kind::sum ? d : kind == Kind::l1 ? size : d * d;
+            so_far += kind == Kind::dot ? Wide(a) * b : kind == Kind::sum ? d : kind == Kind::l1 ? size : d * d;
     });
     Measures result;
     for (int k = 0; k < 4; ++k) result[size_t(k)] = double(all[k]);
@@ -90,7 +96,7 @@ Measures ordered(Case& c, Kind kind, bool onlySecond) {
         const double exactSize = std::fabs(double(a) - double(b));
         double& most = largest[size_t(i % channels)];
         if (!(exactSize <= most) && !std::isnan(most)) most = exactSize;
-        const R term = kind == Kind::sum ? d : kind == Kind::l1 ? size : d * d;
+        const R term = kind == Kind::dot ? R(a) * R(b) : kind == Kind::sum ? d : kind == Kind::l1 ? size : d * d;
         partial[i % n] += term;
         reference[i % channels] += kind == Kind::l2 ? (long double)exactSize * exactSize : term;
         scale[i % channels] += std::fabs((long double)term);
@@ -126,7 +132,7 @@ void norm(Case& c) {
     const bool relative = c.member.name.rfind("zmviNormRel", 0) == 0;
     const Measures all = measure(c), second = relative ? measure(c, true) : Measures{};
     const Image& result = c.image(resultOf(c));
-    for (int k = 0; k < c.member.from.channels; ++k) {
+    for (int k = 0; k < c.member.from.used(); ++k) {
         double value = all[size_t(k)];
         if (relative) {
             const double by = second[size_t(k)];
@@ -146,7 +152,8 @@ void norm(Case& c) {
 // Images of one value, large enough for every counter to be emptied in between, whatever the build: the largest sums.
 TEST(Statistics, LargestSums) {
     for (const Member& m : members()) {
-        if (m.name.rfind("zmviNorm_L", 0) != 0 && m.name.rfind("zmviSum_", 0) != 0) continue;
+        const bool one = m.name.rfind("zmviNorm_L", 0) == 0 || m.name.rfind("zmviSum_", 0) == 0;
+        if (!one && kindOf(m) != Kind::dot) continue;
         if (isReal(m.source)) continue;
         withElement(m.source, [&]<class T>(T) {
             for (const T value : {std::numeric_limits<T>::min(), std::numeric_limits<T>::max()})
@@ -154,13 +161,16 @@ TEST(Statistics, LargestSums) {
                     const int n = m.from.channels, step = int(sizeof(T)) * n * width;
                     std::vector<T> image(size_t(width) * size_t(height) * size_t(n), value);
                     double out[4] = {};
-                    const Slot args[] = {image.data(), step, {width, height}, out};
-                    ASSERT_EQ(m.invoke(underTest().find(m.name), args), STATUS_OK);
+                    const Slot both[] = {image.data(), step, image.data(), step, {width, height}, out};
+                    const Slot single[] = {image.data(), step, {width, height}, out};
+                    ASSERT_EQ(m.invoke(underTest().find(m.name), one ? single : both), STATUS_OK);
                     const Wide count = Wide(width) * height;
                     const double due = kindOf(m) == Kind::l2    ? std::sqrt(double(count * value * value))
+                                       : kindOf(m) == Kind::dot ? double(count * value * value)
                                        : kindOf(m) == Kind::sum ? double(count * value)
                                                                 : double(count * (value < 0 ? -Wide(value) : value));
-                    for (int k = 0; k < n; ++k) EXPECT_EQ(out[k], due) << m.name << " of " << width << "x" << height;
+                    for (int k = 0; k < m.from.used(); ++k)
+                        EXPECT_EQ(out[k], due) << m.name << " of " << width << "x" << height;
                 }
         });
     }
@@ -176,4 +186,5 @@ NORM(Inf)
 NORM(L1)
 NORM(L2)
 extern const Family test_zmviSum = {.arrange = arrangeNorm, .oracle = norm};
+extern const Family test_zmviDotProd = {.arrange = arrangeNorm, .oracle = norm};
 extern const Family test_zmviMean = {.arrange = arrangeNorm, .oracle = norm};
