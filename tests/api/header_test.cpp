@@ -8,9 +8,9 @@
 namespace {
 
 const std::map<std::string, std::string> elementOf = {
-    {"8u", "uint8_t"},  {"8s", "int8_t"},       {"16u", "uint16_t"},    {"16s", "int16_t"},
-    {"24u", "uint8_t"}, {"32u", "uint32_t"},    {"32s", "int32_t"},     {"32f", "float"},
-    {"64f", "double"},  {"16sc", "Complex16s"}, {"32sc", "Complex32s"}, {"32fc", "Complex32f"}};
+    {"1u", "uint8_t"},      {"8u", "uint8_t"},      {"8s", "int8_t"},      {"16u", "uint16_t"}, {"16s", "int16_t"},
+    {"24u", "uint8_t"},     {"32u", "uint32_t"},    {"32s", "int32_t"},    {"32f", "float"},    {"64f", "double"},
+    {"16sc", "Complex16s"}, {"32sc", "Complex32s"}, {"32fc", "Complex32f"}};
 
 // zmvi, operation words, type codes, layout, mode letters, _L.
 struct Name {

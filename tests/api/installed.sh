@@ -72,6 +72,7 @@ case $step in
 ./lib/python3/dist-packages/zmvip/_plan.py
 ./lib/python3/dist-packages/zmvip/_regions.py
 ./lib/python3/dist-packages/zmvip/_spec.py
+./lib/python3/dist-packages/zmvip/dask.py
 ./lib/python3/dist-packages/zmvip/py.typed
 ./lib/python3/dist-packages/zmvip/raw.py
 ./lib/python3/dist-packages/zmvip/raw.pyi
