@@ -55,6 +55,41 @@ bool operandGapless(const ConstantIn<W>&, Len, int) {
     return true;
 }
 
+// What computes its rows: operand.rowAt(y, x, n) has them, made of the place.  Places tell rows apart, so that they are
+// not joined.
+template <class Operand>
+concept ComputesRows = requires(const Operand& operand, Len at) {
+    operand.rowAt(at, at, at);
+};
+template <class W, ComputesRows Operand>
+ZMV_INLINE auto rowIn(const Operand& operand, Len y, Len x, Len n) {
+    return operand.rowAt(y, x, n);
+}
+template <ComputesRows Operand>
+bool operandGapless(const Operand&, Len, int) {
+    return false;
+}
+// The numbers 0, 1, 2 .. of a vector's lanes.
+template <class V, int... i>
+ZMV_INLINE V laneNumbers(std::integer_sequence<int, i...>) {
+    return V{Element<V>(i)...};
+}
+template <class V>
+ZMV_INLINE V laneNumbers() {
+    return laneNumbers<V>(std::make_integer_sequence<int, lanesOf<V>>{});
+}
+// The numbers of the columns, from one on.
+template <class W>
+struct Columns {
+    Len from;
+    struct Row {
+        Vec<W> first;
+        Vec<W> at(Len x) const { return first + W(x); }
+        Vec<W> part(Len x, Len) const { return at(x); }
+    };
+    Row rowAt(Len, Len x, Len) const { return {laneNumbers<Vec<W>>() + W(from + x)}; }
+};
+
 // The vector of results from element x on.
 template <class W, class T, class Rule, class... Row>
 ZMV_INLINE Vec<T> resultsIn(const Rule& rule, Len x, const Row&... rows) {
