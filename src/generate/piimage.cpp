@@ -26,7 +26,7 @@ StatusCode ownpi_ImageRamp(Image<T> dst, Roi roi, Layout layout, double offset, 
     Strip<B> strip(layout);
     alignas(64) typename Strip<B>::Values values;
     const auto compute = [&](Len first, Len n) {
-        pointwiseIn<double>(ramp, image(reinterpret_cast<T*>(values), 0), Roi(n, 1), C1, false, Columns<double>{first});
+        pointwiseIn<double>(ramp, image(reinterpret_cast<T*>(values), 0), Roi(n, 1), C1, false, Columns<double>(first));
     };
     if (axis == AXIS_VERTICAL) {
         const Pattern mask = Pattern::mask<B>(3, 4);
@@ -53,7 +53,8 @@ StatusCode ownpi_ImageRamp(Image<T> dst, Roi roi, Layout layout, double offset, 
                           pixels = both ? n + m - 1 : n;
                 compute(both ? x + y : x, pixels);
                 strip.spread(values, pixels);
-                for (Len k = 0; k < m; ++k) strip.write(to.at(x, y + k).data, both ? k : 0, n, pastCache);
+                for (Len k = 0; k < m; ++k)
+                    strip.write(to.at(x * layout.channels, y + k).data, both ? k : 0, n, pastCache);
             }
     }
     if (pastCache) fence();
@@ -130,7 +131,8 @@ StatusCode ownpi_ImageJaehne(Image<T> dst, Roi roi, Layout layout) {
             const Len n = std::min(strip.most(), width - x);
             const auto write = [&](const B* half, Len at) {
                 strip.spread(half, n);
-                for (const Len row : {y, roi.height - 1 - y}) strip.write(to.at(at, row).data, 0, n, false);
+                for (const Len row : {y, roi.height - 1 - y})
+                    strip.write(to.at(at * layout.channels, row).data, 0, n, false);
             };
             rings(reinterpret_cast<T*>(values), n, Phases(x, y, roi, L), L);
             write(values, x);

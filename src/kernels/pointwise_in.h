@@ -3,6 +3,8 @@
 // ties to even, or as the rule's `rounding` says.
 #pragma once
 
+#include <concepts>
+
 #include "kernels/pointwise.h"
 #include "kernels/rounding.h"
 #include "kernels/simd_convert.h"
@@ -55,20 +57,13 @@ bool operandGapless(const ConstantIn<W>&, Len, int) {
     return true;
 }
 
-// What computes its rows: operand.rowAt(y, x, n) has them, made of the place.  Places tell rows apart, so that they are
-// not joined.
-template <class Operand>
-concept ComputesRows = requires(const Operand& operand, Len at) {
-    operand.rowAt(at, at, at);
-};
-template <class W, ComputesRows Operand>
+// What computes its rows: rowAt(y, x, n) makes them of the place, which tells them apart, so that they are not joined.
+struct ComputedRows {};
+template <class W, std::derived_from<ComputedRows> Operand>
 ZMV_INLINE auto rowIn(const Operand& operand, Len y, Len x, Len n) {
     return operand.rowAt(y, x, n);
 }
-template <ComputesRows Operand>
-bool operandGapless(const Operand&, Len, int) {
-    return false;
-}
+inline bool operandGapless(const ComputedRows&, Len, int) { return false; }
 // The numbers 0, 1, 2 .. of a vector's lanes.
 template <class V, int... i>
 ZMV_INLINE V laneNumbers(std::integer_sequence<int, i...>) {
@@ -80,7 +75,8 @@ ZMV_INLINE V laneNumbers() {
 }
 // The numbers of the columns, from one on.
 template <class W>
-struct Columns {
+struct Columns : ComputedRows {
+    explicit Columns(Len first) : from(first) {}
     Len from;
     struct Row {
         Vec<W> first;
