@@ -57,12 +57,13 @@ void arrangePlace(Case& c) {
 }
 float someNumber(Case& c, float range) { return float(c.rng.between(-1000, 1000)) * range / 1000; }
 float someRange(Case& c) {
-    static const float ranges[] = {1, 20, 300, 40000, 1e-42f, 1e30f};
+    static const float ranges[] = {1, 20, 300, 40000, 1e-42f, 4e-38f, 1e30f};
     return c.mode == Mode::controls ? 20 : ranges[c.rng.below(int(std::size(ranges)))];
 }
 void arrangeUniform(Case& c) {
     arrangePlace(c);
-    const float a = someNumber(c, someRange(c)), b = c.rng.oneIn(6) ? a : someNumber(c, someRange(c));
+    const float range = someRange(c), other = c.rng.oneIn(3) ? someRange(c) : range;
+    const float a = someNumber(c, range), b = c.rng.oneIn(6) ? a : someNumber(c, other);
     bind(c, "low", std::min(a, b)), bind(c, "high", std::max(a, b));
     if (c.mode != Mode::usual || !c.rng.oneIn(10)) return;
     bind(c, "low", -0x1.8p127f), bind(c, "high", 0x1.8p127f), c.expected = STATUS_BAD_RANGE;
