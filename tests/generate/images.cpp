@@ -1,6 +1,4 @@
 // Test images: rings in long double, ramps step by step.
-#include <gtest/gtest.h>
-
 #include <bit>
 #include <numbers>
 
@@ -12,8 +10,8 @@ using namespace test;
 
 // Long rows, where phases of large angles lose their places, and long columns.
 void arrangeImage(Case& c) {
-    if (c.mode == Mode::usual && c.rng.oneIn(24)) c.width = c.rng.between(40000, 70000), c.height = c.rng.between(1, 3);
-    if (c.mode == Mode::usual && c.rng.oneIn(12)) c.width = c.rng.between(1, 5), c.height = c.rng.between(1, 4500);
+    if (c.mode == Mode::usual && c.rng.oneIn(40)) c.width = c.rng.between(33000, 50000), c.height = c.rng.between(1, 3);
+    if (c.mode == Mode::usual && c.rng.oneIn(16)) c.width = c.rng.between(1, 3), c.height = c.rng.between(1, 4500);
     arrangeByRoles(c);
 }
 
@@ -31,9 +29,10 @@ void drawRings(Case& c) {
     withElement(c.member.destination, [&](auto zero) {
         using T = decltype(zero);
         const long double most = std::is_integral_v<T> ? std::numeric_limits<T>::max() : 1;
+        long double z = 0;  // the same in all channels
         eachElement(c, [&](int64_t x, int64_t y, int k) {
             const int64_t n = square(2 * x - c.width + 1) + square(2 * y - c.height + 1);
-            const long double z = cosl(std::numbers::pi_v<long double> * (n % (8 * least)) / (4 * least));
+            if (k == 0) z = cosl(std::numbers::pi_v<long double> * (n % (8 * least)) / (4 * least));
             const long double exact = std::is_same_v<T, int16_t> ? z * most : (1 + z) / 2 * most;
             c.set(dst, x, y, k, rounded(c.result<T>(dst, x, y, k), exact));
         });
@@ -45,8 +44,8 @@ void arrangeRamp(Case& c) {
     arrangeImage(c);
     static const double numbers[] = {0, -0.0, 0.5, -0.5, 255, -1, 1e300, -1e300, INFINITY, -INFINITY, 1e-40, 1.0 / 3};
     for (const char* name : {"offset", "slope"}) {
-        double value = c.rng.between(-70000, 70000) / (name[0] == 'o' ? 1.0 : 128.0);
-        if (c.rng.oneIn(3)) value = numbers[c.rng.below(int(std::size(numbers)))];
+        double value = c.rng.oneIn(3) ? numbers[c.rng.below(int(std::size(numbers)))] : c.rng.between(-70000, 70000);
+        if (name[0] == 's' && c.rng.oneIn(2)) value /= 128;
         if (c.rng.oneIn(12)) value = std::bit_cast<double>(0xfff0000000000001 | c.rng.next() >> 20);
         c.arg(name) = std::bit_cast<int64_t>(value);
     }
@@ -63,25 +62,6 @@ void drawRamp(Case& c) {
             c.set(dst, x, y, k, std::is_integral_v<T> ? nearest<T>(sum) : T(sum));
         });
     });
-}
-
-// The rings are four times the same to the bit, in long double as in the library.
-TEST(Images, RingsAreSymmetric) {
-    for (const Library& library : builds())
-        for (const int w : {1, 2, 31, 1000})
-            for (const int h : {1, 7, 64}) {
-                std::vector<float> image(size_t(w) * size_t(h));
-                const auto rings =
-                    reinterpret_cast<StatusCode (*)(float*, int, ImageSize)>(library.find("zmviImageJaehne_32f_C1R"));
-                ASSERT_EQ(rings(image.data(), 4 * w, {w, h}), STATUS_OK);
-                for (int y = 0; y < h; ++y)
-                    for (int x = 0; x < w; ++x) {
-                        const float here = image[size_t(y * w + x)];
-                        ASSERT_EQ(here, image[size_t(y * w + w - 1 - x)]);
-                        ASSERT_EQ(here, image[size_t((h - 1 - y) * w + x)]);
-                    }
-                ASSERT_TRUE(w * h > 1 || image[0] == 1);
-            }
 }
 
 }  // namespace
