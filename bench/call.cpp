@@ -138,12 +138,16 @@ double Call::number(const std::string& name) const {
     if (name == "sigma") return 0;
     if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
     if (name == "alphaType") return setting.factor;
-    if (name == "axis") return AXIS_VERTICAL;
+    if (name == "axis") return has("slope") ? setting.factor : AXIS_VERTICAL;
+    if (name == "slope") return 0.125;
+    if (name == "low" || name == "high") return name == "low" ? -20 : 20;
+    if (name == "mean" || name == "stdDev") return name == "mean" ? 0 : 10;
+    if (name == "seed") return 1;
     if (name == "flags") return 0;
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
     if (name == "uniform") return 1;
-    if (name == "dstOffset" || name == "shiftX" || name == "shiftY" || name == "B") return 0;
+    if (name == "dstOffset" || name == "roiOffset" || name == "shiftX" || name == "shiftY" || name == "B") return 0;
     if (name == "C") return 0.5;
     if (name == "numLobes") return 3;
     if (name == "antialiasing") return 0;

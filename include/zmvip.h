@@ -4842,6 +4842,205 @@ ZMV_API StatusCode zmviResizeAntialiasing_64f_C3R_L(const double* src, int64_t s
 ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
 ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
 
+/* zmviImageJaehne: Rings round the middle of the region whose frequency grows with the radius, up to one period in two
+   pixels at the
+   nearer edge: a test image of zone plate kind, after B. Jaehne, on which filters show what they do to each frequency.
+   With w x h pixels, L the smaller of both, and N = (2x - w + 1)^2 + (2y - h + 1)^2 in 64 bits, z is cos(pi N / (4L))
+   within 1e-15, whatever the size.  dst = (1 + z) / 2, in 8u and 16u times the largest of the type; in 16s it is z
+   times 32767.  Each step in double precision, then rounded once: to nearest with ties to even.  All channels are
+   alike.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   AC4 leaves the fourth channel of the destination as it was.
+   Checked in this order.  STATUS_NULL_POINTER: dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: dstStep is not positive.
+   src/generate/piimage.cpp */
+ZMV_API StatusCode zmviImageJaehne_8u_C1R(uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_8u_C3R(uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_8u_C4R(uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_8u_AC4R(uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16u_C1R(uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16u_C3R(uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16u_C4R(uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16u_AC4R(uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16s_C1R(int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16s_C3R(int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16s_C4R(int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_16s_AC4R(int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_32f_C1R(float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_32f_C3R(float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_32f_C4R(float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviImageJaehne_32f_AC4R(float* dst, int dstStep, ImageSize roiSize);
+
+/* zmviImageRamp: dst = offset + slope * i: i is x for AXIS_HORIZONTAL, y for AXIS_VERTICAL, x + y for AXIS_BOTH.  All
+   channels alike.
+   In double precision, the product rounded and the sum rounded again, so that far pixels are as precise as near ones.
+   To integers: to nearest with ties to even, saturated; NaN becomes 0.  To 32f: rounded once more.  Any offset and
+   slope are accepted, infinite ones too; a NaN offset goes on before that of the product.
+   A tile of a larger ramp passes the offset of its first pixel.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   AC4 leaves the fourth channel of the destination as it was.
+   Except in AC4, regions larger than the largest cache are written past the caches.
+   Checked in this order.  STATUS_NULL_POINTER: dst is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: dstStep is not positive.  STATUS_BAD_AXIS: axis is none of these.
+   src/generate/piimage.cpp */
+ZMV_API StatusCode zmviImageRamp_8u_C1R(uint8_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_8u_C3R(uint8_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_8u_C4R(uint8_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_8u_AC4R(uint8_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16u_C1R(uint16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16u_C3R(uint16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16u_C4R(uint16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16u_AC4R(uint16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16s_C1R(int16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16s_C3R(int16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16s_C4R(int16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_16s_AC4R(int16_t* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_32f_C1R(float* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_32f_C3R(float* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_32f_C4R(float* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+ZMV_API StatusCode zmviImageRamp_32f_AC4R(float* dst, int dstStep, ImageSize roiSize, double offset, double slope, int axis);
+
+/* zmviWinBartlett: dst = src * w(x) * w(y) over the region: a Bartlett window, a roof that is 0 at the edges.
+   Of n pixels along an axis, with j = min(i, n - 1 - i), w is 2j / (n - 1); of one pixel it is 1.
+   In both, each w is computed in double precision and rounded to single; w(x) * w(y), times src, in single precision,
+   each step rounded.  Integers: to nearest with ties to even.  32f: infinite times 0 is NaN.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/generate/piwindow.cpp */
+ZMV_API StatusCode zmviWinBartlett_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinBartlett_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviWinHamming: dst = src * w(x) * w(y) over the region: a Hamming window, a wave that is 0.08 at the edges.
+   Of n pixels along an axis, with j = min(i, n - 1 - i), w is 0.54 - 0.46 cos(2 pi j / (n - 1)); of one pixel it is 1.
+   In both, each w is computed in double precision and rounded to single; w(x) * w(y), times src, in single precision,
+   each step rounded.  Integers: to nearest with ties to even.  32f: infinite times 0 is NaN.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   Regions that read and write more than the largest cache holds are written past the caches, but not in place.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.
+   src/generate/piwindow.cpp */
+ZMV_API StatusCode zmviWinHamming_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
+ZMV_API StatusCode zmviWinHamming_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* zmviAddNoiseUniform: dst = src + noise, evenly spread from low to high; equal bounds add a constant.
+   The generator, Philox4x32-10, is a function of place and seed: roiOffset is where the region's first pixel lies in
+   the whole image, so that tiles that say so give the whole's noise to the bit, in any order and on any thread; equal
+   seeds give equal noise, and a sequence of images puts its number into the seed.  With n channels, 4 for AC4, and e =
+   (roiOffset.x + x) * n + channel in 64 bits, the element takes word e & 3 of the counter whose words are the low and
+   the high half of e >> 2, roiOffset.y + y, and 0; the key is the low and the high half of the seed.
+   The sum is in single precision.  To integers: to nearest with ties to even, saturated; NaN and infinite pixels of 32f
+   stay.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   AC4 leaves the fourth channel of the destination as it was.
+   In single precision, each step rounded, noise = low + u * d, but at most high: u is the upper 24 bits of the word, d
+   is (high - low) / 2^24, formed in double precision and rounded once.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_RANGE: low is above high, one of them is NaN or infinite, or
+   their difference exceeds the largest float.
+   src/generate/pinoise.cpp */
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseUniform_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float low, float high, uint64_t seed);
+
+/* zmviAddNoiseGauss: dst = src + noise, normally distributed round mean with a standard deviation of stdDev.
+   The generator, Philox4x32-10, is a function of place and seed: roiOffset is where the region's first pixel lies in
+   the whole image, so that tiles that say so give the whole's noise to the bit, in any order and on any thread; equal
+   seeds give equal noise, and a sequence of images puts its number into the seed.  With n channels, 4 for AC4, and e =
+   (roiOffset.x + x) * n + channel in 64 bits, the element takes word e & 3 of the counter whose words are the low and
+   the high half of e >> 2, roiOffset.y + y, and 1; the key is the low and the high half of the seed.
+   The sum is in single precision.  To integers: to nearest with ties to even, saturated; NaN and infinite pixels of 32f
+   stay.
+   The caller's rounding mode and denormal setting have no influence and are not changed.
+   AC4 leaves the fourth channel of the destination as it was.
+   By Box and Muller: words 0 and 1 of a counter serve elements 0 and 1, words 2 and 3 the others.  u1 is the upper 24
+   bits of the first, plus 1, over 2^24, u2 those of the second over 2^24; with r = sqrt(-2 ln u1), the first element
+   has z = r cos(2 pi u2), the second z = r sin(2 pi u2).  noise = mean + z * stdDev, in single precision, each step
+   rounded.  ln, cos and sin are the library's own: z is within 1e-6 * (1 + |z|) of the exact one, the same bits in
+   every build.  No z is beyond 5.77.
+   In place: the I forms, or src == dst with equal steps; other overlap is undefined.
+   Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: a step is not positive.  STATUS_OUT_OF_RANGE: mean is NaN or infinite, or stdDev is negative, NaN or
+   infinite.
+   src/generate/pinoise.cpp */
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+ZMV_API StatusCode zmviAddNoiseGauss_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImagePoint roiOffset, float mean, float stdDev, uint64_t seed);
+
 #ifdef __cplusplus
 }
 #endif

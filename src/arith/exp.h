@@ -1,17 +1,14 @@
-// e to the power of x in double precision, and what the logarithm shares with it: rules of our own, since those of the
-// C library differ from processor to processor.
+// e to the power of x in double precision: a rule of our own, since that of the C library differs from processor to
+// processor.
 #pragma once
 
 #include <algorithm>
 #include <array>
 
-#include "kernels/polynomial.h"
+#include "kernels/logarithm.h"
 #include "kernels/simd_convert.h"
 
 namespace zmv {
-
-// ln 2 in two parts: the first has 33 bits, so that its products with the powers of two of all 16-bit pixels are exact.
-constexpr double ln2 = 0x1.62e42fefp-1, ln2Rest = 0x1.473de6af278edp-34;
 
 // e^x * 2^-factor.
 struct Exp {
@@ -32,7 +29,7 @@ struct Exp {
         // x = n ln 2 + r.  Beyond 16 bits all results are zero or infinite.
         const D within = larger(fill(-70000.0), smaller(fill(70000.0), x));
         const D n = within * (1 / 0.6931471805599453) + toInteger - toInteger;
-        const D r = within - n * ln2 - n * ln2Rest;
+        const D r = within - n * ln2<double> - n * ln2Rest<double>;
         const D power = larger(fill(-1000.0), smaller(fill(1000.0), n - factor));
         const D twoToPower = (D)((Vec<uint64_t>)(power + (toInteger + 1023)) << 52);
         return polynomial(coefficients, r) * twoToPower;

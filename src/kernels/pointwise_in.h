@@ -3,6 +3,8 @@
 // ties to even, or as the rule's `rounding` says.
 #pragma once
 
+#include <concepts>
+
 #include "kernels/pointwise.h"
 #include "kernels/rounding.h"
 #include "kernels/simd_convert.h"
@@ -54,6 +56,35 @@ template <class W>
 bool operandGapless(const ConstantIn<W>&, Len, int) {
     return true;
 }
+
+// What computes its rows: rowAt(y, x, n) makes them of the place, which tells them apart, so that they are not joined.
+struct ComputedRows {};
+template <class W, std::derived_from<ComputedRows> Operand>
+ZMV_INLINE auto rowIn(const Operand& operand, Len y, Len x, Len n) {
+    return operand.rowAt(y, x, n);
+}
+inline bool operandGapless(const ComputedRows&, Len, int) { return false; }
+// The numbers 0, 1, 2 .. of a vector's lanes.
+template <class V, int... i>
+ZMV_INLINE V laneNumbers(std::integer_sequence<int, i...>) {
+    return V{Element<V>(i)...};
+}
+template <class V>
+ZMV_INLINE V laneNumbers() {
+    return laneNumbers<V>(std::make_integer_sequence<int, lanesOf<V>>{});
+}
+// The numbers of the columns, from one on.
+template <class W>
+struct Columns : ComputedRows {
+    explicit Columns(Len first) : from(first) {}
+    Len from;
+    struct Row {
+        Vec<W> first;
+        Vec<W> at(Len x) const { return first + W(x); }
+        Vec<W> part(Len x, Len) const { return at(x); }
+    };
+    Row rowAt(Len, Len x, Len) const { return {laneNumbers<Vec<W>>() + W(from + x)}; }
+};
 
 // The vector of results from element x on.
 template <class W, class T, class Rule, class... Row>

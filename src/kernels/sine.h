@@ -1,5 +1,6 @@
-// Sine and cosine in double precision, within one unit in the last place: rules of our own, since those of the C
-// library differ from processor to processor.  All of it rounds to nearest, which the caller sees to.
+// Sine and cosine, in double precision within one unit in the last place, and in single precision: rules of our own,
+// since those of the C library differ from processor to processor.  All of it rounds to nearest, which the caller sees
+// to.
 #pragma once
 
 #include <bit>
@@ -14,34 +15,44 @@ struct Precise {
     V high, low;
 };
 
-// The series of an eighth of the circle: the coefficients of x^first, x^(first + 2), and so on, up to where the next
-// term is below half a unit in the last place for |x| <= pi / 4.
-template <size_t terms>
-constexpr std::array<double, terms> circleSeries(int first) {
-    std::array<double, terms> c{};
+// The series of an eighth of the circle: the coefficients of x^first, x^(first + 2), and so on.
+template <class T, size_t terms>
+constexpr std::array<T, terms> circleSeries(int first) {
+    std::array<T, terms> c{};
     double factorial = 1, sign = first % 4 < 2 ? 1 : -1;
     for (int k = 2; k <= first; ++k) factorial *= k;
     for (size_t i = 0; i < terms; ++i) {
-        c[i] = sign / factorial;
+        c[i] = T(sign / factorial);
         const int k = first + 2 * int(i);
         factorial *= (k + 1) * (k + 2), sign = -sign;
     }
     return c;
 }
+// Up to where the next term is below half a unit in the last place for |x| <= pi / 4.
+template <class V>
+constexpr size_t circleTerms = sizeof(Number<V>) == 4 ? 4 : 8;
 
-// The sine and cosine of a number between -pi / 4 and pi / 4.
+// The sine and cosine of a number between -pi / 4 and pi / 4, less what its low part takes off.
+template <class V>
+ZMV_INLINE V sineOf(V x, V less = V{}) {
+    constexpr auto series = circleSeries<Number<V>, circleTerms<V>>(3);
+    const V square = x * x;
+    return x + (x * square * polynomial(series, square) - less);
+}
+template <class V>
+ZMV_INLINE V cosineOf(V x, V less = V{}) {
+    constexpr auto series = circleSeries<Number<V>, circleTerms<V>>(4);
+    const V square = x * x, half = square * Number<V>(0.5);
+    const V most = 1 - half, lost = (1 - most) - half;
+    return most + (lost + (square * square * polynomial(series, square) - less));
+}
 template <class V>
 ZMV_INLINE V sineOf(Precise<V> x) {
-    constexpr auto series = circleSeries<8>(3);
-    const V square = x.high * x.high;
-    return x.high + (x.high * square * polynomial(series, square) + x.low * (1 - square * 0.5));
+    return sineOf(x.high, x.low * (x.high * x.high * 0.5 - 1));
 }
 template <class V>
 ZMV_INLINE V cosineOf(Precise<V> x) {
-    constexpr auto series = circleSeries<8>(4);
-    const V square = x.high * x.high, half = square * 0.5;
-    const V most = 1 - half, lost = (1 - most) - half;
-    return most + (lost + (square * square * polynomial(series, square) - x.high * x.low));
+    return cosineOf(x.high, x.high * x.low);
 }
 
 // Turns x radians by the quarter circle nearest to it, |x| up to some thousands: what is left, and how many quarters.

@@ -47,6 +47,7 @@ std::vector<Slot> tile(Case& c, int64_t x, int64_t y, int64_t w, int64_t h,
     for (size_t i = 0; i < args.size(); ++i) {
         const Parameter& p = c.member.params[i];
         if (p.name == regionOf(c.member)) args[i] = {w, h};
+        if (p.name == "roiOffset") args[i].a += x, args[i].b += y;  // the tile's place in the whole image
         if (p.name == "borderType")
             args[i].a |= (x > 0 ? BORDER_IN_MEM_LEFT : 0) | (y > 0 ? BORDER_IN_MEM_TOP : 0) |
                          (x + w < c.width ? BORDER_IN_MEM_RIGHT : 0) | (y + h < c.height ? BORDER_IN_MEM_BOTTOM : 0);

@@ -1,0 +1,76 @@
+// zmviWinBartlett, zmviWinHamming: images faded out towards their edges.
+#include "core/streaming.h"
+#include "kernels/pointwise_in.h"
+#include "kernels/simd_trig.h"
+
+namespace zmv {
+namespace {
+
+// The weights of pixels 0 to `last` of an axis; the two halves are equal to the bit.
+template <class Shape>
+struct Weight {
+    double last;
+    ZMV_INLINE Vec<double> operator()(Vec<double> i) const {
+        const Vec<double> j = smaller(i, last - i);
+        return Shape::of(j + j, fill(last));
+    }
+};
+struct Bartlett {
+    static ZMV_INLINE Vec<double> of(Vec<double> twice, Vec<double> last) { return twice / last; }
+};
+struct Hamming {
+    static ZMV_INLINE Vec<double> of(Vec<double> twice, Vec<double> last) {
+        return 0.54 - 0.46 * cosineOfPi(twice, last);
+    }
+};
+
+// The weights of a tile: one a column, times that of the row.
+struct Weights : ComputedRows {
+    static constexpr Len most = 1024;
+    alignas(64) float across[most + lanes<float>], down[most];
+
+    struct Row {
+        const float* across;
+        float down;
+        Vec<float> at(Len x) const { return load(across + x) * down; }
+        Vec<float> part(Len x, Len) const { return at(x); }
+    };
+    Row rowAt(Len y, Len x, Len) const { return {across + x, down[y]}; }
+
+    // Of n pixels from one of `all` on.
+    template <class Shape>
+    static void compute(float* weights, Len from, Len n, Len all) {
+        if (all == 1)
+            *weights = 1;
+        else
+            pointwiseIn<double>(Weight<Shape>{double(all - 1)}, image(weights, 0), Roi(n, 1), C1, false,
+                                Columns<double>(from));
+    }
+};
+
+template <class Shape, class T>
+StatusCode ownpi_Win(Image<const T> src, Image<T> dst, Roi roi) {
+    if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step)})) return bad;
+    const bool pastCache = src.data != dst.data && regionPastCache(roi, C1, 2 * sizeof(T));
+    Weights weights;
+    const auto product = [](Vec<float> weight, Vec<float> pixel) { return weight * pixel; };
+    for (Len x = 0; x < roi.width; x += Weights::most) {
+        const Len n = std::min(Weights::most, roi.width - x);
+        Weights::compute<Shape>(weights.across, x, n, roi.width);
+        for (Len y = 0; y < roi.height; y += Weights::most) {
+            const Len m = std::min(Weights::most, roi.height - y);
+            Weights::compute<Shape>(weights.down, y, m, roi.height);
+            pointwiseIn<float>(product, dst.at(x, y), Roi(n, m), C1, pastCache, weights, src.at(x, y));
+        }
+    }
+    return STATUS_OK;
+}
+
+}  // namespace
+}  // namespace zmv
+
+using namespace zmv;
+#define ENTRY_OF ZMV_DEFINE_TO_NEAREST
+#include "generate/generate.def"
+WINDOW_FAMILY(Bartlett)
+WINDOW_FAMILY(Hamming)
