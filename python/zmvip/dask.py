@@ -51,13 +51,13 @@ def lazily(function, *args, **keywords):
     else:
         regions = tiles(w, h, (max(columns), max(rows)), least)
     said.pop("roi", None)
+    whole = call.source.height, call.source.width
     work = dask.delayed(block, pure=True)
     found = []
     for left, top, width, height in regions:
         region = x + left, y + top, width, height
         part, origin = sources(call, region)
-        found.append(work(engine.name, on_images(engine, args, said, lambda a: a[part]), region, origin,
-                          None if mode == "slice" else (call.source.height, call.source.width)))
+        found.append(work(engine.name, on_images(engine, args, said, lambda a: a[part]), region, origin, whole))
     if how:
         return dask.delayed(together)(found, how, naming_of(plan))
     return assembled(plan, found, regions)
@@ -96,18 +96,17 @@ def sources(call, region):
 
 
 def block(name, arguments, region, origin, whole):
-    """A region of the result from parts of the images.  Of an object that knows the whole image's size the image seems
-    to be there; what is not is never looked at."""
-    (x, y, w, h), (args, said), function = region, arguments, getattr(zmvip, name)
-    if whole is None:
-        return function(*args, **said, roi=(x - origin[0], y - origin[1], w, h))
+    """A region of the result from parts of the images, which seem to be there as a whole: so neighbours, places and sizes
+    are those of the whole, and what is not there is never looked at."""
+    (args, said), function = arguments, getattr(zmvip, name)
 
     def seeming(image):
-        image = np.ascontiguousarray(image)
-        start = image.ctypes.data - origin[1] * image.strides[0] - origin[0] * image.strides[1]
-        places = {"data": (start, True), "shape": (*whole, *image.shape[2:]), "strides": image.strides,
+        rows = np.empty((len(image), *whole[1:], *image.shape[2:]), image.dtype)  # no row overlaps the next
+        rows[:, :image.shape[1]] = image
+        start = rows.ctypes.data - origin[1] * rows.strides[0] - origin[0] * rows.strides[1]
+        places = {"data": (start, True), "shape": (*whole, *image.shape[2:]), "strides": rows.strides,
                   "typestr": image.dtype.str, "version": 3}
-        return np.asarray(type("Seeming", (), {"__array_interface__": places, "image": image})())
+        return np.asarray(type("Seeming", (), {"__array_interface__": places, "rows": rows})())
 
     args, said = on_images(function.engine, args, said, seeming)
     return function(*args, **said, roi=region)

@@ -79,7 +79,7 @@ TEST_F(Header, IndexWidthAgrees) {
             }
             for (const std::string pair : {"ImageSize", "ImagePoint", "ImageRect"})
                 EXPECT_NE(p.type, large ? pair : pair + "L") << f.name << ' ' << p.name;
-            if (!large) {
+            if (!large && p.name != "seed") {
                 EXPECT_EQ(p.type.find("int64_t"), std::string::npos) << f.name << ' ' << p.name;
             }
             if (large && p.name != "borderSize") {  // widths of borders are never long

@@ -171,7 +171,8 @@ class Case:
                 w, h = (W, H) if said is None else said if isinstance(said, tuple) else (said, said)
                 values.append(getattr(raw, a.type)(w, h) if a.type.startswith("Image") else w)
             elif a.role == "point":
-                values.append(raw.ImagePoint(1, 1) if a.type == "ImagePoint" else 1)
+                at = 0 if a.name == "roiOffset" else 1  # the image is the whole; masks are of 3 x 3
+                values.append(raw.ImagePoint(at, at) if a.type == "ImagePoint" else at)
             elif a.role == "buffer":
                 values.append(ctypes.create_string_buffer(1 << 20))
             elif a.role == "result":
