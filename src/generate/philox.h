@@ -19,24 +19,29 @@ class Philox {
     explicit Philox(uint64_t key) {
         auto low = uint32_t(key), high = uint32_t(key >> 32);
         for (auto& round : keys_) {
-            round = {(W)fill(low), (W)fill(high)};
+            round = {fill(low), fill(high)};
             low += 0x9E3779B9, high += 0xBB67AE85;
         }
     }
-    // counters: the two lower words; the upper ones are the same in all.
-    ZMV_INLINE Words operator()(W counters, uint32_t third, uint32_t fourth) const {
-        W x0 = counters, x1 = counters >> 32, x2 = (W)fill(third), x3 = (W)fill(fourth);
-        for (const auto& [key0, key1] : keys_) {
-            const W p0 = mulEven((U)x0, fill<uint32_t>(0xD2511F53)), p1 = mulEven((U)x2, fill<uint32_t>(0xCD9E8D57));
-            x0 = (p1 >> 32) ^ x1 ^ key0, x1 = p1;
-            x2 = (p0 >> 32) ^ x3 ^ key1, x3 = p0;
-        }
-        return {(U)x0, (U)x1, (U)x2, (U)x3};
+    // counters: the lowest words; the upper ones are the same in all.  A round waits for the one before it, so that
+    // several vectors of counters take turns.
+    template <size_t n>
+    ZMV_INLINE std::array<Words, n> operator()(const std::array<W, n>& counters, uint32_t second, uint32_t third,
+                                               uint32_t fourth) const {
+        std::array<Words, n> x;
+        for (size_t i = 0; i < n; ++i) x[i] = {(U)counters[i], fill(second), fill(third), fill(fourth)};
+        for (const auto& [key0, key1] : keys_)
+            for (auto& [x0, x1, x2, x3] : x) {
+                const W p0 = mulEven(x0, fill<uint32_t>(0xD2511F53)), p1 = mulEven(x2, fill<uint32_t>(0xCD9E8D57));
+                x0 = (U)(p1 >> 32) ^ x1 ^ key0, x1 = (U)p1;
+                x2 = (U)(p0 >> 32) ^ x3 ^ key1, x3 = (U)p0;
+            }
+        return x;
     }
 
   private:
     struct Keys {
-        W first, second;
+        U first, second;
     };
     std::array<Keys, 10> keys_;
 };

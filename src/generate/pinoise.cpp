@@ -68,7 +68,8 @@ struct Gauss {
 // Computes the noise of a row, whole counters at a time, into a room that serves one row after the other.
 template <class Kind>
 struct Noise : ComputedRows {
-    static constexpr Len most = 1024;  // elements of a row
+    static constexpr size_t vectors = 2;                                       // of counters at a time
+    static constexpr Len most = 1024, step = Len(vectors) * 2 * lanes<float>;  // elements of a row, and of a step
 
     const Kind& kind;
     const Philox& random;
@@ -83,11 +84,22 @@ struct Noise : ComputedRows {
     Row rowAt(Len y, Len x, Len n) const {
         const Len first = left * channels + x, phase = first & 3;
         const auto row = uint32_t(top + y);
-        auto counters = countersFrom(uint64_t(first >> 2));
-        for (Len i = 0; i < phase + n; i += 2 * lanes<float>, counters += lanes<uint64_t>) {
-            const Pair noise = kind(random(counters, row, Kind::kind));
-            store(room + i, noise.first);
-            store(room + i + lanes<float>, noise.second);
+        // The upper half of a counter changes where it passes zero; elsewhere it does not, in numbers of 34 bits.
+        for (Len done = 0, end; done < phase + n; done = end) {
+            const Len block = (first - phase + done) / 4;
+            end = block < 0 ? std::min(phase + n, done - 4 * block) : phase + n;
+            const auto upper = uint32_t(block >> 32);
+            auto counters = countersFrom(uint64_t(block));
+            for (Len i = done; i < end; i += step, counters += uint64_t(step) / 4) {
+                std::array<Vec<uint64_t>, vectors> next;
+                for (size_t k = 0; k < vectors; ++k) next[k] = counters + k * lanes<uint64_t>;
+                const auto words = random(next, upper, row, Kind::kind);
+                for (size_t k = 0; k < vectors; ++k) {
+                    const Pair noise = kind(words[k]);
+                    store(room + i + Len(2 * k) * lanes<float>, noise.first);
+                    store(room + i + Len(2 * k + 1) * lanes<float>, noise.second);
+                }
+            }
         }
         return {room + phase};
     }
@@ -99,7 +111,7 @@ StatusCode ownpi_AddNoise(Image<const T> src, Image<T> dst, Roi roi, Layout layo
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step), kind.check()}))
         return bad;
     const Philox random(seed);
-    alignas(64) float room[Noise<Kind>::most + 4 * lanes<float>];
+    alignas(64) float room[Noise<Kind>::most + 2 * Noise<Kind>::step];
     const Len columns = Noise<Kind>::most / layout.channels;
     const auto sum = [](F pixel, F noise) { return addInOrder(pixel, noise); };
     for (Len x = 0; x < roi.width; x += columns) {

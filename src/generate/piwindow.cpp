@@ -40,11 +40,11 @@ struct Weights : ComputedRows {
     // Of n pixels from one of `all` on.
     template <class Shape>
     static void compute(float* weights, Len from, Len n, Len all) {
-        if (all == 1)
-            *weights = 1;
-        else
-            pointwiseIn<double>(Weight<Shape>{double(all - 1)}, image(weights, 0), Roi(n, 1), C1, false,
-                                Columns<double>(from));
+        if (all == 1) return void(*weights = 1);
+        const bool whole = n == all;  // its second half is the first, turned round
+        pointwiseIn<double>(Weight<Shape>{double(all - 1)}, image(weights, 0), Roi(whole ? (n + 1) / 2 : n, 1), C1,
+                            false, Columns<double>(from));
+        for (Len i = 0; whole && i < n / 2; ++i) weights[n - 1 - i] = weights[i];
     }
 };
 

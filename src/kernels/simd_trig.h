@@ -27,12 +27,15 @@ template <class U>
 ZMV_INLINE auto turnOf(U k) {
     static_assert(std::is_same_v<Element<U>, uint32_t>);
     using V = Vec<float, sizeof(U)>;
-    // Quarters of the circle, to the nearest; what is left, from -2^21 to 2^21, is exact.
-    const U quarter = (k + (1u << 21)) >> 22;
-    const V x = toFloat(asSigned(k - (quarter << 22))) * float(1.5707963267948966 / (1 << 22));
-    const U s = (U)sineOf(x), c = (U)cosineOf(x), odd = -(quarter & 1);
-    const auto sign = [](U q) { return (q & 2) << 30; };
-    return Turn<V>{(V)(select(odd, s, c) ^ sign(quarter + 1)), (V)(select(odd, c, s) ^ sign(quarter))};
+    // The upper two of 24 bits count the quarters of the circle, to the nearest; the others are what is left, 2^21 too
+    // much.  As the lowest bits of 2^23 they are a number.
+    constexpr uint32_t quarter = 1u << 22;
+    const U t = k + quarter / 2;
+    const V x =
+        ((V)((t & (quarter - 1)) | 0x4b000000) - float((1 << 23) + quarter / 2)) * float(1.5707963267948966 / quarter);
+    const U s = (U)sineOf(x), c = (U)cosineOf(x), odd = -(t / quarter & 1);
+    const auto sign = [](U turned) { return turned << 8 & 0x80000000; };
+    return Turn<V>{(V)(select(odd, s, c) ^ sign(t + quarter)), (V)(select(odd, c, s) ^ sign(t))};
 }
 
 }  // namespace zmv

@@ -43,8 +43,10 @@ template <class V>
 ZMV_INLINE V cosineOf(V x, V less = V{}) {
     constexpr auto series = circleSeries<Number<V>, circleTerms<V>>(4);
     const V square = x * x, half = square * Number<V>(0.5);
-    const V most = 1 - half, lost = (1 - most) - half;
-    return most + (lost + (square * square * polynomial(series, square) - less));
+    const V beyond = square * square * polynomial(series, square) - less, most = 1 - half;
+    if constexpr (sizeof(Number<V>) == 4) return most + beyond;
+    const V lost = (1 - most) - half;
+    return most + (lost + beyond);
 }
 template <class V>
 ZMV_INLINE V sineOf(Precise<V> x) {

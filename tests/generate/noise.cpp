@@ -116,7 +116,7 @@ TEST(Noise, PublishedAnswers) {
         const uint32_t due[] = {0x6627e8d5, 0xe169c58d, 0xbc57ac4c, 0x9b00dbd8};
         for (int i = 0; i < 4; ++i) EXPECT_EQ(words[i], float(due[i] >> 8));
     }
-    const auto all = zmv::Philox(~uint64_t(0))(~zmv::Vec<uint64_t>{}, ~0u, ~0u);
+    const auto all = zmv::Philox(~uint64_t(0))(std::array{~zmv::Vec<uint64_t>{}}, ~0u, ~0u, ~0u)[0];
     const uint32_t due[] = {0x408f276d, 0x41c83b0e, 0xa20bc7c6, 0x6d5451fd};
     for (size_t i = 0; i < 4; ++i) EXPECT_EQ(all[i][0], due[i]);
 }
