@@ -20,10 +20,16 @@ struct Pair {
     F first, second;
 };
 
-// The words of the even counters in a vector, four by four, and those of the odd ones.
-struct OddInLanes {
-    static constexpr int at(int i) { return InLanes<U>::of(i, 2 * InLanes<U>::inLane(i) + 1); }
+// The even or odd elements of a, lane by lane, then those of b: as floats, which two of take one instruction to
+// shuffle.
+template <int odd>
+struct HalfInLanes {
+    static constexpr int at(int i) { return InLanes<F>::of(i, 2 * InLanes<F>::inLane(i) + odd); }
 };
+template <int odd>
+ZMV_INLINE U halfOf(U a, U b) {
+    return (U)permute<HalfInLanes<odd>>((F)a, (F)b);
+}
 
 struct Uniform {
     static constexpr uint32_t kind = 0;
@@ -33,8 +39,8 @@ struct Uniform {
 
     ZMV_INLINE F of(U words) const { return smaller(fill(high), toFloat(asSigned(words >> 8)) * unit + low); }
     ZMV_INLINE Pair operator()(const Words& w) const {
-        const U front = even(w[0], w[1]), back = even(w[2], w[3]);
-        return {of(even(front, back)), of(permute<OddInLanes>(front, back))};
+        const U front = halfOf<0>(w[0], w[1]), back = halfOf<0>(w[2], w[3]);
+        return {of(halfOf<0>(front, back)), of(halfOf<1>(front, back))};  // of the even counters, of the odd ones
     }
 };
 
@@ -56,7 +62,7 @@ struct Gauss {
         }
     };
     ZMV_INLINE Pair operator()(const Words& w) const {
-        const U first = even(w[0], w[2]) >> 8, second = even(w[1], w[3]) >> 8;
+        const U first = halfOf<0>(w[0], w[2]) >> 8, second = halfOf<0>(w[1], w[3]) >> 8;
         const F u = toFloat(asSigned(first + 1)) * place24;
         const F radius = squareRoot(logarithm(u) * -2);
         const auto [cosine, sine] = turnOf(second);
