@@ -187,7 +187,10 @@ void highPass(Case& c) {
         std::vector<float> pixels, means(size_t(src.width * src.height));
         for (int64_t y = -reach; y < src.height + reach; ++y)
             for (int64_t x = -reach; x < src.width + reach; ++x) pixels.push_back(pixel(x, y, k));
-        std::vector<uint8_t> buffer(pixels.size() * 4 + (1 << 16));
+        int size = 0;
+        reinterpret_cast<decltype(&zmviFilterBoxBorderGetBufferSize)>(
+            c.library.find("zmviFilterBoxBorderGetBufferSize"))(roi, {side, side}, DATATYPE_32F, 1, &size);
+        std::vector<uint8_t> buffer(static_cast<size_t>(size));
         reinterpret_cast<decltype(&zmviFilterBoxBorder_32f_C1R)>(c.library.find("zmviFilterBoxBorder_32f_C1R"))(
             &pixels[size_t(reach * width + reach)], width * 4, means.data(), roi.width * 4, roi, {side, side},
             BORDER_IN_MEM, 0, buffer.data());
