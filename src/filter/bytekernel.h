@@ -11,19 +11,20 @@ struct EvenOdd {
 };
 // a * p[2 * i] + b * p[2 * i + 1] in lane i.
 template <int a, int b>
-ZMV_INLINE Vec<int16_t> pairSum(const uint8_t* p) {
-    return bytePairProducts(load(p), (Vec<int8_t>)fill(int16_t(uint8_t(a) | uint8_t(b) << 8)));
+ZMV_INLINE Vec<int16_t> pairSum(Vec<uint8_t> p) {
+    return bytePairProducts(p, (Vec<int8_t>)fill(int16_t(uint8_t(a) | uint8_t(b) << 8)));
 }
-// The sums of windows that start at p, at p + 1 and so on.  The last weight is alone in its pair, with the neighbour
-// before it, so that nothing is read beyond the last window.
+// The sums of windows that start at p, at p + 1 and so on.  Both kinds take the same vectors, every second neighbour's,
+// so that nothing is read beyond the last window.
 template <class W>
 ZMV_INLINE EvenOdd alongRow(const uint8_t* p) {
     EvenOdd sum{};
     unrolled<W::pairs + 1>([&](auto pair) __attribute__((always_inline)) {
-        constexpr bool alone = pair == W::pairs;
-        constexpr int at = alone ? W::count - 2 : 2 * pair;
-        constexpr int a = alone ? 0 : W::at[at], b = W::at[at + 1];
-        if constexpr (a != 0 || b != 0) sum.even += pairSum<a, b>(p + at), sum.odd += pairSum<a, b>(p + at + 1);
+        constexpr int at = 2 * pair, before = at > 0 ? W::at[at - 1] : 0, here = W::at[at],
+                      behind = at + 1 < W::count ? W::at[at + 1] : 0;
+        const auto pixels = load(p + at);
+        if constexpr (here != 0 || behind != 0) sum.even += pairSum<here, behind>(pixels);
+        if constexpr (before != 0 || here != 0) sum.odd += pairSum<before, here>(pixels);
     });
     return sum;
 }

@@ -2,54 +2,57 @@
 // which takes the pixel that enters the window and loses the one that leaves it, and the sum of those that a window
 // covers.
 //
-// Histograms have two levels: 16 coarse bins, and 16 fine ones in each.  Along a row the coarse sums are kept up to
-// date; of the fine ones only those of the bin in which the median is, when it is looked for.
+// Histograms have two levels: 16 coarse bins, and 16 fine ones in each.  A counter counts what is in its bin and in
+// those before it, so that the bin with the median is found by one comparison of all: the number of counters that are
+// not above its rank.  Along a row the coarse sums are kept up to date; of the fine ones only those in the median's
+// coarse bin.
 #pragma once
 
 #include <cstring>
 
 #include "kernels/bands.h"
+#include "kernels/rows.h"
 #include "kernels/simd_convert.h"
+#include "kernels/simd_sorted.h"
 
 namespace zmv {
 
 // Sixteen counters.
 template <class S>
 class Counters {
-    static constexpr int each = lanes<S, 16>, vectors = 16 / each;
+    static constexpr int bytes = std::min(vectorBytes, int(16 * sizeof(S))), each = lanes<S, bytes>,
+                         vectors = 16 / each;
 
   public:
     template <class C>
     ZMV_INLINE void add(const C* column) {
-        unrolled<vectors>([&](auto k) { v_[k] += loadWiden<S, C, 16>(column + k * each); });
+        unrolled<vectors>([&](auto k) { v_[k] += loadWiden<S, C, bytes>(column + k * each); });
     }
     template <class C>
     ZMV_INLINE void subtract(const C* column) {
-        unrolled<vectors>([&](auto k) { v_[k] -= loadWiden<S, C, 16>(column + k * each); });
+        unrolled<vectors>([&](auto k) { v_[k] -= loadWiden<S, C, bytes>(column + k * each); });
     }
-    // The first bin with which more than `rank` are counted; `before` becomes the number in bins before it.
-    ZMV_INLINE int binOf(S rank, S& before) const {
-        Vec<S, 16> upTo[vectors], base{};
-        S ends[16];
+    // The first bin up to which more than `rank` are counted.
+    ZMV_INLINE int binOf(S rank) const {
         int bin = 0;
-        unrolled<vectors>([&](auto k) {
-            upTo[k] = prefixSum(v_[k]) + base;
-            base = spreadLast(upTo[k]);
-            store(ends + k * each, upTo[k]);
-            bin += lanesAtMost(upTo[k], rank);
-        });
-        before = bin ? ends[bin - 1] : S(0);
+        unrolled<vectors>([&](auto k) { bin += lanesUpTo(v_[k], rank); });
         return bin;
+    }
+    ZMV_INLINE void storeTo(S* counters) const {
+        unrolled<vectors>([&](auto k) { store(counters + k * each, v_[k]); });
     }
 
   private:
-    static ZMV_INLINE int lanesAtMost(Vec<S, 16> v, S rank) {
-        const auto ones = (Vec<uint8_t, 16>)(v <= rank) & uint8_t(1);
-        const auto sums = byteSums(ones);
-        return int(sums[0] + sums[1]) / int(sizeof(S));
-    }
-    Vec<S, 16> v_[vectors]{};
+    Vec<S, bytes> v_[vectors]{};
 };
+
+// What an element adds to the counters of its bin and of those behind it: sixteen from 16 - bin on.
+template <class C>
+constexpr auto fromBinOn = [] {
+    std::array<C, 32> ones{};
+    for (int k = 16; k < 32; ++k) ones[size_t(k)] = 1;
+    return ones;
+}();
 
 // Columns that are worked at a time, so that their histograms stay in the second cache.
 constexpr Len histogramColumns = 480;
@@ -57,8 +60,12 @@ constexpr Len histogramColumns = 480;
 template <class C>
 struct HistogramMemory {
     C *coarse, *fine;
+    uint8_t *entering, *leaving;  // pixels of a row
     constexpr HistogramMemory(Scratch& s, Len columns)
-        : coarse(s.take<C>(columns * WideLen(16))), fine(s.take<C>(columns * WideLen(256))) {}
+        : coarse(s.take<C>(columns * WideLen(16))),
+          fine(s.take<C>(columns * WideLen(256))),
+          entering(s.take<uint8_t>(columns)),
+          leaving(s.take<uint8_t>(columns)) {}
 };
 
 // One channel of pixels of n.  C counts up to the window's height, S up to its area.
@@ -84,62 +91,107 @@ class HistogramMedian {
         HistogramMemory<C> memory;
         Len from, count, columns;
 
-        C* fine(int bin, Len column) const { return memory.fine + (bin * columns + column) * 16; }
+        Len apart() const { return columns * 16; }  // coarse bins of fine ones
 
         void run() const {
+            const Window& window = of.window_;
             std::memset(memory.coarse, 0, size_t(columns) * 16 * sizeof(C));
             std::memset(memory.fine, 0, size_t(columns) * 256 * sizeof(C));
-            const Window& window = of.window_;
-            for (Len y = -window.top; y < window.bottom; ++y) take<1>(y);
+            for (Len y = -window.top; y < window.bottom; ++y) take<false>(y);
             for (Len y = 0; y < of.roi_.height; ++y) {
-                take<1>(y + window.bottom);
+                if (y == 0)
+                    take<false>(window.bottom);
+                else
+                    take<true>(y + window.bottom);
                 results(of.dst_.row(y) + from * n + of.channel_);
-                take<-1>(y - window.top);
             }
         }
-        // A row of pixels into the histograms, or out of them.
-        template <int step>
+        // A row of pixels into the histograms, and the one that it takes the place of out of them.
+        template <bool full>
         void take(Len y) const {
+            const Len width = count + of.window_.width - 1;
+            readRow(memory.entering, y, width);
+            if (full) readRow(memory.leaving, y - of.window_.height, width);
+            const uint8_t *const in = memory.entering, *const out = memory.leaving;
+            for (Len x = 0; x < width; ++x) change(memory.coarse + x * 16, in[x] >> 4, full ? out[x] >> 4 : 16);
+            // One after the other: both may be in one bin, and what has just been stored is slow to load.
+            C* fine = memory.fine;
+            for (Len x = 0; x < width; ++x, fine += 16) change(fine + (in[x] >> 4) * apart(), in[x] & 15, 16);
+            fine = memory.fine;
+            for (Len x = 0; full && x < width; ++x, fine += 16) change(fine + (out[x] >> 4) * apart(), 16, out[x] & 15);
+        }
+        // One more from bin `in` on, one less from bin `out` on; 16 stands for none.
+        ZMV_INLINE static void change(C* counters, int in, int out) {
+            constexpr int bytes = std::min(vectorBytes, int(16 * sizeof(C))), each = lanes<C, bytes>;
+            for (int k = 0; k < 16; k += each) {
+                const auto ones = [&](int bin) { return load<C, bytes>(fromBinOn<C>.data() + 16 - bin + k); };
+                store(counters + k, load<C, bytes>(counters + k) + ones(in) - ones(out));
+            }
+        }
+        void readRow(uint8_t* to, Len y, Len width) const {
             const uint8_t* const row = of.bands_.row(y, 0).inside;
-            const Len width = count + of.window_.width - 1, first = from - of.window_.left;
-            const auto pixel = [&](Len x, uint8_t value) {
-                memory.coarse[x * 16 + (value >> 4)] = C(memory.coarse[x * 16 + (value >> 4)] + step);
-                C& counter = fine(value >> 4, x)[value & 15];
-                counter = C(counter + step);
-            };
+            const Len first = from - of.window_.left, channel = of.channel_;
             const auto outside = [&](Len x) {
                 const Len column = row ? of.bands_.column(first + x) : of.bands_.none;
-                pixel(x, column == of.bands_.none ? of.bands_.value()[of.channel_] : row[column * n + of.channel_]);
+                to[x] = column == of.bands_.none ? of.bands_.value()[channel] : row[column * n + channel];
             };
             const Len begin = row ? std::clamp<Len>(of.bands_.firstColumn() - first, 0, width) : width;
             const Len end = row ? std::clamp<Len>(of.bands_.endColumn() - first, begin, width) : width;
             for (Len x = 0; x < begin; ++x) outside(x);
-            for (Len x = begin; x < end; ++x) pixel(x, row[(first + x) * n + of.channel_]);
+            if (n == 1)
+                copyRow(to + begin, row + first + begin, end - begin);
+            else
+                for (Len x = begin; x < end; ++x) to[x] = row[(first + x) * n + channel];
             for (Len x = end; x < width; ++x) outside(x);
         }
+        // Coarse bins first, then fine ones: where the bin changes, the processor knows before it gets there.
         void results(uint8_t* dst) const {
+            constexpr Len most = 64;
             const Len width = of.window_.width;
             const S middle = S((of.window_.area() - 1) / 2);
-            Counters<S> coarse, fineOf[16];
-            Len upTo[16];  // the columns before this are in the fine sums, those of the window that ends there
-            for (Len& x : upTo) x = -width;
+            uint8_t bins[most];
+            S ranks[most];
+            Counters<S> coarse, sums;
             for (Len x = 0; x < width - 1; ++x) coarse.add(memory.coarse + x * 16);
-            for (Len x = 0; x < count; ++x) {
-                coarse.add(memory.coarse + (x + width - 1) * 16);
-                S before, unused;
-                const int bin = coarse.binOf(middle, before);
-                Counters<S>& sums = fineOf[bin];
-                const Len end = x + width;
-                if (end - upTo[bin] >= width / 2) {
-                    sums = {};
-                    for (Len k = x; k < end; ++k) sums.add(fine(bin, k));
-                } else {
-                    for (Len k = upTo[bin]; k < end; ++k) sums.add(fine(bin, k)), sums.subtract(fine(bin, k - width));
-                }
-                upTo[bin] = end;
-                dst[x * n] = uint8_t(16 * bin + sums.binOf(S(middle - before), unused));
-                coarse.subtract(memory.coarse + x * 16);
+            int last = -1;
+            for (Len x = 0, m; x < count; x += m) {
+                m = std::min(most, count - x);
+                coarseBins(coarse, memory.coarse + x * 16, width, middle, m, bins, ranks);
+                last = fineBins(sums, memory.fine + x * 16, apart(), width, last, m, bins, ranks, dst + x * n);
             }
+        }
+        __attribute__((noinline)) static void coarseBins(Counters<S>& sums, const C* column, Len width, S middle, Len m,
+                                                         uint8_t* bins, S* ranks) {
+            S upTo[17] = {};
+            Counters<S> coarse = sums;
+            const C* entering = column + (width - 1) * 16;
+            for (Len k = 0; k < m; ++k) {
+                coarse.add(entering + k * 16);
+                const int bin = coarse.binOf(middle);
+                coarse.storeTo(upTo + 1);
+                coarse.subtract(column + k * 16);
+                bins[k] = uint8_t(bin), ranks[k] = S(middle - upTo[bin]);
+            }
+            sums = coarse;
+        }
+        __attribute__((noinline)) static int fineBins(Counters<S>& memory, const C* column, Len apart, Len width,
+                                                      int last, Len m, const uint8_t* bins, const S* ranks,
+                                                      uint8_t* dst) {
+            Counters<S> sums = memory;
+            for (Len k = 0; k < m; ++k, column += 16) {
+                const int bin = bins[k];
+                const C* const first = column + bin * apart;
+                if (bin == last) {
+                    sums.add(first + (width - 1) * 16), sums.subtract(first - 16);
+                } else {
+                    sums = {};
+                    for (Len i = 0; i < width; ++i) sums.add(first + i * 16);
+                    last = bin;
+                }
+                dst[k * n] = uint8_t(16 * bin + sums.binOf(ranks[k]));
+            }
+            memory = sums;
+            return last;
         }
     };
 

@@ -222,7 +222,9 @@ class MedianNetwork {
     }
 
   private:
-    static constexpr Len most = 4 * step;
+    // So many that the first sorted columns have reached memory when they are read: loads across two stores wait for
+    // both.
+    static constexpr Len most = 8 * step;
     using SortedRows = Rank[height][most + 4 * (width - 1) + step];
 
     ZMV_INLINE static void putColumn(const T* const* row, Len from, SortedRows* to, Len x) {

@@ -2,7 +2,7 @@
 //
 // The elements that a tile of results depends on are sorted once, and each becomes its place in that order.  A set of
 // places, a bit each, is moved over the tile to and fro: it takes what enters the window and gives up what leaves it,
-// and knows how many lie before a word of the set, which follows the median about.
+// and knows how many lie before a word of the set, which follows the median about.  Only there bits are counted.
 #pragma once
 
 #include "filter/mediannetwork.h"
@@ -20,41 +20,33 @@ struct RanksMemory {
     Key* keys;
     uint32_t *places, *order, *other;
     uint64_t* words;
-    uint8_t* counts;
     constexpr RanksMemory(Scratch& s, Roi roi, Window window) {
         const WideLen n = (std::min(roi.width, tileSide(window.width)) + window.width - 1) *
                           WideLen(std::min(roi.height, tileSide(window.height)) + window.height - 1);
-        const WideLen sets = (n >> 6) + 1;
         keys = s.take<Key, alignof(Key)>(n);
         places = s.take<uint32_t, alignof(uint32_t)>(n);
         order = s.take<uint32_t, alignof(uint32_t)>(n);
         other = s.take<uint32_t, alignof(uint32_t)>(n);
-        words = s.take<uint64_t, alignof(uint64_t)>(sets);
-        counts = s.take<uint8_t>(sets);
+        words = s.take<uint64_t, alignof(uint64_t)>((n >> 6) + 1);
     }
 };
 
 // The places of the elements that are in the window.
 class RankSet {
   public:
-    RankSet(uint64_t* words, uint8_t* counts, Len n) : words_(words), counts_(counts) {
-        std::memset(words, 0, size_t((n >> 6) + 1) * sizeof *words);
-        std::memset(counts, 0, size_t((n >> 6) + 1));
-    }
+    RankSet(uint64_t* words, Len n) : words_(words) { std::memset(words, 0, size_t((n >> 6) + 1) * sizeof *words); }
     ZMV_INLINE void add(uint32_t place) {
         words_[place >> 6] |= uint64_t(1) << (place & 63);
-        ++counts_[place >> 6];
         before_ += (place >> 6) < at_;
     }
     ZMV_INLINE void remove(uint32_t place) {
         words_[place >> 6] &= ~(uint64_t(1) << (place & 63));
-        --counts_[place >> 6];
         before_ -= (place >> 6) < at_;
     }
     // Number k of them.
     uint32_t ofRank(Len k) {
-        while (before_ > k) before_ -= counts_[--at_];
-        while (before_ + counts_[at_] <= k) before_ += counts_[at_++];
+        while (before_ > k) before_ -= std::popcount(words_[--at_]);
+        for (int here; before_ + (here = std::popcount(words_[at_])) <= k; ++at_) before_ += here;
         uint64_t word = words_[at_];
         for (Len i = before_; i < k; ++i) word &= word - 1;
         return at_ * 64 + uint32_t(std::countr_zero(word));
@@ -62,7 +54,6 @@ class RankSet {
 
   private:
     uint64_t* words_;
-    uint8_t* counts_;
     uint32_t at_ = 0;  // a word, and how many lie before it
     Len before_ = 0;
 };
@@ -97,7 +88,7 @@ class RankMedian {
         const uint32_t* const order = sort(memory, width * height);
         for (Len k = 0; k < width * height; ++k) memory.places[order[k]] = uint32_t(k);
 
-        RankSet set(memory.words, memory.counts, width * height);
+        RankSet set(memory.words, width * height);
         const auto column = [&](Len x, Len y, auto change) {
             for (Len i = 0; i < window_.height; ++i) change(memory.places[(y + i) * width + x]);
         };

@@ -24,9 +24,14 @@ StatusCode ownpi_Median(Image<const T> src, Image<T> dst, Roi roi, ImageSize mas
     Window window(mask);
     window.left = anchor.x, window.right = window.width - 1 - window.left;
     window.top = anchor.y, window.bottom = window.height - 1 - window.top;
-    const Bands<T, layout.channels> bands(src, roi, layout, window, BORDER_IN_MEM, nullptr, false);
-    for (int c = 0; c < layout.channels; ++c)
-        RankMedian<T, layout.channels>(bands, c, dst, roi, window).run(Scratch(buffer));
+    constexpr int n = layout.channels;
+    const Bands<T, n> bands(src, roi, layout, window, BORDER_IN_MEM, nullptr, false);
+    // The rows of larger windows do not fit the stack.
+    const auto network = [&](auto width, auto height) {
+        if constexpr (width * height < 49) networkMedian<T, n, width, height>(bands, dst, roi, window, nullptr);
+    };
+    if (window.area() >= 49 || !withNetwork(window, network))
+        for (int c = 0; c < n; ++c) RankMedian<T, n>(bands, c, dst, roi, window).run(Scratch(buffer));
     return STATUS_OK;
 }
 

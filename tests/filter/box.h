@@ -62,22 +62,42 @@ struct Extended {
     }
 };
 
+// What nobody reads may be missing.
+inline void leaveOutValue(Case& c) {
+    if ((c.arg("borderType").a & BORDER_IN_MEM) == BORDER_IN_MEM && c.member.points("borderValue"))
+        c.arg("borderValue") = nullptr;
+}
+
+// Every element that may be read becomes value().
+template <class Value>
+void fillReadable(Case& c, const Image& image, Value value) {
+    for (int64_t y = -image.readable.top; y < image.height + image.readable.bottom; ++y)
+        for (int64_t x = -image.readable.left; x < image.width + image.readable.right; ++x)
+            for (int k = 0; k < image.channels; ++k) c.set(image, x, y, k, value());
+}
+
 // Floats of one magnitude or of many, in some cases with NaNs and infinities here and there.
 template <class T>
 void fillFloats(Case& c, const Image& image) {
     const bool wide = c.rng.oneIn(2), special = c.rng.oneIn(4);
-    for (int64_t y = -image.readable.top; y < image.height + image.readable.bottom; ++y)
-        for (int64_t x = -image.readable.left; x < image.width + image.readable.right; ++x)
-            for (int k = 0; k < image.channels; ++k) {
-                T value = T(c.rng.between(-1000000, 1000000)) / 1024;
-                if (wide) value = std::ldexp(value, c.rng.between(-20, 20));
-                if (special && c.rng.oneIn(150)) {
-                    const T specials[] = {T(NAN), T(INFINITY), -T(INFINITY), T(-0.0),
-                                          std::numeric_limits<T>::denorm_min()};
-                    value = specials[c.rng.below(5)];
-                }
-                c.set(image, x, y, k, value);
-            }
+    const T specials[] = {T(NAN), T(INFINITY), -T(INFINITY), T(-0.0), std::numeric_limits<T>::denorm_min()};
+    fillReadable(c, image, [&] {
+        const T value = T(c.rng.between(-1000000, 1000000)) / 1024;
+        const T scaled = wide ? std::ldexp(value, c.rng.between(-20, 20)) : value;
+        return special && c.rng.oneIn(150) ? specials[c.rng.below(5)] : scaled;
+    });
+}
+
+// What a filter with a border rule makes of bytes in one channel; D is the type of its results.
+template <class D, class Mask>
+std::vector<D> filterBytes(const Library& l, const std::string& name, const std::vector<uint8_t>& image, int width,
+                           Mask mask) {
+    using Filter = StatusCode (*)(const uint8_t*, int, D*, int, ImageSize, Mask, int, uint8_t, uint8_t*);
+    std::vector<D> results(image.size());
+    std::vector<uint8_t> buffer(1 << 20);
+    reinterpret_cast<Filter>(l.find(name))(image.data(), width, results.data(), width * int(sizeof(D)),
+                                           {width, int(image.size()) / width}, mask, BORDER_REPL, 0, buffer.data());
+    return results;
 }
 
 // Judges the sum of a window, times scale, against exact arithmetic: as accurate as adding one by one in T, with NaN

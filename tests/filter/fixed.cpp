@@ -1,4 +1,6 @@
 // The filters with fixed kernels and their size queries.
+#include <gtest/gtest.h>
+
 #include "filter/box.h"
 
 namespace {
@@ -6,19 +8,16 @@ namespace {
 using namespace test;
 using Line = std::vector<int>;
 
-// One operation in the order of the contract: the NaN of a goes before that of b.
-template <class T, class Operation>
-T ordered(T x, T y, Operation operation) {
-    const volatile T a = x, b = y;
-    return a != a ? T(a + a) : T(operation(T(a), T(b)));
-}
+// In the order of the contract: the NaN of a goes before that of b.
 template <class T>
 T sum(T x, T y) {
-    return ordered(x, y, [](T a, T b) { return a + b; });
+    const volatile T a = x, b = y;
+    return T(a != a ? a + a : a + b);
 }
 template <class T>
 T difference(T x, T y) {
-    return ordered(x, y, [](T a, T b) { return a - b; });
+    const volatile T a = x, b = y;
+    return T(a != a ? a + a : a - b);
 }
 
 // Weights from one end of a line to the other; at(i) gives what they are for.
@@ -31,10 +30,10 @@ auto weigh(const Line& weights, At at) {
     for (size_t k = 0; k <= n / 2; ++k) {
         const int first = weights[k], last = weights[n - 1 - k];
         if (!first) continue;
-        T term = at(k);
-        if (k < n / 2 && first == last) term = sum(term, at(n - 1 - k));
-        if (k < n / 2 && first != last)
-            term = first < 0 ? difference(at(n - 1 - k), term) : difference(term, at(n - 1 - k));
+        const T term = k == n / 2      ? at(k)
+                       : first == last ? sum(at(k), at(n - 1 - k))
+                       : first < 0     ? difference(at(n - 1 - k), at(k))
+                                       : difference(at(k), at(n - 1 - k));
         // Once a number is that number, also where the caller has products of small ones flushed to zero.
         const int weight = first != last ? std::abs(first) : first;
         const volatile T product = weight == 1 ? term : term * T(weight);
@@ -93,9 +92,7 @@ void arrangeFixed(Case& c) {
     }
     arrangeByRoles(c);
     const Image& src = c.image("src");
-    // What nobody reads may be missing.
-    if (c.has("borderValue") && !isDerivative(c) && c.arg("borderType").a == (BORDER_CONST | BORDER_IN_MEM))
-        c.arg("borderValue") = nullptr;
+    if (c.has("borderType")) leaveOutValue(c);
     if (src.element == Element::f32) {
         if (!c.rng.oneIn(3)) fillFloats<float>(c, src);
         return;
@@ -105,13 +102,15 @@ void arrangeFixed(Case& c) {
     withElement(src.element, [&](auto zero) {
         using T = decltype(zero);
         constexpr T low = std::numeric_limits<T>::min(), high = std::numeric_limits<T>::max();
-        for (int64_t y = -src.readable.top; y < src.height + src.readable.bottom; ++y)
-            for (int64_t x = -src.readable.left; x < src.width + src.readable.right; ++x)
-                for (int k = 0; k < src.channels; ++k)
-                    c.set(src, x, y, k, kind == 0 ? c.rng.oneIn(2) ? low : high : c.rng.oneIn(9) ? high : T(0));
+        fillReadable(c, src, [&] { return kind == 0 ? c.rng.oneIn(2) ? low : high : c.rng.oneIn(9) ? high : T(0); });
     });
 }
 
+template <class D, class S>
+D saturated(S value) {
+    using Limits = std::numeric_limits<D>;
+    return std::is_floating_point_v<D> ? D(value) : D(std::clamp(value, S(Limits::lowest()), S(Limits::max())));
+}
 // result(at) of integers exactly, in 64 bits, of floats in order.
 template <class Result>
 void eachPixel(Case& c, Result result) {
@@ -124,15 +123,10 @@ void eachPixel(Case& c, Result result) {
             for (int64_t x = 0; x < src.width; ++x)
                 for (int k = 0; k < c.member.to.used(); ++k) {
                     const S value = result([&](int dx, int dy) { return S(pixel(x + dx, y + dy, k)); });
-                    withElement(dst.element, [&](auto other) {
-                        using D = decltype(other);
-                        if constexpr (std::is_floating_point_v<D>)
-                            c.set(dst, x, y, k, D(value));
-                        else
-                            c.set(
-                                dst, x, y, k,
-                                D(std::clamp<S>(value, std::numeric_limits<D>::min(), std::numeric_limits<D>::max())));
-                    });
+                    if (dst.element == src.element)
+                        c.set(dst, x, y, k, saturated<T>(value));
+                    else
+                        c.set(dst, x, y, k, saturated<int16_t>(value));
                 }
     });
 }
@@ -176,46 +170,34 @@ void laplace(Case& c) {
 void sharpen(Case& c) {
     eachPixel(c, [&](auto at) { return difference(decltype(at(0, 0))(5 * at(0, 0)), cross(at)); });
 }
-// Integers here; of floats the mean is what the box filter gives, in an image of its own.
+// Integers here; of floats the mean is what the box filter gives, in an image that has all that windows cover.
 void highPass(Case& c) {
-    const int64_t side = c.arg("mask").a % 10, reach = side / 2;
-    if (c.image("src").element != Element::f32)
+    const int side = int(c.arg("mask").a % 10), reach = side / 2;
+    const Image& src = c.image("src");
+    if (src.element != Element::f32)
         return eachPixel(c, [&](auto at) {
             int64_t total = 0;
-            for (int64_t i = 0; i < side * side; ++i)
-                total += int64_t(at(int(i % side - reach), int(i / side - reach)));
+            for (int i = 0; i < side * side; ++i) total += int64_t(at(i % side - reach, i / side - reach));
             return decltype(at(0, 0))(int64_t(at(0, 0)) - nearest(total, side * side));
         });
-    const Image& src = c.image("src");
-    const int n = src.channels, used = c.member.to.used();
-    const std::string box = c.member.name;
-    std::vector<float> means(size_t(src.width * src.height * n)), ends(4);
-    int word = int(c.arg("borderType").a), size = 0;
-    if ((word & BORDER_IN_MEM) == BORDER_IN_MEM) word = BORDER_IN_MEM;
-    const ImageSize roi{int(src.width), int(src.height)}, mask{int(side), int(side)};
-    if (const Image* constant = (word & 15) == BORDER_CONST ? &c.image("borderValue") : nullptr)
-        for (int k = 0; k < used; ++k) ends[size_t(k)] = c.get<float>(*constant, 0, 0, k);
-    // A copy of all that is readable: the box filter takes positive steps only.
-    const Margins& m = src.readable;
-    const int64_t row = (m.left + src.width + m.right) * n;
-    std::vector<float> pixels(size_t(row * (m.top + src.height + m.bottom)));
-    for (int64_t y = -m.top; y < src.height + m.bottom; ++y)
-        for (int64_t x = -m.left; x < src.width + m.right; ++x)
-            for (int k = 0; k < n; ++k)
-                pixels[size_t((y + m.top) * row + (x + m.left) * n + k)] = c.get<float>(src, x, y, k);
-    const std::string filter = "zmviFilterBoxBorder_" + box.substr(box.find("32f"));
-    using Box = StatusCode (*)(const float*, int, float*, int, ImageSize, ImageSize, int, const float*, uint8_t*);
-    const auto sizeOf = reinterpret_cast<decltype(&zmviFilterBoxBorderGetBufferSize)>(
-        c.library.find("zmviFilterBoxBorderGetBufferSize"));
-    sizeOf(roi, mask, DATATYPE_32F, n, &size);
-    std::vector<uint8_t> buffer(static_cast<size_t>(size));
-    reinterpret_cast<Box>(c.library.find(filter))(pixels.data() + m.top * row + m.left * n, int(row * 4), means.data(),
-                                                  int(src.width * n * 4), roi, mask, word, ends.data(), buffer.data());
-    for (int64_t y = 0; y < src.height; ++y)
-        for (int64_t x = 0; x < src.width; ++x)
-            for (int k = 0; k < used; ++k)
-                c.set(c.image("dst"), x, y, k,
-                      difference(c.get<float>(src, x, y, k), means[size_t((y * src.width + x) * n + k)]));
+    const Extended<float> pixel{c, src};
+    const ImageSize roi{int(src.width), int(src.height)};
+    const int width = roi.width + 2 * reach;
+    for (int k = 0; k < c.member.to.used(); ++k) {
+        std::vector<float> pixels, means(size_t(src.width * src.height));
+        for (int64_t y = -reach; y < src.height + reach; ++y)
+            for (int64_t x = -reach; x < src.width + reach; ++x) pixels.push_back(pixel(x, y, k));
+        int size = 0;
+        reinterpret_cast<decltype(&zmviFilterBoxBorderGetBufferSize)>(
+            c.library.find("zmviFilterBoxBorderGetBufferSize"))(roi, {side, side}, DATATYPE_32F, 1, &size);
+        std::vector<uint8_t> buffer(static_cast<size_t>(size));
+        reinterpret_cast<decltype(&zmviFilterBoxBorder_32f_C1R)>(c.library.find("zmviFilterBoxBorder_32f_C1R"))(
+            &pixels[size_t(reach * width + reach)], width * 4, means.data(), roi.width * 4, roi, {side, side},
+            BORDER_IN_MEM, 0, buffer.data());
+        for (int64_t y = 0; y < src.height; ++y)
+            for (int64_t x = 0; x < src.width; ++x)
+                c.set(c.image("dst"), x, y, k, difference(pixel(x, y, k), means[size_t(y * src.width + x)]));
+    }
 }
 
 // Sizes, and the pairs of types that are told apart late.
@@ -247,6 +229,19 @@ void answerFixedSize(Case& c) {
     }
     if (bytes > INT_MAX) return void(c.expected = STATUS_SIZE_EXCEEDS_INT);
     c.set(c.image("pBufferSize"), 0, 0, 0, int(bytes));
+}
+
+TEST(Derivatives, TurnWithTheImage) {
+    constexpr size_t n = 37;
+    std::vector<uint8_t> image(n * n), turned(n * n);
+    for (size_t k = 0; k < n * n; ++k) turned[k % n * n + k / n] = image[k] = uint8_t(k * k * 40503 >> 7);
+    for (const Library& l : builds())
+        for (const std::string family : {"zmviFilterSobel", "zmviFilterScharr", "zmviFilterPrewitt"}) {
+            const auto down = filterBytes<int16_t>(l, family + "HorizBorder_8u16s_C1R", turned, n, int(MASK_3X3)),
+                       left = filterBytes<int16_t>(l, family + "VertBorder_8u16s_C1R", image, n, int(MASK_3X3));
+            for (size_t k = 0; k < n * n; ++k)
+                ASSERT_EQ(down[k % n * n + k / n], -left[k]) << family << " " << k << " " << l.build;
+        }
 }
 
 }  // namespace

@@ -283,6 +283,20 @@ TEST(Median, EveryPatternOfNine) {
     }
 }
 
+TEST(Median, IsBetweenTheExtrema) {
+    std::vector<uint8_t> image(41 * 23);
+    for (size_t k = 0; k < image.size(); ++k) image[k] = uint8_t(k * k * 2654435761u >> 13);
+    for (const Library& l : builds())
+        for (const int side : {3, 5, 7, 9, 17}) {
+            const auto made = [&](const std::string& name) {
+                return filterBytes<uint8_t>(l, "zmviFilter" + name + "Border_8u_C1R", image, 41, ImageSize{side, side});
+            };
+            const auto least = made("Min"), middle = made("Median"), most = made("Max");
+            for (size_t k = 0; k < image.size(); ++k)
+                ASSERT_TRUE(least[k] <= middle[k] && middle[k] <= most[k]) << side << " " << k << " " << l.build;
+        }
+}
+
 }  // namespace
 
 extern const Family test_zmviFilterMedianBorderGetBufferSize = {.arrange = arrangeSizes, .oracle = answerSizes};
