@@ -133,11 +133,24 @@ constexpr Network middleOfWindow = [] {
     constexpr int half = (width * height + 1) / 2;
     const auto mayBe = [](int i, int j) { return (i + 1) * (j + 1) <= half && (height - i) * (width - j) <= half; };
     Network network;
-    Places rows[height];
+    Places rows[height], sorted[height];
     for (int i = 0; i < height; ++i) {
-        const Places row = network.sort(Places::range(i, height, width));
+        sorted[i] = network.sort(Places::range(i, height, width));
         for (int j = 0; j < width; ++j)
-            if (mayBe(i, j)) rows[i].add(row.at[j]);
+            if (mayBe(i, j)) rows[i].add(sorted[i].at[j]);
+    }
+    if (width == 5 && height == 5) {
+        // What may be the middle lies on three diagonals.  Of the first one all but the greatest have seven of these 13
+        // behind them, of the last one all but the least have seven before them.
+        const auto on = [&](int diagonal, int i) { return Places::range(sorted[i].at[diagonal - i], 1, 1); };
+        Places first = on(3, 0), last = on(5, 1), left;
+        for (int i = 1; i < 4; ++i) {
+            first = network.merge(first, on(3, i)).part(1, 1, 2);
+            last = network.merge(last, on(5, i + 1)).part(0, 1, 1);
+        }
+        left.add(first.at[0]), left.add(last.at[0]);
+        for (int i = 0; i < 5; ++i) left.add(on(4, i).at[0]);
+        return network.made(network.sort(left).part(3, 1, 4));
     }
     int left = height;
     for (; left > 2; left = (left + 1) / 2)
