@@ -150,6 +150,8 @@ double Call::number(const std::string& name) const {
     if (name == "dstOffset" || name == "roiOffset" || name == "shiftX" || name == "shiftY" || name == "B") return 0;
     if (name == "C") return 0.5;
     if (name == "numLobes") return 3;
+    if (name == "chromaFormat") return halvesRows() ? CHROMA_420 : CHROMA_422;
+    if (name == "chromaSite") return CHROMA_LEFT;
     if (name == "antialiasing") return 0;
     unknown(name);
 }
@@ -193,6 +195,7 @@ void* Call::pointer(const std::string& name, int64_t element) {
     }
     if (name == "pKernel") return kernel(element);
     if (name == "buffer") return workBuffer();
+    if (name.ends_with("Step")) return planeSteps[name].data();
     if (name == "stepOut" || name == "pBufferSize" || name == "bufSize") return &answer;
     if (name == "initBuf") return allocate(8 * (area("dstSize").width + area("dstSize").height + 128)).data();
     if (name == "specSize" || name == "initBufSize" || name == "borderSize" || name == "srcOffset" || name == "srcRoi")
@@ -221,12 +224,14 @@ void* Call::planes(const std::string& name, int64_t element) {
         else if (name == "pHist" || name == "pLevels" || name == "pValues")
             planes.push_back(real ? static_cast<void*>(levels<float>(0, 2)) : levels<int32_t>(0, 1));
     if (!planes.empty()) return planes.data();
-    for (int i = 0; i < (name == "src" ? fromChannels : toChannels); ++i) planes.push_back(image(name, element));
+    const int count = name == "src" ? fromChannels : toChannels;
+    for (int i = 0; i < count; ++i)
+        planes.push_back(image(name, isYUV() && i && count == 2 ? 2 * element : element, i));
     return planes.data();
 }
 
 // The first pixel of an image.  Rows follow each other without a gap unless padding is asked for.
-uint8_t* Call::image(const std::string& name, int64_t pixel) {
+uint8_t* Call::image(const std::string& name, int64_t pixel, int plane) {
     const bool isRead = (name.rfind("src", 0) == 0 && name != "srcDst") || name == "mask" || name.ends_with("Map"),
                bordered = has("dstRoiSize") && has("srcRoiSize");
     const bool convolved = has("src2Size");
@@ -235,6 +240,7 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
                            : has("srcSize") && name == "src" ? "srcSize"
                            : has("dstRoiSize")               ? bordered && isRead ? "srcRoiSize" : "dstRoiSize"
                                                              : "roiSize");
+    if (isYUV() && plane) size = {(size.width + 1) / 2, halvesRows() ? (size.height + 1) / 2 : size.height};
     if (convolved && !isRead) size.width += area("src2Size").width - 1, size.height += area("src2Size").height - 1;
     if (has("srcRoiSize") && !bordered && !isRead) std::swap(size.width, size.height);  // rows become columns
     const bool framed = isRead && facts().reach == zmv::Reach::anchor && !has("borderType") && !has("anchor");
@@ -257,11 +263,12 @@ uint8_t* Call::image(const std::string& name, int64_t pixel) {
     (isRead ? read : written) = &block;
     reads |= name != "dst";
     inPlace |= name == "srcDst";
-    sources += isRead;
+    sources += isRead && plane == 0;  // planes are one image
     (isRead ? readBytes : writtenBytes) += row * size.height;
     steps[catalog::stepOf(name)] = step;
+    planeSteps[catalog::stepOf(name)][plane] = int(step);
     shortestRow = std::min(shortestRow, row);
-    if (name != "mask") pixels = size.width * size.height;  // the destination comes last
+    if (name != "mask" && plane == 0) pixels = size.width * size.height;  // the destination comes last
     uint8_t* first = reinterpret_cast<uint8_t*>(block.data()) + margin * step;
     if (name == "srcDst" && bordered) {  // the source is inside, and only the frame is written
         bytes += row * size.height - setting.width * setting.height * pixel;
@@ -278,9 +285,10 @@ void* Call::workBuffer() {
     const bool filter = name.rfind("zmviFilterBorder_", 0) == 0;
     const bool typed = name.rfind("zmviFilterMedian_", 0) == 0;
     const Member& query =
-        findMember(isResize() ? "zmviResizeGetBufferSize_" + type
-                              : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize") +
-                                    (typed ? "_" + type : ""));
+        findMember(isYUV()      ? "zmviResizeYUVGetBufferSize"
+                   : isResize() ? "zmviResizeGetBufferSize_" + type
+                                : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize") +
+                                      (typed ? "_" + type : ""));
     Setting asked = setting;
     asked.about = name;
     const auto call = query.bind(asked, build);
@@ -289,6 +297,9 @@ void* Call::workBuffer() {
 }
 
 bool Call::isResize() const { return std::string(member.name).rfind("zmviResize", 0) == 0; }
+bool Call::isYUV() const { return std::string(member.name).rfind("zmviResizeYUV", 0) == 0; }
+// As the execution is named that is timed, or that an object is for.
+bool Call::halvesRows() const { return (member.name + setting.about).find("YUV422") == std::string::npos; }
 
 // The method of an execution, for antialiasing the one that a goal names; questions are asked of any object.
 std::string Call::resizeInit(std::string family) const {
@@ -296,6 +307,8 @@ std::string Call::resizeInit(std::string family) const {
     if (family == "zmviResizeAntialiasing")
         family += kernel == INTERP_CUBIC ? "Cubic" : kernel == INTERP_LANCZOS ? "Lanczos" : "Linear";
     const bool question = family.find("Get") != std::string::npos || family.ends_with("Mode");
+    if (isYUV())
+        return "zmviResizeYUV" + (question ? "Linear" : family.substr(std::strlen("zmviResizeYUV420"))) + "Init";
     return (question ? "zmviResizeLinear" : family) + "Init_" + type;
 }
 
@@ -317,7 +330,7 @@ void* Call::specObject() {
                                     : wholeTaps()                           ? "zmviFilterBorderInit_16s"
                                                                             : "zmviFilterBorderInit_32f");
     Setting asked = setting;
-    asked.about = name;
+    if (!isYUV() || asked.about.empty()) asked.about = name;
     maker = init.bind(asked, build);
     maker->run(build, build.find(init.name), 1);
     return maker->spec;

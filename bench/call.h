@@ -1,6 +1,7 @@
 // A member of the library with arguments and the memory behind them, ready to be called in any build.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <deque>
 #include <map>
@@ -23,8 +24,8 @@ struct Build {
 
 // What is timed: the region, the width of masks and borders, the bytes that rows are apart beyond their length,
 // and the scale factor, the compositing operation, or 1 for a histogram of equal pixels and for a table of uneven
-// levels, or the kernel of remap.  Of kernels see kernelSide().  Of resizing, the width of the result times 100, plus the
-// kernel of antialiasing.
+// levels, or the kernel of remap.  Of kernels see kernelSide().  Of resizing, the width of the result times 100, plus
+// the kernel of antialiasing.
 struct Setting {
     int64_t width, height;
     int mask = 5, border = 16, padding = 0, factor = 0;
@@ -71,7 +72,7 @@ class Call {
     double number(const std::string& name) const;
     void* pointer(const std::string& name, int64_t element);
     void* planes(const std::string& name, int64_t element);
-    uint8_t* image(const std::string& name, int64_t pixel);
+    uint8_t* image(const std::string& name, int64_t pixel, int plane = 0);
     // Of a kernel, mask counts its side, and from 100 on its taps: 100 more for real ones, 200 for a column times a
     // row.
     int kernelSide() const { return setting.mask % 100; }
@@ -82,6 +83,8 @@ class Call {
     void* workBuffer();
     void* specObject();
     bool isResize() const;
+    bool isYUV() const;
+    bool halvesRows() const;  // of colour planes
     std::string resizeInit(std::string family) const;
     // Of a histogram: evenly spaced numbers, one a level.
     static constexpr int bins = 256;
@@ -109,6 +112,7 @@ class Call {
     std::string type = "8u", toType;       // of the source and of the destination
     int fromChannels = 1, toChannels = 1;  // of the source and of the destination, or the number of planes
     std::map<std::string, int64_t> steps;
+    std::map<std::string, std::array<int, 4>> planeSteps;
     std::deque<std::vector<void*>> planePointers;
     std::deque<Memory> memory;
     std::unique_ptr<Call> maker;                 // of the spec object

@@ -4842,6 +4842,192 @@ ZMV_API StatusCode zmviResizeAntialiasing_64f_C3R_L(const double* src, int64_t s
 ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
 ZMV_API StatusCode zmviResizeAntialiasing_64f_C4R_L(const double* src, int64_t srcStep, double* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const double* borderValue, const ResizeSpec* spec, uint8_t* buffer);
 
+/* zmviResizeYUVGetSize: The bytes of a spec object for YUV images of these sizes, in luma pixels, and of the
+   buffer of its initialisation.
+   Checked in this order.  STATUS_NULL_POINTER: specSize or initBufSize is null.  STATUS_NO_OPERATION: a width or height
+   is zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_BAD_ARGUMENT: chromaFormat is none of these.
+   STATUS_BAD_INTERPOLATION: interpolation is none of these.  STATUS_BAD_SIZE: luma or a colour plane of the source is
+   lower or narrower than 2 pixels (linear), 4 (cubic, Lanczos), 6 (Lanczos of 3 lobes, its initialiser alone), or than
+   the destination (super-sampling).  STATUS_SIZE_EXCEEDS_INT: a size exceeds 2147483646.
+   STATUS_WARN_ANTIALIAS_IGNORED: antialiasing is asked for with INTERP_SUPER.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVGetSize(ImageSize srcSize, ImageSize dstSize, int chromaFormat, int interpolation, int antialiasing, int* specSize, int* initBufSize);
+
+/* zmviResizeYUVLinearInit: Makes an object for zmviResizeYUV420Linear or zmviResizeYUV422Linear.
+   chromaFormat: in CHROMA_420 colour planes have (width + 1) / 2 x (height + 1) / 2 pixels, in CHROMA_422 (width + 1) /
+   2 x height.  chromaSite: colour samples lie in the middle of their luma samples (CHROMA_CENTER), in the column of the
+   even ones (CHROMA_LEFT, as usual in video), or in their column and in 4:2:0 their row too (CHROMA_TOP_LEFT).
+   antialiasing: with a kernel that is stretched by a reduction.
+   spec has the size that zmviResizeYUVGetSize reports, at any alignment.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_BAD_ARGUMENT: chromaFormat is none of these, then
+   chromaSite is none of these.  STATUS_BAD_SIZE: luma or a colour plane of the source is lower or narrower than 2
+   pixels (linear), 4 (cubic, Lanczos), 6 (Lanczos of 3 lobes, its initialiser alone), or than the destination
+   (super-sampling).
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVLinearInit(ImageSize srcSize, ImageSize dstSize, int chromaFormat, int chromaSite, int antialiasing, ResizeYUVSpec* spec, uint8_t* initBuf);
+
+/* zmviResizeYUVCubicInit: The same for zmviResizeYUV420Cubic or zmviResizeYUV422Cubic, with the cubic kernel of B and
+   C.
+   spec has the size that zmviResizeYUVGetSize reports, at any alignment.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_BAD_ARGUMENT: chromaFormat is none of these, then
+   chromaSite is none of these, then B or C is not finite.  STATUS_BAD_SIZE: luma or a colour plane of the source is
+   lower or narrower than 2 pixels (linear), 4 (cubic, Lanczos), 6 (Lanczos of 3 lobes, its initialiser alone), or than
+   the destination (super-sampling).
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVCubicInit(ImageSize srcSize, ImageSize dstSize, int chromaFormat, int chromaSite, int antialiasing, ResizeYUVSpec* spec, uint8_t* initBuf, float B, float C);
+
+/* zmviResizeYUVLanczosInit: The same for zmviResizeYUV420Lanczos or zmviResizeYUV422Lanczos.
+   spec has the size that zmviResizeYUVGetSize reports, at any alignment.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec or initBuf is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_BAD_SIZE: one is negative.  STATUS_BAD_ARGUMENT: chromaFormat is none of these, then
+   chromaSite is none of these, then numLobes is not 2 or 3.  STATUS_BAD_SIZE: luma or a colour plane of the source is
+   lower or narrower than 2 pixels (linear), 4 (cubic, Lanczos), 6 (Lanczos of 3 lobes, its initialiser alone), or than
+   the destination (super-sampling).
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVLanczosInit(ImageSize srcSize, ImageSize dstSize, int chromaFormat, int chromaSite, int antialiasing, uint32_t numLobes, ResizeYUVSpec* spec, uint8_t* initBuf);
+
+/* zmviResizeYUVSuperInit: The same for zmviResizeYUV420Super or zmviResizeYUV422Super; colour is centred.
+   spec has the size that zmviResizeYUVGetSize reports, at any alignment.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: spec is null.  STATUS_NO_OPERATION: a width or height is zero: nothing
+   is done.  STATUS_BAD_SIZE: one is negative.  STATUS_BAD_ARGUMENT: chromaFormat is none of these.  STATUS_BAD_SIZE:
+   the source is lower or narrower than the destination.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVSuperInit(ImageSize srcSize, ImageSize dstSize, int chromaFormat, ResizeYUVSpec* spec);
+
+/* zmviResizeYUVGetBufferSize: The bytes of the work buffer for tiles of this size in luma pixels, whether colours are
+   in
+   two planes or in one.  A size beyond 2147483646 is STATUS_SIZE_EXCEEDS_INT.
+   Checked in this order.  STATUS_NULL_POINTER: spec or bufSize is null.  STATUS_NO_OPERATION: a width or height is
+   zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV resizing.  STATUS_BAD_SIZE: one is
+   negative.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUVGetBufferSize(const ResizeYUVSpec* spec, ImageSize dstTileSize, int* bufSize);
+
+/* zmviResizeYUV420Linear: Resizes a 4:2:0 image by linear interpolation.
+   Every plane is an image of its own, resized with its edge replicated, and with the object's siting of colours.
+   P3: luma, then two colour planes; P2: luma, then one plane of colour pairs; in the caller's order.  src: the first
+   pixels of the whole planes; dst: those of the tile, which starts at dstOffset, in colour planes at half of it, and
+   whose odd last column or row has colours of its own.  What overhangs the destination is left out; tiles of any size
+   give the bits of the whole.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV420Linear_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV420Linear_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV420Cubic: The same with 4 x 4 pixels and the weights of a cubic kernel.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV420Cubic_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV420Cubic_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV420Lanczos: The same with the weights of a Lanczos kernel.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV420Lanczos_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV420Lanczos_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV420Super: Reduces by the mean over the area that a pixel covers; else the same.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV420Super_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV420Super_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV422Linear: Resizes a 4:2:2 image by linear interpolation.
+   Every plane is an image of its own, resized with its edge replicated, and with the object's siting of colours.
+   P3: luma, then two colour planes; P2: luma, then one plane of colour pairs; in the caller's order.  src: the first
+   pixels of the whole planes; dst: those of the tile, which starts at dstOffset, in colour planes at half of it, and
+   whose odd last column or row has colours of its own.  What overhangs the destination is left out; tiles of any size
+   give the bits of the whole.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV422Linear_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV422Linear_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV422Cubic: The same with 4 x 4 pixels and the weights of a cubic kernel.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV422Cubic_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV422Cubic_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV422Lanczos: The same with the weights of a Lanczos kernel.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV422Lanczos_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV422Lanczos_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviResizeYUV422Super: Reduces by the mean over the area that a pixel covers; else the same.
+   Any step is accepted, zero and negative ones too, and need not be a multiple of the element size.
+   The images must not overlap.
+   buffer has the size that zmviResizeYUVGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, a plane, srcStep, dstStep, spec or buffer is null.
+   STATUS_NO_OPERATION: a width or height is zero: nothing is done.  STATUS_CONTEXT_MISMATCH: spec is no object of YUV
+   resizing.  STATUS_BAD_SIZE: one is negative.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination, or is odd
+   where colour planes have half of it.  STATUS_BAD_SIZE: the tile is odd there and ends before the destination does.
+   Then again STATUS_CONTEXT_MISMATCH: the object is for another format or method.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piresizeyuv.cpp */
+ZMV_API StatusCode zmviResizeYUV422Super_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviResizeYUV422Super_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
 /* zmviImageJaehne: Rings round the middle of the region whose frequency grows with the radius, up to one period in two
    pixels at the
    nearer edge: a test image of zone plate kind, after B. Jaehne, on which filters show what they do to each frequency.

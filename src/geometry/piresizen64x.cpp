@@ -3,61 +3,12 @@
 #include <tuple>
 
 #include "geometry/resizeaxis.h"
+#include "geometry/resizesizes.h"
 #include "kernels/rounding.h"
 #include "kernels/simd.h"
 
 namespace zmv {
 namespace {
-
-constexpr WideLen up32(WideLen n) { return roundUp(n, 32); }
-constexpr WideLen down128(WideLen n) { return n / 128 * 128; }
-
-// ---- Sizes ----
-
-Len leastSource(uint32_t interpolation, uint32_t lobes) {
-    if (interpolation == INTERP_LINEAR) return 2;
-    if (interpolation == INTERP_CUBIC) return 4;
-    return interpolation != INTERP_LANCZOS ? 1 : lobes == 3 ? 6 : 4;
-}
-StatusCode smallSource(Roi src, Len least) { return refuse(src.width < least || src.height < least, STATUS_BAD_SIZE); }
-StatusCode reduces(Roi src, Roi dst) {
-    return refuse(src.width < dst.width || src.height < dst.height, STATUS_BAD_SIZE);
-}
-// Of both sizes; only those of _L forms can be too long.
-StatusCode sides(Roi src, Roi dst) {
-    const bool tooLong = std::max(std::max(src.width, src.height), std::max(dst.width, dst.height)) > INT32_MAX;
-    return firstOf(
-        {nothingToDo(src), nothingToDo(dst), negative(src), negative(dst), refuse(tooLong, STATUS_SIZE_EXCEEDS_INT)});
-}
-
-struct SpecBytes {
-    WideLen spec, init;
-};
-WideLen superSide(Len src, Len dst) {
-    const auto axis = ResizeHeader::axis(src, dst);
-    const Len rest = axis.srcReduced % axis.dstReduced;
-    return WideLen(axis.srcReduced / axis.dstReduced + std::min<Len>(rest, 2) + 1) * axis.dstReduced;
-}
-SpecBytes specBytes(Roi src, Roi dst, uint32_t interpolation, bool antialiasing, bool isDouble) {
-    const WideLen tables = up32(dst.width) + up32(dst.height);
-    if (interpolation == INTERP_SUPER) {
-        const WideLen x = superSide(src.width, dst.width), y = superSide(src.height, dst.height);
-        return {down128(4 * y + 124) + down128(4 * x + 124) + (x + y) * 4 + 400, 64};
-    }
-    if (interpolation == INTERP_NEAREST) return {tables * 4 + 400, 64};
-    if (antialiasing) {
-        const Len tap = isDouble ? 8 : 4;
-        const auto weights = [&](Len s, Len d) {
-            return up32(WideLen(tap) * d * antialiasingTaps(interpolation, s, d));
-        };
-        return {weights(src.width, dst.width) + weights(src.height, dst.height) + tables * 4 + 400, tables * 8 + 64};
-    }
-    if (interpolation == INTERP_LINEAR) return {isDouble ? tables * 12 + 384 : tables * 8 + 400, 64};
-    const auto weights = [&](WideLen d) {
-        return interpolation == INTERP_CUBIC ? down128(16 * d + 508) : down128(24 * d + 764);
-    };
-    return {weights(dst.height) + weights(dst.width) + tables * 4 + 400, tables * 4 + 64};
-}
 
 StatusCode interpolationWord(int word) {
     return refuse(word < 0 || word > 16 || !(1 << word & (1 << 0 | 1 << 1 | 1 << 2 | 1 << 6 | 1 << 8 | 1 << 16)),
@@ -68,36 +19,22 @@ StatusCode ownpi_ResizeGetSize(ResizeKind kind, Roi src, Roi dst, int interpolat
                                Int* initSize) {
     if (auto bad = firstOf({pointers(specSize, initSize), sides(src, dst)})) return bad;
     if (auto bad = interpolationWord(interpolation)) return bad;
-    const auto method = uint32_t(interpolation);
-    const bool ignored = antialiasing && (method == INTERP_NEAREST || method == INTERP_SUPER),
-               isDouble = kind == doublePrecision;
-    const bool refused = method == 0 || (isDouble && (antialiasing ? ignored : method != INTERP_LINEAR));
-    if (auto bad = firstOf({refuse(refused, STATUS_BAD_ARGUMENT), smallSource(src, leastSource(method, 2)),
-                            method == INTERP_SUPER ? reduces(src, dst) : StatusCode(STATUS_OK)}))
-        return bad;
-    const SpecBytes bytes = specBytes(src, dst, method, antialiasing, isDouble);
-    if (sizeof(Int) == 4 && std::max(bytes.spec, bytes.init) > 0x7ffffffe) return STATUS_SIZE_EXCEEDS_INT;
-    put(specSize, Int(bytes.spec)), put(initSize, Int(bytes.init));
-    return ignored ? STATUS_WARN_ANTIALIAS_IGNORED : STATUS_OK;
+    SpecBytes bytes;
+    const StatusCode status =
+        resizeSizes(kind, src, dst, uint32_t(interpolation), antialiasing, sizeof(Int) == 4, bytes);
+    if (status >= STATUS_OK) put(specSize, Int(bytes.spec)), put(initSize, Int(bytes.init));
+    return status;
 }
 
 // ---- Initialisation ----
 
-struct Wanted {
-    Roi src, dst;
-    uint32_t interpolation;
-    ResizeKind kind = singlePrecision;
-    bool antialiasing = false;
-    uint32_t lobes = 0;
-    float b = 0, c = 0;
-};
-
-ResizeHeader headerFor(const Wanted& w) {
+ResizeHeader headerFor(const ResizeWanted& w) {
     ResizeHeader h = {};
     h.tag = h.itsTag, h.kind = h.kindAsPassed = w.kind, h.interpolation = w.interpolation, h.two = 2;
     h.vertical = h.axis(w.src.height, w.dst.height), h.horizontal = h.axis(w.src.width, w.dst.width);
     h.srcWidth = w.src.width, h.srcHeight = w.src.height, h.dstWidth = w.dst.width, h.dstHeight = w.dst.height;
     h.b = w.b, h.c = w.c, h.lobes = w.lobes, h.antialiasing = w.antialiasing;
+    h.shiftX = w.shiftX, h.shiftY = w.shiftY;
     const auto radius = [&](const ResizeHeader::Axis& axis) {
         if (w.antialiasing) return uint32_t(antialiasingTaps(w.interpolation, axis.src, axis.dst) / 2);
         return w.interpolation == INTERP_LANCZOS && w.lobes != 3 ? 2 : uint32_t(plainTaps(w.interpolation) / 2);
@@ -139,13 +76,8 @@ void writeObject(uint8_t* object, ResizeHeader& h, float* fractions, bool withWe
     store(object, h);
 }
 
-StatusCode init(const Wanted& w, ResizeSpec* spec, uint8_t* initBuffer, bool withWeights = true) {
-    uint8_t* const object = objectIn(reinterpret_cast<uint8_t*>(spec));
-    ResizeHeader header = headerFor(w);
-    header.initBuffer = initBuffer;
-    const bool keepsFractions = !w.antialiasing && plainTaps(w.interpolation) > 2;
-    float* const fractions = keepsFractions ? reinterpret_cast<float*>(objectIn(initBuffer)) : nullptr;
-    toNearest([&] { writeObject(object, header, fractions, withWeights); });
+StatusCode init(const ResizeWanted& w, ResizeSpec* spec, uint8_t* initBuffer, bool withWeights = true) {
+    makeResizeObject(w, objectIn(reinterpret_cast<uint8_t*>(spec)), initBuffer, withWeights);
     return STATUS_OK;
 }
 
@@ -161,7 +93,6 @@ StatusCode ownpi_ResizeLinearInit(ResizeKind kind, Roi src, Roi dst, ResizeSpec*
     if (auto bad = firstOf({pointers(spec), sides(src, dst), smallSource(src, 2)})) return bad;
     return init({src, dst, INTERP_LINEAR, kind}, spec, nullptr);
 }
-StatusCode parameters(float b, float c) { return refuse(!std::isfinite(b) || !std::isfinite(c), STATUS_BAD_ARGUMENT); }
 StatusCode ownpi_ResizeCubicInit(Roi src, Roi dst, ResizeSpec* spec, uint8_t* initBuffer, float b, float c) {
     if (auto bad = firstOf({pointers(spec, initBuffer), sides(src, dst), smallSource(src, 4), parameters(b, c)}))
         return bad;
@@ -171,8 +102,7 @@ StatusCode ownpi_ResizeCubicInit(Roi src, Roi dst, ResizeSpec* spec, uint8_t* in
 // The number of lobes is looked at after the header and the tables of positions are written, and what fails here
 // leaves the processor rounding to nearest and flushing small results, as this initialiser always has.
 StatusCode lobesFor(Roi src, uint32_t lobes) {
-    return firstOf(
-        {refuse(lobes != 2 && lobes != 3, STATUS_BAD_ARGUMENT), smallSource(src, leastSource(INTERP_LANCZOS, lobes))});
+    return firstOf({lobeCount(lobes), smallSource(src, leastSource(INTERP_LANCZOS, lobes))});
 }
 StatusCode ownpi_ResizeLanczosInit(Roi src, Roi dst, uint32_t lobes, ResizeSpec* spec, uint8_t* initBuffer) {
     if (auto bad = firstOf({pointers(spec, initBuffer), sides(src, dst)})) return bad;
@@ -183,14 +113,11 @@ StatusCode ownpi_ResizeLanczosInit(Roi src, Roi dst, uint32_t lobes, ResizeSpec*
     return late;
 }
 
-StatusCode antialiasingInit(const Wanted& w, ResizeSpec* spec, uint8_t* initBuffer, StatusCode beforeSource) {
+StatusCode antialiasingInit(const ResizeWanted& w, ResizeSpec* spec, uint8_t* initBuffer, StatusCode beforeSource) {
     if (auto bad = firstOf({pointers(spec, initBuffer), sides(w.src, w.dst), beforeSource,
                             smallSource(w.src, leastSource(w.interpolation, w.lobes))}))
         return bad;
-    const auto radius = [&](Len s, Len d) { return antialiasingTaps(w.interpolation, s, d) / 2; };
-    if (std::max(radius(w.src.width, w.dst.width), radius(w.src.height, w.dst.height)) > INT32_MAX)
-        return STATUS_SIZE_EXCEEDS_INT;
-    if (auto bad = parameters(w.b, w.c)) return bad;
+    if (auto bad = firstOf({countableTaps(w.src, w.dst, w.interpolation), parameters(w.b, w.c)})) return bad;
     return init(w, spec, initBuffer);
 }
 StatusCode ownpi_ResizeAntialiasingLinearInit(ResizeKind kind, Roi src, Roi dst, ResizeSpec* spec,
@@ -203,8 +130,7 @@ StatusCode ownpi_ResizeAntialiasingCubicInit(ResizeKind kind, Roi src, Roi dst, 
 }
 StatusCode ownpi_ResizeAntialiasingLanczosInit(ResizeKind kind, Roi src, Roi dst, uint32_t lobes, ResizeSpec* spec,
                                                uint8_t* initBuffer) {
-    return antialiasingInit({src, dst, INTERP_LANCZOS, kind, true, lobes}, spec, initBuffer,
-                            refuse(lobes != 2 && lobes != 3, STATUS_BAD_ARGUMENT));
+    return antialiasingInit({src, dst, INTERP_LANCZOS, kind, true, lobes}, spec, initBuffer, lobeCount(lobes));
 }
 
 // ---- Services on an object ----
@@ -237,7 +163,7 @@ StatusCode ownpi_ResizeGetBufferSize(ObjectsOf objects, const ResizeSpec* spec, 
                             negative(tile), refuse(header.interpolation == 0, STATUS_CONTEXT_MISMATCH)}))
         return bad;
     const WideLen bytes = resizeBufferBytes(header, tile, channels);
-    if (sizeof(Int) == 4 ? bytes > 0x7ffffffe : fits<Int>(bytes) != STATUS_OK) return STATUS_SIZE_EXCEEDS_INT;
+    if (sizeof(Int) == 4 ? bytes > mostReported : fits<Int>(bytes) != STATUS_OK) return STATUS_SIZE_EXCEEDS_INT;
     put(size, Int(bytes));
     return ClippedTile(header, {0, 0}, tile).status;
 }
@@ -295,6 +221,14 @@ StatusCode ownpi_ResizeGetSrcRoi(ObjectsOf objects, const ResizeSpec* spec, At d
 }
 
 }  // namespace
+
+void makeResizeObject(const ResizeWanted& w, uint8_t* object, uint8_t* initBuffer, bool withWeights) {
+    ResizeHeader header = headerFor(w);
+    header.initBuffer = initBuffer;
+    const bool keepsFractions = !w.antialiasing && plainTaps(w.interpolation) > 2;
+    float* const fractions = keepsFractions ? reinterpret_cast<float*>(objectIn(initBuffer)) : nullptr;
+    toNearest([&] { writeObject(object, header, fractions, withWeights); });
+}
 
 // Of the tile's own index tables, and the rows or the sums that a filter keeps.
 WideLen resizeBufferBytes(const ResizeHeader& h, Roi tile, int channels) {

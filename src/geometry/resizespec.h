@@ -143,7 +143,20 @@ constexpr Len antialiasingTaps(uint32_t interpolation, Len src, Len dst) {
     return src <= dst ? taps : 2 * ((taps * src + dst - 1) / dst);
 }
 
-// Bytes of the work buffer for a tile.
+// What an object is made for, and the making of it, in memory of the size that is asked for.
+struct ResizeWanted {
+    Roi src, dst;
+    uint32_t interpolation;
+    ResizeKind kind = singlePrecision;
+    bool antialiasing = false;
+    uint32_t lobes = 0;
+    float b = 0, c = 0;
+    double shiftX = 0, shiftY = 0;  // of any size
+};
+void makeResizeObject(const ResizeWanted& wanted, uint8_t* object, uint8_t* initBuffer, bool withWeights = true);
+
+// Bytes of the work buffer for a tile, and what queries report at most in an int.
+constexpr WideLen mostReported = 0x7ffffffe;
 WideLen resizeBufferBytes(const ResizeHeader& header, Roi tile, int channels);
 
 // The checks that many of the families share.

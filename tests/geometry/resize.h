@@ -194,4 +194,114 @@ struct Resizing {
 };
 inline Resizing arrangedResizing;  // for the oracle of the same case
 
+inline int methodOf(const std::string& name) {
+    const std::pair<const char*, int> names[] = {{"Nearest", INTERP_NEAREST},
+                                                 {"Linear", INTERP_LINEAR},
+                                                 {"Cubic", INTERP_CUBIC},
+                                                 {"Super", INTERP_SUPER},
+                                                 {"Lanczos", INTERP_LANCZOS}};
+    for (const auto& [part, interpolation] : names)
+        if (name.find(part) != name.npos) return interpolation;
+    return 0;
+}
+
+// ---- The arithmetic of pixels ----
+
+template <class R>
+R quiet(R x) {  // as every operation leaves a NaN
+    return x + R(0) == x ? x : x + x;
+}
+inline __int128 sum(__int128 a, __int128 b) { return a + b; }
+inline __int128 product(__int128 a, __int128 b) { return a * b; }
+template <class R>
+R sum(R a, R b) {  // of NaNs the first
+    return std::isnan(a) ? quiet(a) : std::isnan(b) ? quiet(b) : a + b;
+}
+template <class R>
+R product(R a, R b) {
+    return std::isnan(a) ? quiet(a) : a * b;
+}
+template <class R, class At>
+R filtered(const ResizeAxis& axis, size_t i, At at) {
+    const int64_t j = axis.first[i];
+    if (axis.kind == axis.pixel) return at(j);
+    const auto weight = [&](size_t k) { return R(axis.w[i][k]); };
+    if (axis.kind == axis.between) {
+        const R a = at(j), b = at(j + 1);
+        return sum(a, product(sum(b, -a), weight(0)));
+    }
+    R total = product(at(j), weight(0));
+    for (size_t k = 1; k < axis.w[i].size(); ++k) total = sum(total, product(at(j + int64_t(k)), weight(k)));
+    return total;
+}
+template <class T, class R>
+T rounded(R x) {
+    if constexpr (std::is_floating_point_v<T>) return T(x);
+    return T(
+        std::clamp<double>(std::nearbyint(double(x)), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+}
+
+template <class T>
+T meanOf(double total, int64_t area) {
+    return T(total / double(area));
+}
+template <class T>
+T meanOf(__int128 total, int64_t area) {  // exactly, ties to even
+    total += __int128(area) << 16;        // none negative, and as even as before
+    const __int128 whole = total / area, rest = 2 * (total % area);
+    return T(whole + (rest > area || (rest == area && whole % 2)) - 65536);
+}
+inline int64_t steps14(const ResizeAxis& axis, size_t i) {
+    return axis.kind == axis.pixel ? 0 : std::min<int64_t>(std::lround(16384 * axis.w[i][0]), 16383);
+}
+template <class At>
+int64_t whole(const ResizeAxis& axis, size_t i, At at) {
+    int64_t total = 0;
+    const auto w = Resizing::whole(axis, i);
+    for (size_t k = 0; k < w.size(); ++k) total += w[k] * at(axis.first[i] + int64_t(k));
+    return total;
+}
+// Pixel (i, j) from at(column, row).
+template <class T, class At>
+T pixel(const Resizing& m, size_t i, size_t j, At at) {
+    if (m.interpolation == INTERP_SUPER) {
+        const auto overlap = [](const ResizeAxis& a, int64_t k, int64_t p) {
+            const int64_t g = std::gcd(a.s, a.d), s = a.s / g, d = a.d / g;
+            return std::min((k + 1) * s, (p + 1) * d) - std::max(k * s, p * d);
+        };
+        const int64_t area = m.x.s / std::gcd(m.x.s, m.x.d) * (m.y.s / std::gcd(m.y.s, m.y.d));
+        const int64_t x0 = int64_t(i) * m.x.s / m.x.d, y0 = int64_t(j) * m.y.s / m.y.d;
+        using Sum = std::conditional_t<std::is_integral_v<T>, __int128, double>;
+        Sum total = 0;
+        for (int64_t c = x0; c < m.superEnd(m.x, int64_t(i)); ++c) {
+            Sum column = 0;
+            for (int64_t r = y0; r < m.superEnd(m.y, int64_t(j)); ++r) {
+                const Sum term = product(Sum(at(c, r)), Sum(overlap(m.y, int64_t(j), r)));
+                column = r == y0 ? term : sum(column, term);
+            }
+            const Sum term = product(column, Sum(overlap(m.x, int64_t(i), c)));
+            total = c == x0 ? term : sum(total, term);
+        }
+        return meanOf<T>(total, area);
+    }
+    if constexpr (sizeof(T) == 1) {
+        if (m.interpolation == INTERP_LINEAR && !(m.aa && (m.x.s > m.x.d || m.y.s > m.y.d))) {
+            const auto mix = [](int64_t a, int64_t b, int64_t f) { return a + (((b - a) * f + 8192) >> 14); };
+            const auto row = [&](int64_t r) {
+                const int64_t c = m.x.first[i], f = steps14(m.x, i);
+                return mix(128 * at(c, r), 128 * (f ? at(c + 1, r) : 0), f);
+            };
+            const int64_t r = m.y.first[j], f = steps14(m.y, j);
+            return T((mix(row(r), f ? row(r + 1) : 0, f) + 64) >> 7);
+        }
+        if (m.integers) {
+            const auto row = [&](int64_t r) { return (whole(m.x, i, [&](int64_t c) { return at(c, r); }) + 128) >> 8; };
+            return T(std::clamp<int64_t>((whole(m.y, j, row) + (1 << 19)) >> 20, 0, 255));
+        }
+    }
+    using R = std::conditional_t<sizeof(T) == 8, double, float>;
+    return rounded<T>(
+        filtered<R>(m.y, j, [&](int64_t r) { return filtered<R>(m.x, i, [&](int64_t c) { return R(at(c, r)); }); }));
+}
+
 }  // namespace test

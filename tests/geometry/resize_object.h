@@ -12,6 +12,10 @@ inline void anyParameters(Case& c, Resizing& m) {
     m.b = pair[0], m.c = pair[1];
     m.lobes = c.rng.between(2, 3);
 }
+inline int anyMethod(Case& c) {
+    const int methods[] = {INTERP_LINEAR, INTERP_CUBIC, INTERP_LANCZOS, INTERP_SUPER, INTERP_NEAREST};
+    return methods[c.rng.below(c.member.name.find("YUV") == std::string::npos ? 5 : 4)];
+}
 inline int leastSide(const Resizing& m) {
     return m.interpolation == INTERP_LANCZOS ? 2 * m.lobes : std::max(1, m.taps());
 }

@@ -22,9 +22,8 @@ void putSizes(Case& c, const Resizing& m) {
 
 void arrangeSize(Case& c) {
     Resizing& m = arrangedResizing = {};
-    const int methods[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC, INTERP_SUPER, INTERP_LANCZOS};
     m.real64 = c.member.source == Element::f64;
-    m.interpolation = methods[c.rng.below(5)], m.aa = c.rng.oneIn(2), m.lobes = 2;
+    m.interpolation = anyMethod(c), m.aa = c.rng.oneIn(2), m.lobes = 2;
     const auto side = [&] {
         return c.rng.oneIn(8) ? INT_MAX - c.rng.below(3) : c.rng.between(1, c.rng.oneIn(2) ? 20 : 5000);
     };
@@ -68,13 +67,8 @@ void refused(Case& c, const Resizing& m) {
 }
 void arrangeInit(Case& c) {
     Resizing& m = arrangedResizing = {};
-    const auto named = [&](const char* part) { return c.member.name.find(part) != std::string::npos; };
-    m.aa = named("Antialiasing"), m.real64 = c.member.source == Element::f64;
-    m.interpolation = named("Nearest")  ? INTERP_NEAREST
-                      : named("Linear") ? INTERP_LINEAR
-                      : named("Cubic")  ? INTERP_CUBIC
-                      : named("Super")  ? INTERP_SUPER
-                                        : INTERP_LANCZOS;
+    m.aa = c.member.name.find("Antialiasing") != std::string::npos, m.real64 = c.member.source == Element::f64;
+    m.interpolation = methodOf(c.member.name);
     anyParameters(c, m);
     m.src = {anySide(c, m), anySide(c, m)}, m.dst = {anySide(c, m), anySide(c, m)};
     if (m.interpolation == INTERP_SUPER) m.src.width += m.dst.width, m.src.height += m.dst.height;
@@ -113,10 +107,9 @@ ImagePointL asked;
 ImageSizeL askedSize;
 void arrangeQuestion(Case& c) {
     Resizing& m = arrangedResizing = {};
-    const int methods[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC, INTERP_SUPER, INTERP_LANCZOS};
     const bool any = c.member.source == Element::none;
     m.real64 = c.member.source == Element::f64 || (any && c.rng.oneIn(3));
-    m.interpolation = methods[c.rng.below(5)];
+    m.interpolation = anyMethod(c);
     m.aa = m.taps() && (c.rng.oneIn(2) || (m.real64 && m.interpolation != INTERP_LINEAR));
     if (m.real64 && !m.aa) m.interpolation = INTERP_LINEAR;
     anyParameters(c, m);
@@ -224,17 +217,10 @@ TEST(Resize, Limits) {
 
 }  // namespace
 
-extern const Family test_zmviResizeGetSize = {.arrange = arrangeSize, .oracle = answerSize};
-extern const Family test_zmviResizeNearestInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeLinearInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeCubicInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeLanczosInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeSuperInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeAntialiasingLinearInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeAntialiasingCubicInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeAntialiasingLanczosInit = {.arrange = arrangeInit, .oracle = judgeObject};
-extern const Family test_zmviResizeGetBufferSize = {.arrange = arrangeQuestion, .oracle = answer, .more = {noResizing}};
-extern const Family test_zmviResizeGetBorderSize = {.arrange = arrangeQuestion, .oracle = answer, .more = {noResizing}};
-extern const Family test_zmviResizeGetSrcOffset = {.arrange = arrangeQuestion, .oracle = answer, .more = {noResizing}};
-extern const Family test_zmviResizeGetSrcRoi = {.arrange = arrangeQuestion, .oracle = answer, .more = {noResizing}};
-extern const Family test_zmviResizeSetMode = {.arrange = arrangeQuestion, .oracle = answer, .more = {noResizing}};
+#define TESTED(name, ...) extern const Family test_zmviResize##name = {__VA_ARGS__};
+TESTED(GetSize, .arrange = arrangeSize, .oracle = answerSize)
+#define MADE(name) TESTED(name##Init, .arrange = arrangeInit, .oracle = judgeObject)
+MADE(Nearest) MADE(Linear) MADE(Cubic) MADE(Lanczos) MADE(Super)
+MADE(AntialiasingLinear) MADE(AntialiasingCubic) MADE(AntialiasingLanczos)
+#define ASKED(name) TESTED(name, .arrange = arrangeQuestion, .oracle = answer, .more = {noResizing})
+ASKED(GetBufferSize) ASKED(GetBorderSize) ASKED(GetSrcOffset) ASKED(GetSrcRoi) ASKED(SetMode)

@@ -248,7 +248,8 @@ void Case::acceptMemory() {
 
 void Case::acceptRows() {
     for (const auto& [name, i] : images) {
-        if (!member.find(name)->written || !has(name + "Step")) continue;
+        const std::string operand = name.substr(0, name.find('['));
+        if (!member.find(operand)->written || !has(operand + "Step")) continue;
         const int64_t pixels = i.readable.left + i.width + i.readable.right, pixel = i.channels * bytesOf(i.element),
                       rowBytes = (pixels - 1) * pixel + (i.planes ? 1 : i.own) * bytesOf(i.element);
         for (int plane = 0; plane < std::max(1, i.planes); ++plane) {

@@ -158,32 +158,19 @@ void Case::locate(Image& i, int plane, int64_t low, int64_t high) {
     i.pointer[plane] = blocks_[i.block[plane]].live + i.first[plane];
 }
 
-Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readable) {
-    const Parameter* p = member.find(name);
-    const Layout layout = layoutOf(name);
-    Image i;
-    i.name = name;
-    i.element = p->element;
-    i.channels = p->planes ? 1 : layout.channels;
-    i.planes = p->planes;
-    i.width = w;
-    i.height = h;
-    i.readable = readable;
+// Finds memory for an operand of which all but that is known; its first element is so many bytes into a pixel.
+int64_t Case::layOut(Image& i, const Parameter& p, int64_t channel) {
+    const std::string stepName = catalog::stepOf(p.name);
+    const Margins& readable = i.readable;
     const int64_t bytes = bytesOf(i.element), pixel = bytes * i.channels;
-    const bool one = member.oneChannel || (!allChannels && !member.from.planar && !member.to.planar &&
-                                           std::min(member.from.channels, member.to.channels) == 1);
-    i.own = p->planes ? i.planes : one ? 1 : i.channels;
-    const int64_t channel = one && i.channels > 1 ? rng.below(i.channels) * bytes : 0;
-
-    const std::string stepName = catalog::stepOf(name);
-    const int64_t rowBytes = (readable.left + w + readable.right) * pixel;
-    i.step = has(stepName) ? chooseStep(rowBytes, p->written) : rowBytes;
+    const int64_t rowBytes = (readable.left + i.width + readable.right) * pixel;
+    i.step = has(stepName) ? chooseStep(rowBytes, p.written) : rowBytes;
     for (const zmv::Refusal& refusal : member.facts().refusals)
         if (refusal.bad == zmv::Bad::partStep && refusal.arguments == stepName)
             i.step += (i.step < 0 ? -1 : 1) * ((bytes - std::abs(i.step) % bytes) % bytes);
-    const int64_t top = -readable.top * i.step, bottom = (h - 1 + readable.bottom) * i.step;
+    const int64_t top = -readable.top * i.step, bottom = (i.height - 1 + readable.bottom) * i.step;
     const int64_t low = std::min(top, bottom) - readable.left * pixel - channel;
-    const int64_t high = std::max(top, bottom) + (w + readable.right) * pixel - channel;
+    const int64_t high = std::max(top, bottom) + (i.width + readable.right) * pixel - channel;
     for (int plane = 0; plane < std::max(1, i.planes); ++plane) locate(i, plane, low, high);
 
     int64_t step = i.step;
@@ -195,7 +182,28 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
         for (uint8_t*& pointer : i.pointer)
             if (pointer) pointer += readable.top * far;
     }
-    if (has(stepName)) arg(stepName) = step;
+    return step;
+}
+
+Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readable) {
+    const Parameter* p = member.find(name);
+    const Layout layout = layoutOf(name);
+    Image i;
+    i.name = name;
+    i.element = p->element;
+    i.channels = p->planes ? 1 : layout.channels;
+    i.planes = p->planes;
+    i.width = w;
+    i.height = h;
+    i.readable = readable;
+    const int64_t bytes = bytesOf(i.element);
+    const bool one = member.oneChannel || (!allChannels && !member.from.planar && !member.to.planar &&
+                                           std::min(member.from.channels, member.to.channels) == 1);
+    i.own = p->planes ? i.planes : one ? 1 : i.channels;
+    const int64_t channel = one && i.channels > 1 ? rng.below(i.channels) * bytes : 0;
+
+    const int64_t step = layOut(i, *p, channel);
+    if (has(catalog::stepOf(name))) arg(catalog::stepOf(name)) = step;
     if (i.planes) {
         std::copy(i.pointer, i.pointer + 4, planePointers[name].begin());
         arg(name) = planePointers[name].data();
@@ -203,6 +211,22 @@ Image& Case::place(const std::string& name, int64_t w, int64_t h, Margins readab
         arg(name) = i.pointer[0];
     }
     return images[name] = i;
+}
+
+Image& Case::placePlane(const std::string& name, int plane, int channels, int64_t w, int64_t h) {
+    const Parameter* p = member.find(name);
+    const std::string steps = catalog::stepOf(name);
+    if (plane == 0) placeValue(steps, p->planes);
+    Image i;
+    i.name = name + "[" + std::to_string(plane) + "]";
+    i.element = p->element;
+    i.channels = i.own = channels;
+    i.width = w;
+    i.height = h;
+    set(image(steps), 0, 0, plane, int(layOut(i, *p, 0)));
+    planePointers[name][size_t(plane)] = i.pointer[0];
+    arg(name) = planePointers[name].data();
+    return images[i.name] = i;
 }
 
 Image& Case::placeValue(const std::string& name, int count) {

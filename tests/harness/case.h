@@ -54,6 +54,8 @@ class Case {
     // Lays out the image of this name and binds its pointer and step.  Where only one channel of many takes part the
     // pointer is at a random one.
     Image& place(const std::string& name, int64_t w, int64_t h, Margins readable = {});
+    // One plane of an image whose planes have sizes, steps and numbers of channels of their own, as image "src[1]".
+    Image& placePlane(const std::string& name, int plane, int channels, int64_t w, int64_t h);
     // The constant argument: elements behind a pointer, or one by value, which bindValue passes as its image has it.
     Image& placeValue(const std::string& name, int count);
     void bindValue(const std::string& name);
@@ -115,6 +117,7 @@ class Case {
     Layout layoutOf(const std::string& name) const;
     int64_t chooseStep(int64_t rowBytes, bool written);
     size_t newBlock(size_t bytes);
+    int64_t layOut(Image& i, const Parameter& p, int64_t channel);
     void locate(Image& i, int plane, int64_t low, int64_t high);
     std::string whereIs(const Block& block, size_t offset) const;
     std::string nearest(const void* address) const;
