@@ -53,7 +53,7 @@ ZMV_INLINE V minus(V a, V b) {
 // middle has the same weight, or opposite ones.
 template <int... weights>
 struct Weights {
-    static constexpr int count = sizeof...(weights), pairs = count / 2, at[] = {weights...};
+    static constexpr int count = sizeof...(weights), pairs = count / 2, at[count] = {weights...};
     // A difference is taken so that its weight is positive.
     static constexpr bool takesOff = at[0] != at[count - 1], laterFirst = at[0] < 0;
     static constexpr int weight(int pair) { return at[laterFirst ? count - 1 - pair : pair]; }

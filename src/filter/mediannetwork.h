@@ -158,7 +158,7 @@ constexpr Network middleOfWindow = [] {
             rows[i] = network.merge(rows[2 * i], rows[2 * i + 1]);
             if (i == left / 2 - 1 && left % 2) rows[i + 1] = rows[left - 1];
         }
-    const Places none, &last = left > 1 ? rows[1] : none;
+    const Places last = left > 1 ? rows[left - 1] : Places{};
     Places middle;
     middle.add(network.pick(rows[0], last, (rows[0].count + last.count - 1) / 2));
     return network.made(middle);

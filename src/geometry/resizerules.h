@@ -213,8 +213,10 @@ struct Real {
         for (size_t k = 0; k < known; ++k)
             first[k] = rowAt[k],
             w[k] = rows.shape.kind == Taps::one ? V{} : fill(rowWeights[Count::value == 2 ? 0 : k]);
-        return [ =, kind = rows.shape.kind, weights = rowWeights, taps = rowTaps ](Len x)
-            __attribute__((always_inline)) {
+        [[maybe_unused]] const Taps kind = rows.shape.kind;
+        [[maybe_unused]] const R* const weights = rowWeights;
+        [[maybe_unused]] const Len taps = rowTaps;
+        return [=](Len x) __attribute__((always_inline)) {
             const auto mixed = [&](Len i) __attribute__((always_inline)) {
                 const V top = load(first[0] + i);
                 if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return top;

@@ -23,7 +23,7 @@ template <class T>
 T rounded(float v, int mode) {
     if (!(v == v)) return 0;
     const double x =
-        std::min<double>(std::max<double>(v, std::numeric_limits<T>::min()), std::numeric_limits<T>::max());
+        std::clamp(double(v), double(std::numeric_limits<T>::min()), double(std::numeric_limits<T>::max()));
     const double down = std::floor(x);
     if (mode == ROUND_ZERO) return T(std::trunc(x));
     if (mode == ROUND_FINANCIAL) return T(std::floor(x + 0.5));

@@ -237,8 +237,8 @@ R filtered(const ResizeAxis& axis, size_t i, At at) {
 template <class T, class R>
 T rounded(R x) {
     if constexpr (std::is_floating_point_v<T>) return T(x);
-    return T(
-        std::clamp<double>(std::nearbyint(double(x)), std::numeric_limits<T>::min(), std::numeric_limits<T>::max()));
+    return T(std::clamp(std::nearbyint(double(x)), double(std::numeric_limits<T>::min()),
+                        double(std::numeric_limits<T>::max())));
 }
 
 template <class T>
