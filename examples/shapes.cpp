@@ -1,4 +1,4 @@
-// The words of a page, each with its centroid and its axes; numbers that stay when the page is turned; and what the
+// The letters of a page, each with its centroid and its axes; numbers that stay when the page is turned; and what the
 // quality index says of the photograph against versions of itself.
 #include <cmath>
 #include <vector>
@@ -14,9 +14,8 @@ struct State {
         block.resize(size_t(size));
         check(zmviMomentsInit(DATATYPE_8U, 1, block.data()), "zmviMomentsInit");
     }
-    void add(const Picture& ink, ImageRect r) {
-        check(zmviMoments_8u_C1R(ink.at(r.x, r.y), ink.step, {r.width, r.height}, {r.x, r.y}, block.data()),
-              "zmviMoments_8u_C1R");
+    void add(const Picture& ink, ImagePoint at) {
+        check(zmviMoments_8u_C1R(ink.at(0, 0), ink.step, ink.size, at, block.data()), "zmviMoments_8u_C1R");
     }
     double spatial(int p, int q) const {
         double value = 0;
@@ -30,33 +29,37 @@ struct State {
     }
 };
 
-// The rectangles of words: rows, then columns, with some emptiness between them.
-static std::vector<ImageRect> words(const Picture& ink) {
-    const auto stretches = [](int n, int gap, auto inked) {
-        std::vector<std::pair<int, int>> found;
-        for (int i = 0; i < n; ++i) {
-            if (!inked(i)) continue;
-            if (found.empty() || i - found.back().second > gap) found.push_back({i, i});
-            found.back().second = i + 1;
-        }
-        return found;
-    };
-    std::vector<ImageRect> result;
-    const auto rowHas = [&](int y) {
-        int count = 0;
-        for (int x = 0; x < ink.size.width; ++x) count += *ink.at(x, y) > 0;
-        return count > 2;
-    };
-    for (const auto& [top, bottom] : stretches(ink.size.height, 1, rowHas)) {
-        const auto columnHas = [&, top = top, bottom = bottom](int x) {
-            for (int y = top; y < bottom; ++y)
-                if (*ink.at(x, y) > 0) return true;
-            return false;
+// What hangs together, each in a picture of its own that lies somewhere in the page.
+struct Letter {
+    ImageRect at;
+    Picture ink;
+};
+static std::vector<Letter> letters(const Picture& page) {
+    const int width = page.size.width, height = page.size.height;
+    std::vector<bool> seen(size_t(width) * height);
+    std::vector<Letter> found;
+    for (int start = 0; start < width * height; ++start) {
+        std::vector<int> pixels;
+        const auto visit = [&](int x, int y) {
+            if (x < 0 || y < 0 || x >= width || y >= height || seen[size_t(y * width + x)] || !*page.at(x, y)) return;
+            seen[size_t(y * width + x)] = true;
+            pixels.push_back(y * width + x);
         };
-        for (const auto& [left, right] : stretches(ink.size.width, 7, columnHas))
-            if (right - left > 4 && bottom - top > 4) result.push_back({left, top, right - left, bottom - top});
+        visit(start % width, start / width);
+        ImageRect r = {width, height, 0, 0};
+        for (size_t i = 0; i < pixels.size(); ++i) {
+            const int x = pixels[i] % width, y = pixels[i] / width;
+            for (int k = 0; k < 9; ++k) visit(x + k % 3 - 1, y + k / 3 - 1);
+            r = {std::min(r.x, x), std::min(r.y, y), std::max(r.width, x + 1), std::max(r.height, y + 1)};
+        }
+        if (pixels.size() < 40) continue;
+        r.width -= r.x, r.height -= r.y;
+        Letter letter = {r, Picture({r.width, r.height}, 1)};
+        for (int y = 0; y < r.height; ++y) std::memset(letter.ink.at(0, y), 0, size_t(r.width));
+        for (const int i : pixels) *letter.ink.at(i % width - r.x, i / width - r.y) = *page.at(i % width, i / width);
+        found.push_back(std::move(letter));
     }
-    return result;
+    return found;
 }
 
 static void draw(const Picture& to, double x, double y, double dx, double dy, const uint8_t (&colour)[3]) {
@@ -80,26 +83,25 @@ int main(int argc, char** argv) {
     Picture ink(size, 1), turned({size.height, size.width}, 1), shown(size, 3);
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x) {
-            *ink.at(x, y) = uint8_t(*paper.at(x, y) < 96 ? 255 - *paper.at(x, y) : 0);
+            *ink.at(x, y) = uint8_t(*paper.at(x, y) < 75 ? 255 - *paper.at(x, y) : 0);
             *turned.at(size.height - 1 - y, x) = *ink.at(x, y);
             std::memset(shown.at(x, y), *paper.at(x, y), 3);
         }
-    const std::vector<ImageRect> rectangles = words(ink);
-    const ImageRect all = {0, 0, size.width, size.height};
-    const double time = bestTime([&] { State().add(ink, all); });
+    const double time = bestTime([&] { State().add(ink, {0, 0}); });
     State together;
-    for (const ImageRect& r : rectangles) {
+    for (const Letter& letter : letters(ink)) {
+        const ImageRect r = letter.at;
         State word;
-        word.add(ink, r);
+        word.add(letter.ink, {r.x, r.y});
         check(zmviMomentsMerge(word.block.data(), together.block.data()), "zmviMomentsMerge");
         double area = 0, sumX = 0, sumY = 0;
-        for (int y = r.y; y < r.y + r.height; ++y)
-            for (int x = r.x; x < r.x + r.width; ++x) {
-                area += *ink.at(x, y);
-                sumX += double(x) * *ink.at(x, y), sumY += double(y) * *ink.at(x, y);
+        for (int y = 0; y < r.height; ++y)
+            for (int x = 0; x < r.width; ++x) {
+                const double f = *letter.ink.at(x, y);
+                area += f, sumX += (r.x + x) * f, sumY += (r.y + y) * f;
             }
         if (word.spatial(0, 0) != area || word.spatial(1, 0) != sumX || word.spatial(0, 1) != sumY)
-            fail("wrong moments of a word");
+            fail("wrong moments of a letter");
         const double xx = word.central(2, 0) / area, yy = word.central(0, 2) / area, xy = word.central(1, 1) / area,
                      apart = std::hypot((xx - yy) / 2, xy), angle = 0.5 * std::atan2(2 * xy, xx - yy),
                      along = 2 * std::sqrt((xx + yy) / 2 + apart),
@@ -111,10 +113,10 @@ int main(int argc, char** argv) {
     // Hu's numbers of the page and of the page turned.
     double hu[2][7];
     State upright, lying;
-    upright.add(ink, all), lying.add(turned, {0, 0, size.height, size.width});
+    upright.add(ink, {0, 0}), lying.add(turned, {0, 0});
     check(zmviMomentsGetHu(upright.block.data(), 0, hu[0]), "zmviMomentsGetHu");
     check(zmviMomentsGetHu(lying.block.data(), 0, hu[1]), "zmviMomentsGetHu");
-    if (together.spatial(0, 0) > upright.spatial(0, 0)) fail("more ink in words than on the page");
+    if (together.spatial(0, 0) > upright.spatial(0, 0)) fail("more ink in letters than on the page");
     FILE* const table = std::fopen((std::string(argv[2]) + "/shapes.tsv").c_str(), "w");
     if (!table) fail("no table can be written");
     for (int i = 0; i < 7; ++i) {
@@ -158,6 +160,6 @@ int main(int argc, char** argv) {
                      quality(photo, version, buffer));
     }
     if (std::fclose(table) != 0) fail("the table was not written");
-    publish(shown, argv[2], "shapes", time, "Words and their axes",
-            "zmviMoments: the centroid of each word, and the axes of its ink.");
+    publish(shown, argv[2], "shapes", time, "Letters and their axes",
+            "zmviMoments: the centroid of each letter, and the axes of its ink.");
 }

@@ -4198,7 +4198,7 @@ ZMV_API StatusCode zmviMomentsMerge(const uint8_t* pState, uint8_t* pSrcDstState
 
 /* zmviMomentsGetSpatial: *pValue = m(xOrder, yOrder) of a channel.  Integers: rounded once.
    Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
-   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, their sum exceeds 3, or channel is none of the
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
    object's.
    src/stats/pimoments.cpp */
 ZMV_API StatusCode zmviMomentsGetSpatial(const uint8_t* pState, int xOrder, int yOrder, int channel, double* pValue);
@@ -4212,7 +4212,7 @@ ZMV_API StatusCode zmviMomentsGetSpatial(const uint8_t* pState, int xOrder, int 
    0) and m(0, 1) over m(0, 0) in double, to nearest even; not moved where one lies beyond 2^40), then rounded.
    Then in double precision, each operation rounded to nearest.
    Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
-   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, their sum exceeds 3, or channel is none of the
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
    object's.
    STATUS_WARN_DIV_BY_ZERO: m(0, 0) is zero; the result is NaN.
    src/stats/pimoments.cpp */
@@ -4222,7 +4222,7 @@ ZMV_API StatusCode zmviMomentsGetCentral(const uint8_t* pState, int xOrder, int 
    0) over A (order 0), 1 (order
    1), A A (order 2) or (A A) sqrt(A) (order 3, NaN where A is negative).  mu as zmviMomentsGetCentral gives it.
    Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
-   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, their sum exceeds 3, or channel is none of the
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
    object's.
    STATUS_WARN_DIV_BY_ZERO: m(0, 0) is zero; the result is NaN.
    src/stats/pimoments.cpp */
