@@ -84,6 +84,7 @@ ImageSizeL Call::area(const std::string& name) const {
         return width ? ImageSizeL{width, width * 9 / 16} : ImageSizeL{setting.width / 2, setting.height / 2};
     }
     if (name == "blockSize") return {16, 16};
+    if (name == "windowSize") return {std::min<int64_t>(8, setting.width), std::min<int64_t>(8, setting.height)};
     unknown(name);
 }
 
@@ -147,8 +148,11 @@ double Call::number(const std::string& name) const {
     if (name == "scaleFactor") return setting.factor;
     if (name == "roundMode") return ROUND_NEAR;
     if (name == "uniform") return 1;
-    if (name == "dstOffset" || name == "roiOffset" || name == "shiftX" || name == "shiftY" || name == "B") return 0;
+    if (name == "dstOffset" || name == "roiOffset" || name == "channel" || name == "shiftX" || name == "shiftY" ||
+        name == "B")
+        return 0;
     if (name == "C") return 0.5;
+    if (name == "xOrder" || name == "yOrder") return 1;
     if (name == "numLobes") return 3;
     if (name == "chromaFormat") return halvesRows() ? CHROMA_420 : CHROMA_422;
     if (name == "chromaSite") return CHROMA_LEFT;
@@ -196,14 +200,17 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "pKernel") return kernel(element);
     if (name == "buffer") return workBuffer();
     if (name.ends_with("Step")) return planeSteps[name].data();
-    if (name == "stepOut" || name == "pBufferSize" || name == "bufSize") return &answer;
+    if (name == "stepOut" || name == "pStateSize" || name == "pBufferSize" || name == "bufSize") return &answer;
     if (name == "initBuf") return allocate(8 * (area("dstSize").width + area("dstSize").height + 128)).data();
     if (name == "specSize" || name == "initBufSize" || name == "borderSize" || name == "srcOffset" || name == "srcRoi")
         return allocate(32).data();
     if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize" || name == "pDp")
+        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize" || name == "pDp" ||
+        name == "pQuality" || name == "pValue")
         return allocate(32).data();
-    if (name == "pSpec" || name == "spec") return specObject();
+    if (name == "pHu") return allocate(7 * element).data();
+    if (name == "pSpec" || name == "spec" || name == "pState") return specObject();
+    if (name == "pSrcDstState") return maker->spec;
     if (name == "pHist") return allocate(bins * element).data();
     if (name == "pTable") return allocate(bins * toChannels * element).data();
     if (name == "nLevels") return levels<int>(bins + 1, 0);
@@ -324,6 +331,7 @@ void* Call::specObject() {
     const bool filter = family.rfind("zmviFilterBorder", 0) == 0;
     const Member& init = findMember(isResize()                              ? resizeInit(user)
                                     : family.rfind("zmviHistogram", 0) == 0 ? "zmviHistogramUniformInit"
+                                    : family.rfind("zmviMoments", 0) == 0   ? "zmviMomentsInit"
                                     : family == "zmviLUT"                   ? "zmviLUT_Init_" + type
                                     : !filter                               ? family + "Init"
                                     : type == "64f"                         ? "zmviFilterBorderInit_64f"

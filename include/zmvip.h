@@ -4151,6 +4151,135 @@ ZMV_API StatusCode zmviHistogram_32f_C1R(const float* src, int srcStep, ImageSiz
 ZMV_API StatusCode zmviHistogram_32f_C3R(const float* src, int srcStep, ImageSize roiSize, int* const pHist[3], const uint8_t* pSpec, uint8_t* buffer);
 ZMV_API StatusCode zmviHistogram_32f_C4R(const float* src, int srcStep, ImageSize roiSize, int* const pHist[4], const uint8_t* pSpec, uint8_t* buffer);
 
+/* zmviMomentsGetSize: The bytes of a state object that gathers moments.
+   Checked in this order.  STATUS_NULL_POINTER: pStateSize is null.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U,
+   _16U, _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsGetSize(int dataType, int numChannels, int* pStateSize);
+
+/* zmviMomentsInit: Makes a state object for moments of images of one type and channel count: all moments are zero.
+   pState has the size that zmviMomentsGetSize reports, at any alignment.  A copy is as good, at an address that leaves
+   the same remainder when divided by 64.
+   Checked in this order.  STATUS_NULL_POINTER: pState is null.  STATUS_BAD_DATATYPE: dataType is not DATATYPE_8U, _16U,
+   _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsInit(int dataType, int numChannels, uint8_t* pState);
+
+/* zmviMoments: Adds the moments of a region to those of pState: for each channel m(p, q) += the sum of X^p Y^q src, p +
+   q <= 3,
+   with X = roiOffset.x + column and Y = roiOffset.y + row.  So regions of one image add up, each with its offset;
+   threads take a state each, and zmviMomentsMerge adds these.
+   Integers: exact for any regions at any offsets, so that tiles make what the whole makes to the bit.  32f: in double
+   precision, each row by itself, in the order that docs/sums.md has; NaN where the channel has one.
+   The caller's rounding mode has no influence and is not changed.
+   Checked in this order.  STATUS_NULL_POINTER: src or pState is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_STEP: srcStep is not positive.  STATUS_CONTEXT_MISMATCH: pState is no state object of moments, or one of
+   another type or channel count.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMoments_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_8u_C3R(const uint8_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_8u_C4R(const uint8_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16u_C1R(const uint16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16u_C3R(const uint16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16u_C4R(const uint16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16s_C1R(const int16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16s_C3R(const int16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_16s_C4R(const int16_t* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_32f_C1R(const float* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_32f_C3R(const float* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+ZMV_API StatusCode zmviMoments_32f_C4R(const float* src, int srcStep, ImageSize roiSize, ImagePoint roiOffset, uint8_t* pState);
+
+/* zmviMomentsMerge: Adds the moments of pState to those of pSrcDstState.  Given the same object twice, it is doubled.
+   Integers: exact, unless states are merged with themselves so often that a moment passes 191 bits.
+   Checked in this order.  STATUS_NULL_POINTER: pState or pSrcDstState is null.  STATUS_CONTEXT_MISMATCH: one is no
+   state object of moments, or they differ in type or channel count.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsMerge(const uint8_t* pState, uint8_t* pSrcDstState);
+
+/* zmviMomentsGetSpatial: *pValue = m(xOrder, yOrder) of a channel.  Integers: rounded once.
+   Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
+   object's.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsGetSpatial(const uint8_t* pState, int xOrder, int yOrder, int channel, double* pValue);
+
+/* zmviMomentsGetCentral: *pValue = mu(xOrder, yOrder) of a channel: the moment about the centroid x = m(1, 0) / m(0,
+   0), y = m(0, 1) / m(0, 0).
+   mu(0, 0) = m(0, 0), mu(1, 0) = mu(0, 1) = 0, mu(2, 0) = m(2, 0) - x m(1, 0), mu(1, 1) = m(1, 1) - x m(0, 1), mu(3, 0)
+   = (m(3, 0) - (3 x) m(2, 0)) + (2 (x x)) m(1, 0), mu(2, 1) = ((m(2, 1) - (2 x) m(1, 1)) - y m(2, 0)) + (2 (x x)) m(0,
+   1), and so with x and y exchanged.
+   Integers: the exact moments are first moved to the whole number nearest the centroid (the quotients m(1, 0) over m(0,
+   0) and m(0, 1) over m(0, 0) in double, to nearest even; not moved where one lies beyond 2^40), then rounded.
+   Then in double precision, each operation rounded to nearest.
+   Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
+   object's.
+   STATUS_WARN_DIV_BY_ZERO: m(0, 0) is zero; the result is NaN.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsGetCentral(const uint8_t* pState, int xOrder, int yOrder, int channel, double* pValue);
+
+/* zmviMomentsGetNormalizedCentral: *pValue = mu(xOrder, yOrder) of a channel, which size does not change: with A = m(0,
+   0) over A (order 0), 1 (order
+   1), A A (order 2) or (A A) sqrt(A) (order 3, NaN where A is negative).  mu as zmviMomentsGetCentral gives it.
+   Checked in this order.  STATUS_NULL_POINTER: pState or pValue is null.  STATUS_CONTEXT_MISMATCH: pState is no state
+   object of moments.  STATUS_OUT_OF_RANGE: an order is negative, or their sum exceeds 3, then channel is none of the
+   object's.
+   STATUS_WARN_DIV_BY_ZERO: m(0, 0) is zero; the result is NaN.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsGetNormalizedCentral(const uint8_t* pState, int xOrder, int yOrder, int channel, double* pValue);
+
+/* zmviMomentsGetHu: pHu: the seven invariants of M.-K. Hu (1962) of a channel, which turning, size and place do not
+   change; mirroring
+   changes the sign of the seventh.  With e(p, q) as zmviMomentsGetNormalizedCentral gives them, a = e(3, 0) - 3 e(1,
+   2), b = 3 e(2, 1) - e(0, 3), c = e(3, 0) + e(1, 2), d = e(2, 1) + e(0, 3), r = e(2, 0) - e(0, 2):
+   e(2, 0) + e(0, 2);  r r + 4 (e(1, 1) e(1, 1));  a a + b b;  c c + d d; (a c) (c c - 3 (d d)) + (b d) (3 (c c) - d d);
+   r (c c - d d) + (4 e(1, 1)) (c d); (b c) (c c - 3 (d d)) - (a d) (3 (c c) - d d).
+   Checked in this order.  STATUS_NULL_POINTER: pState or pHu is null.  STATUS_CONTEXT_MISMATCH: pState is no state
+   object of moments.  STATUS_OUT_OF_RANGE: channel is none of the object's.
+   STATUS_WARN_DIV_BY_ZERO: m(0, 0) is zero; the result is NaN.
+   src/stats/pimoments.cpp */
+ZMV_API StatusCode zmviMomentsGetHu(const uint8_t* pState, int channel, double pHu[7]);
+
+/* zmviQualityIndexGetBufferSize: The bytes of the work buffer of zmviQualityIndex, for images of a type and a channel
+   count.
+   Checked in this order.  STATUS_NULL_POINTER: pBufferSize is null.  STATUS_BAD_SIZE: width or height below 1.
+   STATUS_BAD_MASK_SIZE: a side of windowSize is below 1 or exceeds that of the region.  STATUS_BAD_DATATYPE: dataType
+   is not DATATYPE_8U, _16U, _16S or _32F.  STATUS_BAD_CHANNELS: numChannels is not 1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT:
+   a size exceeds 2147483647; nothing is written.
+   src/stats/piquality.cpp */
+ZMV_API StatusCode zmviQualityIndexGetBufferSize(ImageSize roiSize, ImageSize windowSize, int dataType, int numChannels, int* pBufferSize);
+
+/* zmviQualityIndex: pQuality = the universal image quality index of src1 and src2 (Wang and Bovik, IEEE Signal
+   Processing Letters 9(3),
+   2002), for each channel: the mean over all positions of the window inside the region.  A window as large as the
+   region gives the global index; 8 x 8 is usual.  pQuality: one double for C1, an array of three for C3 and of four for
+   C4.
+   Of a window of n pixels with the sums Sx, Sy, Sxx, Syy, Sxy, in double precision, each operation rounded to nearest:
+   vx = n Sxx - Sx Sx, vy = n Syy - Sy Sy, c = n Sxy - Sx Sy, V = vx + vy, M = Sx Sx + Sy Sy; ((4 c) (Sx Sy)) / (V M),
+   where V is 0 (2 (Sx Sy)) / M, where M is 0 (2 c) / V, where both are 0, 1.
+   Integers: sums are exact before they become doubles.  32f: sums are formed in double, in one order for every window
+   of that size; vx that is at most n Sxx 2^-40 counts as 0, and c with it, and so does vy.  NaN where a window has one.
+   The mean of a channel: the windows of a row in 24 partial sums (window x in sum x mod 24), which are added from the
+   first one on; then rows from the top.  The same bits in every build; the caller's rounding mode has no influence and
+   is not changed.
+   buffer has the size that zmviQualityIndexGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, pQuality or buffer is null.  STATUS_BAD_SIZE: width or height
+   below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_BAD_MASK_SIZE: a side of windowSize is below 1 or exceeds
+   that of the region.
+   src/stats/piquality.cpp */
+ZMV_API StatusCode zmviQualityIndex_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16s_C1R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16s_C3R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_16s_C4R(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+ZMV_API StatusCode zmviQualityIndex_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, ImageSize roiSize, ImageSize windowSize, double* pQuality, uint8_t* buffer);
+
 /* zmviLUT_GetSize: The bytes of the spec object of a look-up table, at any address.
    interpolation: INTERP_NEAREST, INTERP_LINEAR or INTERP_CUBIC.  nLevels: one count a channel, from 2 on.
    Checked in this order.  STATUS_NULL_POINTER: nLevels or pSpecSize is null.  STATUS_BAD_INTERPOLATION: interpolation

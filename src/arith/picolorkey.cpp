@@ -47,16 +47,27 @@ void keyed(Image<const T> a, Image<const T> b, Image<T> dst, Roi roi, const T* v
         pointwise(colours, to, roi, C1, false, pixelsA, pixelsB);
 }
 
-// Three channels have no such number: planes are compared.
+// Three channels have no such number: planes are compared, and what is found of a pixel is spread over its elements.
+template <class V, int v>
+struct OfPixel {
+    static constexpr int at(int i) { return InLanes<V>::of(i, (v * InLanes<V>::perLane + InLanes<V>::inLane(i)) / 3); }
+};
+template <class V>
+ZMV_INLINE Block<V, 3> spread(V found) {
+    if constexpr (byPerfectShuffles<V>)
+        return pixelsOf(Block<V, 3>{found, found, found});
+    else
+        return {permute<OfPixel<V, 0>>(found, found), permute<OfPixel<V, 1>>(found, found),
+                permute<OfPixel<V, 2>>(found, found)};
+}
 template <class T>
 using Pixels = Block<Vec<T>, 3>;
 template <class T>
 ZMV_INLINE Pixels<T> keyedBlock(const T* a, const T* b, const Pixels<T>& key) {
     const auto first = loadPixels<3>(a), second = loadPixels<3>(b);
     const auto planes = planesOf(first);
-    Pixels<T> found;
-    found.fill((Vec<T>)(planes[0] == key[0]) & (Vec<T>)(planes[1] == key[1]) & (Vec<T>)(planes[2] == key[2]));
-    found = pixelsOf(found);
+    const auto found =
+        spread((Vec<T>)(planes[0] == key[0]) & (Vec<T>)(planes[1] == key[1]) & (Vec<T>)(planes[2] == key[2]));
     Pixels<T> result;
     for (int i = 0; i < 3; ++i) result[i] = select(found[i], second[i], first[i]);
     return result;

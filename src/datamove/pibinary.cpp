@@ -30,11 +30,14 @@ ZMV_INLINE uint64_t bitsAbove(Vec<T> threshold, const T* p) {
     return bitsOf<T>(threshold, [&](int at) { return load(p + at); });
 }
 template <class T>
-uint64_t firstBitsAbove(Vec<T> threshold, const T* p, int n) {
+__attribute__((noinline)) uint64_t firstBitsAbove(Vec<T> threshold, const T* p, int n) {
     return bitsOf<T>(threshold, [&](int at) {
         return n - at >= lanes<T> ? load(p + at) : n > at ? loadPart(p + at, n - at) : Vec<T>{};
     });
 }
+
+// Bits without the first n.
+uint64_t without(uint64_t bits, Len n) { return __builtin_bswap64(__builtin_bswap64(bits) << n); }
 
 // n bits of a byte from one of its bits on; the others stay.
 void putBits(uint8_t* byte, unsigned bits, int from, int n) {
@@ -48,19 +51,21 @@ StatusCode ownpi_GrayToBin(Image<const T> src, Image<uint8_t> dst, int offset, R
         return bad;
     return toNearestIf<std::is_floating_point_v<T>>([&] {  // where small numbers are what they are
         const Vec<T> level = fill(threshold);
+        const bool wide = roi.width >= block;  // a part of a block is read as one, with pixels before it or behind
         for (Len y = 0; y < roi.height; ++y) {
             const T* from = src.row(y);
             uint8_t* to = dst.row(y);
             Len left = roi.width;
             if (offset > 0) {
                 const int n = int(std::min<Len>(left, 8 - offset));
-                putBits(to++, uint8_t(firstBitsAbove(level, from, n)), offset, n);
+                putBits(to++, uint8_t(wide ? bitsAbove(level, from) : firstBitsAbove(level, from, n)), offset, n);
                 from += n, left -= n;
             }
             for (; left >= block; left -= block, from += block, to += 8)
                 put(reinterpret_cast<uint64_t*>(to), bitsAbove(level, from));
             if (left == 0) continue;
-            const uint64_t bits = firstBitsAbove(level, from, int(left));
+            const uint64_t bits = wide ? without(bitsAbove(level, from + left - block), block - left)
+                                       : firstBitsAbove(level, from, int(left));
             const Len whole = left / 8;
             if (whole > 0) storeFewBytes(to, Vec<uint64_t, 16>{bits, 0}, int(whole));
             if (left % 8) putBits(to + whole, uint8_t(bits >> 8 * whole), 0, int(left % 8));
@@ -73,7 +78,7 @@ StatusCode ownpi_GrayToBin(Image<const T> src, Image<uint8_t> dst, int offset, R
 uint64_t bitsAt(const uint8_t* p, int offset) {
     const uint64_t bytes = get(reinterpret_cast<const uint64_t*>(p));
     if (offset == 0) return bytes;
-    return __builtin_bswap64(__builtin_bswap64(bytes) << offset | p[8] >> (8 - offset));
+    return without(bytes, offset) | uint64_t(p[8] >> (8 - offset)) << 56;
 }
 uint64_t firstBitsAt(const uint8_t* p, int offset, int n) {
     uint8_t bytes[9] = {};
@@ -97,10 +102,14 @@ StatusCode ownpi_BinToGray(Image<const uint8_t> src, int offset, Image<T> dst, R
         Len left = roi.width;
         for (; left >= block; left -= block, from += 8, to += block)
             eachVector(bitsAt(from, offset), [&](int at, V v) { store(to + at, v); });
-        if (left > 0)
+        if (left > 0 && roi.width >= block) {  // once more what has been written, up to the end
+            const Len back = block - left, at = offset + 8 * block - back;
+            eachVector(bitsAt(from + at / 8 - block, int(at % 8)), [&](int x, V v) { store(to - back + x, v); });
+        } else if (left > 0) {
             eachVector(firstBitsAt(from, offset, int(left)), [&](int at, V v) {
                 if (at < left) storeUpTo(to + at, v, int(std::min<Len>(left - at, lanes<T>)));
             });
+        }
     }
     return STATUS_OK;
 }

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "filter/mean3x3.h"
-#include "filter/tree.h"
 #include "filter/windows.h"
 #include "kernels/rounding.h"
+#include "kernels/tree.h"
 
 namespace zmv {
 

@@ -139,15 +139,15 @@ class RowSums {
 template <class Reader>
 class WideRowSums {
   public:
-    using Sum = int64_t;
+    using Sum = decltype(std::declval<Reader>().one(0));
     WideRowSums(Reader reader, Len windowWidth, int channels) : reader_(reader), width_(windowWidth), n_(channels) {
         for (Len k = 0; k < (width_ - 1) * n_; ++k) running_[k % n_] += reader.one(k);
     }
-    __attribute__((noinline)) void next(int64_t* sums, int pixels) {
+    __attribute__((noinline)) void next(Sum* sums, int pixels) {
         const Reader reader = reader_;
         const Len n = n_, done = done_, reach = (width_ - 1) * n;
         for (Len c = 0; c < n; ++c) {
-            int64_t sum = running_[c];
+            Sum sum = running_[c];
             for (Len i = c; i < pixels * n; i += n) {
                 sums[i] = sum += reader.one(done + i + reach);
                 sum -= reader.one(done + i);
@@ -162,7 +162,7 @@ class WideRowSums {
     Len width_;
     int n_;
     Len done_ = 0;
-    int64_t running_[4] = {};
+    Sum running_[4] = {};
 };
 
 // The largest magnitude that `terms` elements of T can sum to.

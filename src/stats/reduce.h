@@ -198,32 +198,39 @@ struct ProductSums<int16_t> {
     }
     int64_t total() const { return int64_t(laneSum(sums)) - added * lanes<uint32_t> * int64_t(lift); }
 };
-// The halves of 64 bits apart.
+// Numbers of 64 bits are summed modulo 2^64, and their upper halves once more: that leaves the lower ones, which fit.
+struct HalvesSums {
+    Vec<uint64_t> all{}, upper{};
+    void add(Vec<uint64_t> v, Vec<uint64_t> upperOfIt) { all += v, upper += upperOfIt; }
+    uint64_t uppers() const { return laneSum(upper); }
+    uint64_t lowers() const { return laneSum(all) - (uppers() << 32); }
+};
 template <>
 struct ProductSums<uint32_t> {
     static constexpr Len mostVectors = 1 << 20;
-    Vec<uint64_t> low{}, high{};
+    HalvesSums products;
     void add(Factors<Vec<uint32_t>> v) {
-        for (const auto& p : {mulEven(v.a, v.b), mulEven(oddToEven(v.a), oddToEven(v.b))})
-            low += p & 0xffffffff, high += p >> 32;
+        const auto even = mulEven(v.a, v.b), odd = mulEven(oddToEven(v.a), oddToEven(v.b));
+        products.add(even, even >> 32), products.add(odd, odd >> 32);
     }
-    __int128 total() const { return (__int128(laneSum(high)) << 32) + laneSum(low); }
+    __int128 total() const { return (__int128(products.uppers()) << 32) + products.lowers(); }
 };
 // Counted from the smallest number on: a b = (a + 2^31) (b + 2^31) - 2^31 (a + b + 2^32) + 2^62.
 template <>
 struct ProductSums<int32_t> {
     static constexpr Len mostVectors = 1 << 20;
     ProductSums<uint32_t> products;
-    Vec<uint64_t> sums{};
+    HalvesSums numbers;
     int64_t added = 0;
     void add(Factors<Vec<int32_t>> v) {
         const auto a = (Vec<uint32_t>)v.a ^ 1u << 31, b = (Vec<uint32_t>)v.b ^ 1u << 31;
         products.add({a, b});
-        sums += pairSums(a) + pairSums(b);
+        for (const auto& x : {a, b}) numbers.add((Vec<uint64_t>)x, (Vec<uint64_t>)oddToEven(x));
         ++added;
     }
     __int128 total() const {
-        return products.total() - (__int128(laneSum(sums)) << 31) + (__int128(added * lanes<int32_t>) << 62);
+        return products.total() - (__int128(numbers.uppers() + numbers.lowers()) << 31) +
+               (__int128(added * lanes<int32_t>) << 62);
     }
 };
 template <class T>
