@@ -15,48 +15,90 @@ struct Ramp {
 };
 
 template <class T>
+class RampImage {
+    using B = Bits<T>;
+
+  public:
+    RampImage(Ramp ramp, Image<T> dst, Roi roi, Layout layout, bool pastCache)
+        : ramp_(ramp),
+          to_(bits(dst.data, dst.step)),
+          roi_(roi),
+          layout_(layout),
+          pastCache_(pastCache),
+          strip_(layout) {}
+
+    // Equal pixels along each row.
+    void down() {
+        const Pattern mask = Pattern::mask<B>(3, 4);
+        for (Len y = 0; y < roi_.height; ++y) {
+            const Len inStrip = y % strip_.most();
+            if (inStrip == 0) compute(y, std::min(strip_.most(), roi_.height - y));
+            const B value = values_[inStrip], pixel[] = {value, value, value, value};
+            const Pattern pixels(pixel, layout_);
+            if (layout_.alpha)
+                blendRow(to_.row(y), fromPattern(pixels), mask, rowBytes());
+            else
+                (pastCache_ ? streamFill : fill)(to_.row(y), pixels, rowBytes());
+        }
+    }
+    // The first row, copied; not by way of the caller's memory where rows overlap there.
+    void across() {
+        if (to_.step < rowBytes()) return tiles(0, roi_.height, 0);
+        tiles(0, 1, 0);
+        // Rows without a gap go several at a time, as long as they stay in the nearest cache.
+        constexpr Len nearby = 8192;
+        const bool joined = !layout_.alpha && gapless(to_, roi_.width, layout_.channels);
+        const Len most = joined ? std::max(Len(1), nearby / rowBytes()) : 1;
+        for (Len y = 1, n; y < roi_.height; y += n) {
+            n = std::min({y, roi_.height - y, most});
+            strip_.copy(to_.row(y), to_.row(0), n * roi_.width, pastCache_);
+        }
+    }
+    // Each row is the one above it, one pixel further.
+    void both() {
+        const Len most = strip_.most(), rows = std::max(most / 8, most - roi_.width + 1);
+        for (Len y = 0; y < roi_.height; y += rows) tiles(y, std::min(rows, roi_.height - y), 1);
+    }
+
+  private:
+    static void fill(void* row, const Pattern& pattern, Len bytes) { fillRow(row, pattern, bytes); }
+    Len rowBytes() const { return zmv::rowBytes<T>(roi_.width, layout_.used(), layout_.channels); }
+    void compute(Len first, Len n) {
+        pointwiseIn<double>(ramp_, image(reinterpret_cast<T*>(values_), 0), Roi(n, 1), C1, false,
+                            Columns<double>(first));
+    }
+    // n rows, each so many pixels further than the one above it, from one strip.
+    void tiles(Len y, Len n, Len further) {
+        const Len columns = strip_.most() - further * (n - 1);
+        for (Len x = 0; x < roi_.width; x += columns) {
+            const Len width = std::min(columns, roi_.width - x), pixels = width + further * (n - 1);
+            compute(x + further * y, pixels);
+            strip_.spread(values_, pixels);
+            for (Len k = 0; k < n; ++k)
+                strip_.write(to_.at(x * layout_.channels, y + k).data, further * k, width, pastCache_ && n > 1);
+        }
+    }
+
+    const Ramp ramp_;
+    const Image<B> to_;
+    const Roi roi_;
+    const Layout layout_;
+    const bool pastCache_;
+    Strip<B> strip_;
+    alignas(64) typename Strip<B>::Values values_;
+};
+
+template <class T>
 StatusCode ownpi_ImageRamp(Image<T> dst, Roi roi, Layout layout, double offset, double slope, int axis) {
     const bool known = axis == AXIS_HORIZONTAL || axis == AXIS_VERTICAL || axis == AXIS_BOTH;
     if (auto bad = firstOf({pointers(dst.data), size(roi), steps(dst.step), refuse(!known, STATUS_BAD_AXIS)}))
         return bad;
-    using B = Bits<T>;
-    const Ramp ramp{offset, slope};
-    const bool pastCache = regionPastCache(roi, layout, sizeof(T)), both = axis == AXIS_BOTH;
-    const Image<B> to = bits(dst.data, dst.step);
-    Strip<B> strip(layout);
-    alignas(64) typename Strip<B>::Values values;
-    const auto compute = [&](Len first, Len n) {
-        pointwiseIn<double>(ramp, image(reinterpret_cast<T*>(values), 0), Roi(n, 1), C1, false, Columns<double>(first));
-    };
-    if (axis == AXIS_VERTICAL) {
-        const Pattern mask = Pattern::mask<B>(3, 4);
-        const Len bytes = rowBytes<T>(roi.width, layout.used(), layout.channels);
-        for (Len y = 0; y < roi.height; ++y) {
-            const Len inStrip = y % strip.most();
-            if (inStrip == 0) compute(y, std::min(strip.most(), roi.height - y));
-            const B value = values[inStrip], pixel[] = {value, value, value, value};
-            const Pattern pixels(pixel, layout);
-            if (layout.alpha)
-                blendRow(to.row(y), fromPattern(pixels), mask, bytes);
-            else if (pastCache)
-                streamFill(to.row(y), pixels, bytes);
-            else
-                fillRow(to.row(y), pixels, bytes);
-        }
-    } else {
-        // A row is the one above it, where the axes are both one pixel further: rows of a tile come from one strip.
-        const Len rows = both ? std::min(roi.height, strip.most() / 2) : roi.height,
-                  columns = both ? strip.most() - rows + 1 : strip.most();
-        for (Len y = 0; y < roi.height; y += rows)
-            for (Len x = 0; x < roi.width; x += columns) {
-                const Len n = std::min(columns, roi.width - x), m = std::min(rows, roi.height - y),
-                          pixels = both ? n + m - 1 : n;
-                compute(both ? x + y : x, pixels);
-                strip.spread(values, pixels);
-                for (Len k = 0; k < m; ++k)
-                    strip.write(to.at(x * layout.channels, y + k).data, both ? k : 0, n, pastCache);
-            }
-    }
+    const bool pastCache = regionPastCache(roi, layout, sizeof(T));
+    RampImage<T> ramp({offset, slope}, dst, roi, layout, pastCache);
+    if (axis == AXIS_HORIZONTAL)
+        ramp.across();
+    else
+        axis == AXIS_VERTICAL ? ramp.down() : ramp.both();
     if (pastCache) fence();
     return STATUS_OK;
 }

@@ -26,8 +26,9 @@ struct Hamming {
 
 // The weights of a tile: one a column, times that of the row.
 struct Weights : ComputedRows {
-    static constexpr Len most = 1024;
-    alignas(64) float across[most + lanes<float>], down[most];
+    // Wide, since memory likes long rows; on the stack all the same.
+    static constexpr Len columns = 2048, rows = 1024;
+    alignas(64) float across[columns + lanes<float>], down[rows];
 
     struct Row {
         const float* across;
@@ -54,11 +55,11 @@ StatusCode ownpi_Win(Image<const T> src, Image<T> dst, Roi roi) {
     const bool pastCache = src.data != dst.data && regionPastCache(roi, C1, 2 * sizeof(T));
     Weights weights;
     const auto product = [](Vec<float> weight, Vec<float> pixel) { return weight * pixel; };
-    for (Len x = 0; x < roi.width; x += Weights::most) {
-        const Len n = std::min(Weights::most, roi.width - x);
+    for (Len x = 0; x < roi.width; x += Weights::columns) {
+        const Len n = std::min(Weights::columns, roi.width - x);
         Weights::compute<Shape>(weights.across, x, n, roi.width);
-        for (Len y = 0; y < roi.height; y += Weights::most) {
-            const Len m = std::min(Weights::most, roi.height - y);
+        for (Len y = 0; y < roi.height; y += Weights::rows) {
+            const Len m = std::min(Weights::rows, roi.height - y);
             Weights::compute<Shape>(weights.down, y, m, roi.height);
             pointwiseIn<float>(product, dst.at(x, y), Roi(n, m), C1, pastCache, weights, src.at(x, y));
         }

@@ -26,7 +26,10 @@ class Strip {
         }
     }
     void write(T* dst, Len first, Len n, bool pastCache) const {
-        const T* const from = pixels_ + first * layout_.channels;
+        copy(dst, pixels_ + first * layout_.channels, n, pastCache);
+    }
+    // The same from pixels that are in memory.
+    void copy(T* dst, const T* from, Len n, bool pastCache) const {
         const Len bytes = rowBytes<T>(n, layout_.used(), layout_.channels);
         if (layout_.alpha)
             blendRow(dst, fromRow(from), mask_, bytes);

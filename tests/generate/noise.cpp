@@ -24,14 +24,10 @@ Block4 philox(Block4 x, uint64_t key) {
     return x;
 }
 // The block of an element, and which of its words is the element's own.
-struct Place {
-    Block4 words;
-    int own;
-};
-Place placeOf(Case& c, int64_t x, int64_t y, int k, uint32_t kind) {
+std::pair<Block4, size_t> placeOf(Case& c, int64_t x, int64_t y, int k, uint32_t kind) {
     const int64_t e = (c.arg("roiOffset").a + x) * c.member.to.channels + k, block = e >> 2;
     const auto row = uint32_t(c.arg("roiOffset").b + y);
-    return {philox({uint32_t(block), uint32_t(block >> 32), row, kind}, uint64_t(c.arg("seed").a)), int(e & 3)};
+    return {philox({uint32_t(block), uint32_t(block >> 32), row, kind}, uint64_t(c.arg("seed").a)), size_t(e & 3)};
 }
 
 void bind(Case& c, const char* name, float value) { c.arg(name) = std::bit_cast<int32_t>(value); }
@@ -72,7 +68,7 @@ void addUniform(Case& c) {
     const auto unit = float((double(high) - low) * 0x1p-24);
     oneByOne(c, [&]<class T>(T pixel, int64_t x, int64_t y, int k) -> T {
         const auto [words, own] = placeOf(c, x, y, k, 0);
-        const float even = float(words[size_t(own)] >> 8) * unit + low, noise = even > high ? high : even;
+        const float even = float(words[own] >> 8) * unit + low, noise = even > high ? high : even;
         if constexpr (std::is_floating_point_v<T>)
             return nanOr<T>(pixel + noise, pixel);
         else
@@ -80,11 +76,10 @@ void addUniform(Case& c) {
     });
 }
 
-long double normal(const Place& place) {
-    const size_t first = size_t(place.own & 2);
-    const long double u1 = ((place.words[first] >> 8) + 1) * 0x1p-24L, u2 = (place.words[first + 1] >> 8) * 0x1p-24L;
+long double normal(const Block4& words, size_t own) {
+    const long double u1 = ((words[own & 2] >> 8) + 1) * 0x1p-24L, u2 = (words[own | 1] >> 8) * 0x1p-24L;
     const long double radius = sqrtl(-2 * logl(u1)), angle = 2 * std::numbers::pi_v<long double> * u2;
-    return radius * (place.own & 1 ? sinl(angle) : cosl(angle));
+    return radius * (own & 1 ? sinl(angle) : cosl(angle));
 }
 // Near the exact result: what z may be off, and three roundings.
 void addGauss(Case& c) {
@@ -94,7 +89,8 @@ void addGauss(Case& c) {
     oneByOne(c, [&]<class T>(T pixel, int64_t x, int64_t y, int k) -> T {
         if constexpr (std::is_floating_point_v<T>)
             if (!std::isfinite(pixel)) return nanOr<T>(pixel, pixel);
-        const long double z = normal(placeOf(c, x, y, k, 1)), noise = mean + z * stdDev, exact = pixel + noise;
+        const auto [words, own] = placeOf(c, x, y, k, 1);
+        const long double z = normal(words, own), noise = mean + z * stdDev, exact = pixel + noise;
         const long double half = 0x1p-24L, error = 1e-6L * (1 + fabsl(z)) * stdDev +
                                                    half * (fabsl(z * stdDev) + 2 * fabsl(noise) + fabsl(exact)) +
                                                    1e-44L;

@@ -9,7 +9,7 @@ using namespace test;
 
 // Sides of one, two and three pixels, and some beyond the strips.
 void arrangeWindow(Case& c) {
-    if (c.mode == Mode::usual && c.rng.oneIn(12)) c.width = c.rng.between(1010, 2200), c.height = c.rng.between(1, 3);
+    if (c.mode == Mode::usual && c.rng.oneIn(12)) c.width = c.rng.between(2030, 4300), c.height = c.rng.between(1, 3);
     if (c.mode == Mode::usual && c.rng.oneIn(12)) c.width = c.rng.between(1, 5), c.height = c.rng.between(1010, 2200);
     arrangeByRoles(c);
 }
