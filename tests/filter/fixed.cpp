@@ -47,29 +47,22 @@ const Line smooth[] = {{1, 2, 1}, {1, 4, 6, 4, 1}}, second[] = {{1, -2, 1}, {1, 
            later[] = {{-1, 0, 1}, {-1, -2, 0, 2, 1}}, earlier[] = {{1, 0, -1}, {1, 2, 0, -2, -1}},
            mean[] = {{1, 1, 1}, {1, 1, 1, 1, 1}}, laterEvenly[] = {{-1, 0, 1}, {-2, -1, 0, 1, 2}},
            earlierEvenly[] = {{1, 0, -1}, {2, 1, 0, -1, -2}}, scharr[] = {{3, 10, 3}, {}};
-const struct Known {
-    const char* family;
-    const Line *column, *row;
-} known[] = {
-    {"SobelHoriz", later, smooth},       {"SobelVert", smooth, earlier},       {"SobelSecondHoriz", second, smooth},
-    {"SobelSecondVert", smooth, second}, {"SobelSecondCross", later, earlier}, {"ScharrHoriz", later, scharr},
-    {"ScharrVert", scharr, earlier},     {"PrewittHoriz", laterEvenly, mean},  {"PrewittVert", mean, earlierEvenly}};
-const Known& knownAs(const std::string& family) {
-    for (const Known& k : known)
-        if (family == k.family) return k;
-    throw "no kernel of " + family;
-}
+const std::map<std::string, std::array<const Line*, 2>> known = {  // columns and rows
+    {"SobelHoriz", {later, smooth}},        {"SobelVert", {smooth, earlier}},
+    {"SobelSecondHoriz", {second, smooth}}, {"SobelSecondVert", {smooth, second}},
+    {"SobelSecondCross", {later, earlier}}, {"ScharrHoriz", {later, scharr}},
+    {"ScharrVert", {scharr, earlier}},      {"PrewittHoriz", {laterEvenly, mean}},
+    {"PrewittVert", {mean, earlierEvenly}}};
 
 // The kernel's sum at the middle of a window; at(dx, dy) is a pixel.
 template <class At>
 auto filtered(const std::string& family, int side, At at) {
     if (family == "RobertsHoriz") return difference(at(1, 1), at(0, 0));
     if (family == "RobertsVert") return difference(at(0, 1), at(1, 0));
-    const Known& k = knownAs(family);
-    const size_t which = side == 5;
-    const int reach = side / 2;
-    return weigh(k.row[which], [&](size_t i) {
-        return weigh(k.column[which], [&](size_t j) { return at(int(i) - reach, int(j) - reach); });
+    const auto [column, row] = known.at(family);
+    const int which = side == 5, reach = side / 2;
+    return weigh(row[which], [&, column = column](size_t i) {
+        return weigh(column[which], [&](size_t j) { return at(int(i) - reach, int(j) - reach); });
     });
 }
 
@@ -78,10 +71,7 @@ std::string familyOf(const Case& c) {
     return name.substr(0, name.find("Border"));
 }
 
-bool isDerivative(const Case& c) {
-    const std::string family = familyOf(c);
-    return family != "Laplace" && family != "Hipass" && family != "Sharpen";
-}
+bool isDerivative(const Case& c) { return known.contains(familyOf(c)) || familyOf(c).starts_with("Roberts"); }
 
 // Extremes that saturate, impulses, and floats with NaNs and infinities.
 void arrangeFixed(Case& c) {
