@@ -74,8 +74,7 @@ struct Gauss {
 // Computes the noise of a row, whole counters at a time, into a room that serves one row after the other.
 template <class Kind>
 struct Noise : ComputedRows {
-    static constexpr size_t vectors = 2;                                       // of counters at a time
-    static constexpr Len most = 1024, step = Len(vectors) * 2 * lanes<float>;  // elements of a row, and of a step
+    static constexpr Len most = 1024, step = 2 * lanes<float>;  // elements of a row, and of a vector of counters
 
     const Kind& kind;
     const Philox& random;
@@ -96,16 +95,18 @@ struct Noise : ComputedRows {
             end = block < 0 ? std::min(phase + n, done - 4 * block) : phase + n;
             const auto upper = uint32_t(block >> 32);
             auto counters = countersFrom(uint64_t(block));
-            for (Len i = done; i < end; i += step, counters += uint64_t(step) / 4) {
-                std::array<Vec<uint64_t>, vectors> next;
-                for (size_t k = 0; k < vectors; ++k) next[k] = counters + k * lanes<uint64_t>;
-                const auto words = random(next, upper, row, Kind::kind);
-                for (size_t k = 0; k < vectors; ++k) {
-                    const Pair noise = kind(words[k]);
-                    store(room + i + Len(2 * k) * lanes<float>, noise.first);
-                    store(room + i + Len(2 * k + 1) * lanes<float>, noise.second);
+            const auto compute = [&]<size_t n>(float* to, std::array<Vec<uint64_t>, n> next) {
+                for (auto& vector : next) vector = counters, counters += lanes<uint64_t>;
+                for (const Words& words : random(next, upper, row, Kind::kind)) {
+                    const Pair noise = kind(words);
+                    store(to, noise.first);
+                    store(to + lanes<float>, noise.second);
+                    to += step;
                 }
-            }
+            };
+            Len i = done;
+            for (; end - i > step; i += 2 * step) compute(room + i, std::array<Vec<uint64_t>, 2>{});
+            if (i < end) compute(room + i, std::array<Vec<uint64_t>, 1>{});
         }
         return {room + phase};
     }
@@ -117,7 +118,7 @@ StatusCode ownpi_AddNoise(Image<const T> src, Image<T> dst, Roi roi, Layout layo
     if (auto bad = firstOf({pointers(src.data, dst.data), size(roi), steps(src.step, dst.step), kind.check()}))
         return bad;
     const Philox random(seed);
-    alignas(64) float room[Noise<Kind>::most + 2 * Noise<Kind>::step];
+    alignas(64) float room[Noise<Kind>::most + 4 * Noise<Kind>::step];  // what makes a vector of bytes reads four
     const Len columns = Noise<Kind>::most / layout.channels;
     const auto sum = [](F pixel, F noise) { return addInOrder(pixel, noise); };
     for (Len x = 0; x < roi.width; x += columns) {

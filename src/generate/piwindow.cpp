@@ -26,9 +26,9 @@ struct Hamming {
 
 // The weights of a tile: one a column, times that of the row.
 struct Weights : ComputedRows {
-    // Wide, since memory likes long rows; on the stack all the same.
+    // Wide, since memory likes long rows; on the stack all the same.  What makes a vector of bytes may read four.
     static constexpr Len columns = 2048, rows = 1024;
-    alignas(64) float across[columns + lanes<float>], down[rows];
+    alignas(64) float across[columns + 4 * lanes<float>], down[rows];
 
     struct Row {
         const float* across;
