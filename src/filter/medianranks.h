@@ -31,6 +31,17 @@ struct RanksMemory {
     }
 };
 
+// Of a word.  Builds whose processors have no instruction for it would have the compiler call a function of its own.
+inline int bitCount(uint64_t word) {
+#if defined(__POPCNT__)
+    return std::popcount(word);
+#else
+    const auto pairs = word - (word >> 1 & 0x5555555555555555);
+    const auto nibbles = (pairs & 0x3333333333333333) + (pairs >> 2 & 0x3333333333333333);
+    return int(((nibbles + (nibbles >> 4)) & 0x0f0f0f0f0f0f0f0f) * 0x0101010101010101 >> 56);
+#endif
+}
+
 // The places of the elements that are in the window.
 class RankSet {
   public:
@@ -45,8 +56,8 @@ class RankSet {
     }
     // Number k of them.
     uint32_t ofRank(Len k) {
-        while (before_ > k) before_ -= std::popcount(words_[--at_]);
-        for (int here; before_ + (here = std::popcount(words_[at_])) <= k; ++at_) before_ += here;
+        while (before_ > k) before_ -= bitCount(words_[--at_]);
+        for (int here; before_ + (here = bitCount(words_[at_])) <= k; ++at_) before_ += here;
         uint64_t word = words_[at_];
         for (Len i = before_; i < k; ++i) word &= word - 1;
         return at_ * 64 + uint32_t(std::countr_zero(word));
