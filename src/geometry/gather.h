@@ -56,7 +56,13 @@ struct Gather {
         for (Len x = from; x < to; ++x)
             most = std::max(most, axis.first(std::min(x + pixelsBehind(), to - 1)) - axis.first(x));
         const Len span = (most + q) * pixelBytes();
-        return span <= 16 ? Reading::oneWindow : span <= 32 ? Reading::twoWindows : Reading::elements;
+        // Of 8-byte elements a lane has but two: two windows cost more than they do.
+        return span <= 16 ? Reading::oneWindow : span <= 32 && perLane > 2 ? Reading::twoWindows : Reading::elements;
+    }
+    // Whether lanes are loaded as windows wherever pixels n apart are no further apart than the axis says.
+    template <class Axis>
+    bool fitsWindows(const Axis& axis) const {
+        return hasByteShuffle && (axis.mostApart(pixelsBehind()) + q) * pixelBytes() <= 32;
     }
     // Bytes read from a pixel's first tap on.
     Len bytesRead(Reading reading) const {
@@ -180,21 +186,27 @@ struct Gather {
     }
 
   private:
-    template <Reading reading>
-    ZMV_INLINE U element(const uint8_t* base, Len offset, Len g) const {
+    template <class Tap>
+    ZMV_INLINE static U tapsOf(Tap tap) {
         U taps = 0;
-        const auto tap = [&](int k) __attribute__((always_inline)) {
-            if constexpr (reading == Reading::mapped) {
-                const Len column = columns.at((offset >> 2) + g * q + k);
-                return get(reinterpret_cast<const Bits<T>*>(base - g * q * pixelBytes() + column * pixelBytes()) +
-                           (offset & 3));
-            } else {
-                return get(reinterpret_cast<const Bits<T>*>(base + offset + k * pixelBytes()));
-            }
-        };
-        if (reading == Reading::elements && n == 1) return get(reinterpret_cast<const U*>(base + offset));
         for (int k = 0; k < q; ++k) taps |= U(U(tap(k)) << (8 * int(sizeof(T)) * k % (8 * int(sizeof(U)))));
         return taps;
+    }
+    template <Reading reading>
+    ZMV_INLINE U element(const uint8_t* base, Len offset, Len g) const {
+        if constexpr (reading == Reading::mapped) return mappedElement(base, offset, g);
+        if (n == 1) return get(reinterpret_cast<const U*>(base + offset));
+        return tapsOf([&](int k) __attribute__((always_inline)) {
+            return get(reinterpret_cast<const Bits<T>*>(base + offset + k * pixelBytes()));
+        });
+    }
+    // Seldom, and long: a call of its own.
+    __attribute__((noinline)) U mappedElement(const uint8_t* base, Len offset, Len g) const {
+        return tapsOf([&](int k) __attribute__((always_inline)) {
+            const Len column = columns.at((offset >> 2) + g * q + k);
+            return get(reinterpret_cast<const Bits<T>*>(base - g * q * pixelBytes() + column * pixelBytes()) +
+                       (offset & 3));
+        });
     }
 };
 

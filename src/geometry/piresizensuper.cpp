@@ -262,6 +262,8 @@ void ownpi_ResizeSuperTile(const ResizeTile& tile, Image<const T> src, Image<T> 
     const Len area = columns.whole() * rows.whole();
     toNearestIf<std::is_integral_v<T>>([&] {
         if constexpr (sizeof(T) == 1)
+            if (hasSmallAreas(tile)) return ownpi_ResizeSmallAreas(tile, src, dst);
+        if constexpr (sizeof(T) == 1)
             if (AreaTile<T, uint16_t>::fits(columns, rows))
                 return apart([&] { AreaTile<T, uint16_t>(tile, whole, dst).run(); });
         if constexpr (std::is_integral_v<T>)

@@ -20,6 +20,9 @@ template <class T>
 void ownpi_ResizeNearestTile(const ResizeTile& tile, Image<const T> src, Image<T> dst);
 template <class T>
 void ownpi_ResizeSuperTile(const ResizeTile& tile, Image<const T> src, Image<T> dst);
+// Areas of bytes that are small enough for 16 bits have a driver of their own.
+bool hasSmallAreas(const ResizeTile& tile);
+void ownpi_ResizeSmallAreas(const ResizeTile& tile, Image<const uint8_t> src, Image<uint8_t> dst);
 template <class T>
 void ownpi_ResizeTile(const ResizeTile& tile, Image<const T> src, Image<T> dst);
 

@@ -146,7 +146,11 @@ struct AxisTables {
 // Super-sampling: destination pixel i covers the source from i * s to (i + 1) * s in units of 1 / d, both reduced.
 class SuperAxis {
   public:
-    explicit SuperAxis(const ResizeHeader::Axis& axis) : s_(axis.srcReduced), d_(axis.dstReduced) {}
+    explicit SuperAxis(const ResizeHeader::Axis& axis) : src(axis.src), s_(axis.srcReduced), d_(axis.dstReduced) {
+        shape = {Taps::counted, int32_t(most()), int32_t(fewest()), 0, 0};
+    }
+    Len src;
+    AxisShape shape;
     Len first(Len i) const { return i * s_ / d_; }
     Len end(Len i) const { return ((i + 1) * s_ + d_ - 1) / d_; }
     Len count(Len i) const { return end(i) - first(i); }
@@ -154,6 +158,8 @@ class SuperAxis {
     Len fewest() const { return (s_ + d_ - 1) / d_; }
     // How much of pixel j lies in the area of pixel i.
     Len overlap(Len i, Len j) const { return std::min((i + 1) * s_, (j + 1) * d_) - std::max(i * s_, j * d_); }
+    // How far apart the areas of pixels begin that are n apart, at most.
+    Len mostApart(Len n) const { return (n * s_ + d_ - 1) / d_; }
     Len whole() const { return s_; }  // of an area
     Len parts() const { return d_; }  // of a pixel
 

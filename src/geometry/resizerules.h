@@ -5,7 +5,8 @@
 // the taps, p counting the vectors of U that a vector of A takes.  down() gives what makes a vector of results from
 // element x on of the rows at rowAt, for which setRow() has chosen weights; behind the last row there is one more.
 // Both come with a count, a constant where it is one of ColumnCounts or RowCounts, that columnCount() and rowCount()
-// have chosen; 0 stands for whatever the rule makes of it.
+// have chosen; 0 stands for whatever the rule makes of it.  Where rows are made by twos, TwiceCounts are the counts of
+// rows whose weights registers hold twice.
 #pragma once
 
 #include <array>
@@ -19,6 +20,7 @@ namespace zmv {
 // Numbers that are worth a loop of their own; the last one stands for all others.
 template <int first, int... more>
 struct Counts {
+    static bool has(Len n) { return n == first || (... || (n == more)); }
     template <class F>
     static void with(Len n, F f) {
         if constexpr (sizeof...(more) > 0)
@@ -27,7 +29,7 @@ struct Counts {
     }
 };
 
-// Bytes between two pixels: rows are filtered in 1/128, with the half of the last rounding in them.
+// Bytes between two pixels: rows are filtered in 1/128.
 struct BytesLinear {
     using T = uint8_t;
     using U = uint16_t;
@@ -35,6 +37,7 @@ struct BytesLinear {
     using Weight = int16_t;
     using ColumnCounts = Counts<1>;
     using RowCounts = Counts<1, 2>;
+    using TwiceCounts = Counts<1, 2>;
     const ResizeAxis<float> columns, rows;
     int16_t rowFactor = 0;
 
@@ -54,12 +57,18 @@ struct BytesLinear {
     }
     // Within 16 bits, but for what stands in lanes that nobody asked for.
     static ZMV_INLINE Vec<A> mix(Vec<A> a, Vec<A> b) { return (Vec<A>)((Vec<U>)a + (Vec<U>)b); }
+    static ZMV_INLINE Vec<A> rounded(Vec<A> a) {  // (a + 64) / 128
+        if constexpr (hasByteShuffle)             // and with it the product
+            return mulRoundedSigned(a, fill<A>(256));
+        else
+            return mix(a, fill<A>(64)) >> 7;
+    }
     template <class At, class Count>
     ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len step, Count) const {
         const auto taps = (Vec<uint8_t>)at(Len(0), 0);
         const auto differences = bytePairProducts(taps, (Vec<int8_t>)fill<int16_t>(int16_t((64 << 8) - 64 + 256)));
         const auto nearer = bytePairProducts(taps, (Vec<int8_t>)load(weights + step));
-        return mix(mix(mix(nearer, nearer), fill<A>(64)), mulRoundedSigned(differences, load(weights)));
+        return mix(mix(nearer, nearer), mulRoundedSigned(differences, load(weights)));
     }
     void setRow(Len y) { rowFactor = int16_t(2 * fraction(rows, y)); }
     template <class Count>
@@ -68,9 +77,9 @@ struct BytesLinear {
             __attribute__((always_inline)) {
             const auto mixed = [&](Len i) __attribute__((always_inline)) {
                 const auto a = load(first + i);
-                if constexpr (Count::value != 2) return a >> 7;
+                if constexpr (Count::value != 2) return rounded(a);
                 const auto apart = (Vec<A>)((Vec<U>)load(second + i) - (Vec<U>)a);
-                return mix(a, mulRoundedSigned(apart, factor)) >> 7;
+                return rounded(mix(a, mulRoundedSigned(apart, factor)));
             };
             return joined<T>(std::array{mixed(x), mixed(x + lanes<A>)});
         };
@@ -85,6 +94,7 @@ struct BytesWeighted {
     using Weight = uint32_t;  // of two taps
     using ColumnCounts = Counts<1, 2, 3, 0>;
     using RowCounts = Counts<1, 2, 3, 4, 5, 0>;
+    using TwiceCounts = Counts<2>;
     const ResizeAxis<float> columns, rows;
     Weight rowWeights[mostWholeWeights / 2] = {};
 
@@ -182,27 +192,58 @@ struct Real {
             return toFloat(asSigned(taps << (above - k * bits) >> above));
     }
     // ((w0 * p0 + w1 * p1) + w2 * p2) + ..: of NaNs the earliest tap's goes on.
-    ZMV_INLINE static V product(V p, V weight) { return mulInOrder(p, weight); }
-    ZMV_INLINE static V between(V a, V b, V f) { return addInOrder(a, mulInOrder(b - a, f)); }
+    ZMV_INLINE static V sum(V a, V b) {
+        if constexpr (std::is_integral_v<T>)
+            return a + b;
+        else
+            return addInOrder(a, b);
+    }
+    ZMV_INLINE static V product(V p, V weight) {
+        if constexpr (std::is_integral_v<T>)
+            return p * weight;
+        else
+            return mulInOrder(p, weight);
+    }
+    ZMV_INLINE static V between(V a, V b, V f) { return sum(a, product(b - a, f)); }
+    // Tap 4 * block + k, k being a constant below 4.
+    template <class At, class K>
+    ZMV_INLINE static V tapAt(At at, Len block, K k) {
+        if constexpr (q == 1)
+            return tap(at(4 * block + k, 0), 0);
+        else
+            return tap(at(4 / q * block + k / q, 0), k % q);
+    }
     template <class At, class Count>
     ZMV_INLINE V along(At at, const Weight* weights, Len step, Count) const {
-        Vec<U> taps = at(Len(0), 0);
+        constexpr std::integral_constant<int, 0> first{};
+        constexpr std::integral_constant<int, 1> second{};
         const Taps kind = columns.shape.kind;
-        if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return tap(taps, 0);
+        if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return tapAt(at, 0, first);
         if (Count::value == 2 || (Count::value == 0 && kind == Taps::two))
-            return between(tap(taps, 0), q == 1 ? tap(at(Len(1), 0), 0) : tap(taps, 1), load(weights));
+            return between(tapAt(at, 0, first), tapAt(at, 0, second), load(weights));
         const bool counted = Count::value == 0 && kind == Taps::counted;
         const auto counts = counted ? (Vec<U>)load(weights) : Vec<U>{};
         if (counted) weights += step;
         const Len most = Count::value ? Count::value : columns.shape.most,
                   fewest = counted ? Len(columns.shape.fewest) : most;
-        V sum = product(tap(taps, 0), load(weights));
-        for (Len k = 1; k < most; ++k) {
-            if (k % q == 0) taps = at(k / q, 0);
-            const V next = addInOrder(sum, product(tap(taps, int(k % q)), load(weights + k * step)));
-            sum = k >= fewest ? (V)select((Vec<U>)(counts > U(k)), (Vec<U>)next, (Vec<U>)sum) : next;
-        }
-        return sum;
+        V total = product(tapAt(at, 0, first), load(weights));
+        const auto added = [&](Len block, auto k) __attribute__((always_inline)) {
+            return sum(total, product(tapAt(at, block, k), load(weights + (4 * block + k) * step)));
+        };
+        const auto rest = [&](Len block) __attribute__((always_inline)) {
+            unrolled<4>([&](auto k) __attribute__((always_inline)) {
+                const Len i = 4 * block + k;
+                if (i == 0 || i >= most) return;
+                const V next = added(block, k);
+                total = i >= fewest ? (V)select((Vec<U>)(counts > U(i)), (Vec<U>)next, (Vec<U>)total) : next;
+            });
+        };
+        rest(0);
+        Len block = 1;
+        for (; 4 * block + 4 <= fewest; ++block)  // that all have
+            unrolled<4>([&](auto k) __attribute__((always_inline)) { total = added(block, k); });
+        for (; 4 * block < most; ++block) rest(block);
+        return total;
     }
     void setRow(Len y) { rowWeights = rows.group(y), rowTaps = rows.count(y); }
     template <class Count>
@@ -222,11 +263,11 @@ struct Real {
                 if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return top;
                 if constexpr (Count::value == 2) return between(top, load(first[known - 1] + i), w[0]);
                 if (Count::value == 0 && kind == Taps::two) return between(top, load(rowAt[1] + i), w[0]);
-                V sum = product(top, w[0]);
-                for (size_t k = 1; k < known; ++k) sum = addInOrder(sum, product(load(first[k] + i), w[k]));
+                V total = product(top, w[0]);
+                for (size_t k = 1; k < known; ++k) total = sum(total, product(load(first[k] + i), w[k]));
                 if constexpr (Count::value == 0)
-                    for (Len k = 1; k < taps; ++k) sum = addInOrder(sum, product(load(rowAt[k] + i), fill(weights[k])));
-                return sum;
+                    for (Len k = 1; k < taps; ++k) total = sum(total, product(load(rowAt[k] + i), fill(weights[k])));
+                return total;
             };
             std::array<V, sizeof(R) / sizeof(T)> all;
             unrolled<int(sizeof(R) / sizeof(T))>([&](auto i) __attribute__((always_inline)) {

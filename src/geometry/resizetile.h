@@ -91,28 +91,47 @@ class TileFilter {
                 std::memset(copies_[copy], 0, size_t(bytes));
             }
 
-        Len filtered = INT64_MIN;  // rows before this one have been
-        const Len bottom = tile_.offset.y + tile_.size.height;
+        Len filtered = INT64_MIN, free = 0;  // rows before this one have been; where it goes
+        const Len most = rows_.shape.most, bottom = tile_.offset.y + tile_.size.height;
         for (Len y = tile_.offset.y; y < bottom; ++y) {
             const Len first = rows_.first(y), end = rows_.end(y);
-            for (filtered = std::max(filtered, first); filtered < end; ++filtered)
-                filterRow(src_.row(readableRows_.at(filtered)), slot(filtered));
-            const A *at = slot(first), *const behind = ring_ + rows_.shape.most * stride_;
-            for (Len k = 0; k < end - first; ++k, at = at + stride_ < behind ? at + stride_ : ring_) rowAt[k] = at;
-            for (Len k = end - first; k <= rows_.shape.most; ++k) rowAt[k] = rowAt[0];
+            for (filtered = std::max(filtered, first); filtered < end;
+                 ++filtered, free = free + 1 < most ? free + 1 : 0)
+                filterRow(src_.row(readableRows_.at(filtered)), ring_ + free * stride_);
+            Len slot = free - (filtered - first);
+            if (slot < 0) slot += most;
+            for (Len k = 0; k < end - first; ++k, slot = slot + 1 < most ? slot + 1 : 0)
+                rowAt[k] = ring_ + slot * stride_;
+            for (Len k = end - first; k <= most; ++k) rowAt[k] = rowAt[0];
             rule_.setRow(y);
             T* const to = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
-            Rule::RowCounts::with(rule_.rowCount(), [&](auto count) {
-                const auto results = rule_.down(rowAt, count);
-                Len e = 0;
-                for (; e + lanes<T> <= elements; e += lanes<T>) store(to + e, results(e));
-                if (e < elements) storePart(to + e, results(e), int(elements - e));
-            });
+            // Rows of an enlargement may take the same rows again.
+            if constexpr (requires { typename Rule::TwiceCounts; })
+                if (y + 1 < bottom && Rule::TwiceCounts::has(rule_.rowCount()) && rows_.first(y + 1) == first &&
+                    rows_.end(y + 1) == end) {
+                    Rule next = rule_;
+                    next.setRow(++y);
+                    T* const second = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
+                    Rule::TwiceCounts::with(rule_.rowCount(), [&](auto count) {
+                        write(elements, std::array{to, second}, rule_.down(rowAt, count), next.down(rowAt, count));
+                    });
+                    continue;
+                }
+            Rule::RowCounts::with(rule_.rowCount(),
+                                  [&](auto count) { write(elements, std::array{to}, rule_.down(rowAt, count)); });
         }
     }
-    A* slot(Len row) const {
-        const Len rows = rows_.shape.most, k = row % rows;
-        return ring_ + (k < 0 ? k + rows : k) * stride_;
+    // Rows of results, vector by vector.
+    template <size_t n, class... Results>
+    static void write(Len elements, std::array<T*, n> to, Results... results) {
+        Len e = 0;
+        for (; e + lanes<T> <= elements; e += lanes<T>) {
+            const std::array values{results(e)...};
+            for (size_t i = 0; i < n; ++i) store(to[i] + e, values[i]);
+        }
+        if (e == elements) return;
+        const std::array values{results(e)...};
+        for (size_t i = 0; i < n; ++i) storePart(to[i] + e, values[i], int(elements - e));
     }
     void form(Part& part, const Run& run, Scratch& scratch) {
         part.run = run;
@@ -120,12 +139,13 @@ class TileFilter {
         const Len elements = (run.to - run.from) * n_, vectors = (elements + lanes<A> - 1) / lanes<A>;
         part.step = std::min<Len>(elements, lanes<A>);
         part.weights = scratch.take<Weight, 64>(vectors * part.step * rule_.weightRows());
-        Len x = run.from, c = 0;
-        for (Len e = 0; e < vectors * part.step; ++e) {
-            const Len block = e / part.step, lane = e % part.step;
-            rule_.putWeights(x, part.weights + block * part.step * rule_.weightRows() + lane, part.step);
-            if (e + 1 < elements && ++c == n_) c = 0, ++x;
-        }
+        Len x = run.from, c = 0, e = 0;
+        Weight* to = part.weights;
+        for (Len v = 0; v < vectors; ++v, to += part.step * rule_.weightRows())
+            for (Len lane = 0; lane < part.step; ++lane) {
+                rule_.putWeights(x, to + lane, part.step);
+                if (++e < elements && ++c == n_) c = 0, ++x;
+            }
     }
 
     void filterRow(const T* row, A* to) const {
@@ -157,22 +177,26 @@ class TileFilter {
         // Taps looked up one by one are few: one loop will do.
         using Known = std::conditional_t<reading == Reading::mapped, Counts<0>, typename Rule::ColumnCounts>;
         Known::with(rule_.columnCount(), [&](auto count) {
-            const auto rule = rule_;  // not where stores might reach them
+            // Copies of all that the loop reads: where stores cannot reach them.
+            const auto rule = rule_;
             const auto gather = gather_;
             const auto run = part.run;
+            const auto from = base;
+            const Len apart = step, further = next, all = elements;
             const Weight* weights = part.weights;
-            Len v = 0, e = 0;
-            const auto sums = [&]() __attribute__((always_inline)) {
-                const auto at = [&](Len g, int p) __attribute__((always_inline)) {
-                    return gather.template at<reading>(run, base, v * vectorsOfTaps + p, g);
-                };
-                return rule.along(at, weights, step, count);
-            };
             A* const to = row + begin;
-            const Len whole =
-                std::min(elements, stride_ - begin - lanes<A> + 1);  // vectors that may end behind the run
-            for (; e < whole; ++v, e += lanes<A>, weights += next) store(to + e, sums());
-            if (e < elements) storePart(to + e, sums(), int(elements - e));
+            Len v = 0, e = 0;
+            const auto sums = [&](int ahead) __attribute__((always_inline)) {
+                const auto at = [&](Len g, int p) __attribute__((always_inline)) {
+                    return gather.template at<reading>(run, from, (v + ahead) * vectorsOfTaps + p, g);
+                };
+                return rule.along(at, weights + ahead * further, apart, count);
+            };
+            const Len whole = std::min(all, stride_ - begin - lanes<A> + 1);  // vectors that may end behind the run
+            for (; e + lanes<A> < whole; v += 2, e += 2 * lanes<A>, weights += 2 * further)
+                store(to + e, sums(0)), store(to + e + lanes<A>, sums(1));
+            for (; e < whole; ++v, e += lanes<A>, weights += further) store(to + e, sums(0));
+            if (e < all) storePart(to + e, sums(0), int(all - e));
         });
     }
 
