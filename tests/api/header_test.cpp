@@ -75,7 +75,8 @@ TEST_F(Header, IndexWidthAgrees) {
         const bool large = Name(f.name).large;
         for (const Parameter& p : f.parameters) {
             if (isStep(p)) {
-                EXPECT_EQ(p.type, large ? "int64_t" : "int") << f.name << ' ' << p.name;
+                EXPECT_EQ(p.type, std::string(p.type.find("const ") == 0 ? "const " : "") + (large ? "int64_t" : "int"))
+                    << f.name << ' ' << p.name;
             }
             for (const std::string pair : {"ImageSize", "ImagePoint", "ImageRect"})
                 EXPECT_NE(p.type, large ? pair : pair + "L") << f.name << ' ' << p.name;
