@@ -4456,6 +4456,102 @@ ZMV_API StatusCode zmviGetRotateBound_L(ImageRectL srcRoi, double bound[2][2], d
 ZMV_API StatusCode zmviGetAffineSrcRoi(ImageSize srcSize, const double coeffs[2][3], ImageRect dstRoi, ImageRect* srcRoi);
 ZMV_API StatusCode zmviGetAffineSrcRoi_L(ImageSizeL srcSize, const double coeffs[2][3], ImageRectL dstRoi, ImageRectL* srcRoi);
 
+/* zmviGetPerspectiveTransform: The perspective map that takes the corners of srcRoi to those of a quadrangle, any that
+   is convex.
+   To straighten a page, take the upright rectangle and the page's corners in the photograph, and warp with
+   WARP_BACKWARD; to hang a picture into a frame, the picture's rectangle and the frame's corners, and warp with
+   WARP_FORWARD.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_QUAD: a corner is not finite, or the corners do not all turn
+   the same way.  STATUS_BAD_RECT: width or height below 2.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveTransform(ImageRect srcRoi, const double quad[4][2], double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveTransform_L(ImageRectL srcRoi, const double quad[4][2], double coeffs[3][3]);
+
+/* zmviGetPerspectiveQuad: The quadrangle that a perspective map makes of srcRoi.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way, or srcRoi reaches over the line that goes to infinity; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveQuad(ImageRect srcRoi, double quad[4][2], const double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveQuad_L(ImageRectL srcRoi, double quad[4][2], const double coeffs[3][3]);
+
+/* zmviGetPerspectiveBound: The smallest upright rectangle round the quadrangle of zmviGetPerspectiveQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].  A corner that is NaN makes its axis NaN.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   bound and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: bound or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way, or srcRoi reaches over the line that goes to infinity; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveBound(ImageRect srcRoi, double bound[2][2], const double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[3][3]);
+
+/* zmviGetPerspectiveSrcRoi: The smallest rectangle of source pixels that holds what a perspective map takes to pixel
+   centres of dstRoi; the
+   whole source where dstRoi reaches over the line that comes from infinity.
+   It is what warping dstRoi reads for nearest and linear values; wider kernels add their radius.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or srcRoi is null.  STATUS_BAD_SIZE: width or height of srcSize
+   below 1, then width or height of dstRoi below 1.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant
+   is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: dstRoi comes from nowhere in the source; nothing is written.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveSrcRoi(ImageSize srcSize, const double coeffs[3][3], ImageRect dstRoi, ImageRect* srcRoi);
+ZMV_API StatusCode zmviGetPerspectiveSrcRoi_L(ImageSizeL srcSize, const double coeffs[3][3], ImageRectL dstRoi, ImageRectL* srcRoi);
+
+/* zmviGetBilinearTransform: The bilinear map that takes the corners of srcRoi to those of a quadrangle, any that is
+   convex, and its edges
+   evenly to the edges.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_QUAD: a corner is not finite, or the corners do not all turn
+   the same way.  STATUS_BAD_RECT: width or height below 2.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearTransform(ImageRect srcRoi, const double quad[4][2], double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearTransform_L(ImageRectL srcRoi, const double quad[4][2], double coeffs[2][4]);
+
+/* zmviGetBilinearQuad: The quadrangle that a bilinear map makes of srcRoi.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearQuad(ImageRect srcRoi, double quad[4][2], const double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearQuad_L(ImageRectL srcRoi, double quad[4][2], const double coeffs[2][4]);
+
+/* zmviGetBilinearBound: The smallest upright rectangle round the quadrangle of zmviGetBilinearQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].  A corner that is NaN makes its axis NaN.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   bound and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: bound or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearBound(ImageRect srcRoi, double bound[2][2], const double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[2][4]);
+
 /* zmviRemap: dst(i, j) = src(pxMap(i, j), pyMap(i, j)): two maps say where pixels come from.
    Maps hold floats, double for 64f, of the size of dst; coordinates count from the origin of the whole image of
    srcSize.  srcRoi is the part of it that is looked at: pixels beyond it count as the nearest one in it, and points
