@@ -36,6 +36,7 @@ struct AffineWarp {
         const AffineMap back = h.forward ? map.inverse() : map;
         const double all[] = {back.xx, back.xy, back.x0, back.yx, back.yy, back.y0};
         std::memcpy(h.map, all, sizeof all), h.exact = true;
+        h.moves = back.xx == 1 && back.yx == 0;
         return d != 0 && isFinite(d) && back.finite();
     }
 

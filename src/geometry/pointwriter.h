@@ -9,15 +9,15 @@ namespace zmv {
 // Destinations are worked in tiles, so that the rows of the source under one stay near whichever way the points turn:
 // piece(y, x, end) for the pixels x .. end - 1 of row y.
 template <class Piece>
-ZMV_INLINE void eachTileRow(Roi roi, Len width, const Piece& piece) {
-    constexpr Len height = 16;
-    for (Len top = 0; top < roi.height; top += height)
-        for (Len left = 0; left < roi.width; left += width)
-            for (Len y = top; y < std::min(top + height, roi.height); ++y)
-                piece(y, left, std::min(left + width, roi.width));
+ZMV_INLINE void eachTileRow(Roi roi, Roi tile, const Piece& piece) {
+    for (Len top = 0; top < roi.height; top += tile.height)
+        for (Len left = 0; left < roi.width; left += tile.width)
+            for (Len y = top; y < std::min(top + tile.height, roi.height); ++y)
+                piece(y, left, std::min(left + tile.width, roi.width));
 }
 
-template <Layout layout, class T>
+// between: whether values lie where T has numbers, but for their fractions.
+template <Layout layout, class T, bool between>
 class PointWriter {
     using W = Formed<T>;
     using V = Vec<W>;
@@ -53,6 +53,17 @@ class PointWriter {
         }
     }
 
+    // Of `parts` vectors of values.
+    static ZMV_INLINE Vec<T> rounded(const std::array<V, parts>& values) {
+        if constexpr (between && std::is_integral_v<T>) {
+            std::array<Vec<int32_t>, parts> whole;
+            for (size_t i = 0; i < parts; ++i) whole[i] = roundToInt(values[i]);
+            return joined<T>(whole);
+        } else {
+            return joined<T>(values);
+        }
+    }
+
   private:
     template <class Values>
     static ZMV_INLINE void block(int first, T* dst, int count, const Bits<W>* chosen, const Values& values) {
@@ -70,7 +81,7 @@ class PointWriter {
         });
         const auto pixels = [&] {
             Block<Vec<Bits<T>>, n> planes;
-            for (size_t c = 0; c < n; ++c) planes[c] = (Vec<Bits<T>>)joined<T>(all[c]);
+            for (size_t c = 0; c < n; ++c) planes[c] = (Vec<Bits<T>>)rounded(all[c]);
             return pixelsOf(planes);
         };
         if (chosen)

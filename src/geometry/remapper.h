@@ -15,6 +15,7 @@ class MapSampler : public Sampler<Kernel, T, n> {
     using V = typename Base::V;
     using Places = zmv::Places<W>;
     static constexpr int taps = Kernel::taps, pixel = n * int(sizeof(T));
+    static constexpr int across = taps + Base::readsBehind;  // pixels of a row that are read
 
   public:
     using Mask = Vec<Bits<W>>;
@@ -23,10 +24,10 @@ class MapSampler : public Sampler<Kernel, T, n> {
     explicit MapSampler(const Readable<T>& from)
         : Base(Kernel{}),
           from_(from),
-          roomy_(from.right - from.left >= taps - 1 && from.bottom - from.top >= taps - 1),
+          roomy_(from.right - from.left >= across - 1 && from.bottom - from.top >= taps - 1),
           left_(Places{} + from.left),
           top_(Places{} + from.top),
-          right_(Places{} + (from.right - (taps - 1))),
+          right_(Places{} + (from.right - (across - 1))),
           bottom_(Places{} + (from.bottom - (taps - 1))) {}
 
     // The points of a block from `first` on, inside of what may be read wherever `chosen`; `halves` says where those
@@ -109,7 +110,7 @@ class Remapper {
     using Mask = Vec<Bits<W>>;
     static constexpr int n = layout.channels, used = layout.used();
     using Pixels = MapSampler<Kernel, T, n>;
-    using Writer = PointWriter<layout, T>;
+    using Writer = PointWriter<layout, T, Kernel::between>;
 
   public:
     static constexpr int most = Pixels::most;
@@ -175,7 +176,7 @@ template <Layout layout, class Kernel, class T>
 __attribute__((noinline)) void remapBy(const Remapping<T>& job) {
     Remapper<layout, Kernel, T> remapper(job);
     constexpr Len block = remapper.most;
-    eachTileRow(job.roi, std::max<Len>(64, block), [&](Len y, Len left, Len end) {
+    eachTileRow(job.roi, Roi(std::max<Len>(64, block), 16), [&](Len y, Len left, Len end) {
         for (Len x = left; x < end; x += block)
             remapper.run(job.xMap.row(y) + x, job.yMap.row(y) + x, job.dst.row(y) + x * layout.channels,
                          int(std::min(block, end - x)));

@@ -4,7 +4,7 @@
 
 #include "geometry/pointwriter.h"
 #include "geometry/positions.h"
-#include "geometry/warp.h"
+#include "geometry/warpmove.h"
 #include "kernels/simd_whole.h"
 
 namespace zmv {
@@ -16,12 +16,12 @@ class Warper {
     using Mask = Bits<W>;
     using Reals = Vec<double>;
     using Pixels = Sampler<Kernel, T, layout.channels>;
-    using Writer = PointWriter<layout, T>;
+    using Writer = PointWriter<layout, T, Kernel::between>;
     static constexpr int n = layout.channels, pixel = n * int(sizeof(T)), taps = Kernel::taps, before = Kernel::before;
     static constexpr int most = Pixels::most, mostChecked = std::min(most, 64),
-                         doubles = int(sizeof(double) / sizeof(float));
+                         doubles = int(sizeof(double) / sizeof(float)), group = lanes<int32_t>;
     static constexpr double mostDistance = 4503599627370496.0;  // what a double counts, and more
-    static constexpr Len tileWidth = std::max(64, most);
+    static_assert(most % group == 0 && 2 * (most + 64 + group) <= 2 * WarpMemory::points);
 
   public:
     Warper(const WarpJob<T>& job, const Kernel& kernel)
@@ -30,7 +30,7 @@ class Warper {
           step_(job.src.step),
           columns_(job.header.left, job.header.width, job.word, reach),
           rows_(job.header.top, job.header.height, job.word, reach),
-          reach_(job.header, job.word, reach, fills(job.header), isNear(job)),
+          reach_(job.header, job.word, reach, Pixels::readsBehind || quick > pixel, fills(job.header), isNear(job)),
           transparent_(job.word == BORDER_TRANSPARENT),
           constant_(job.word == BORDER_CONST),
           smooth_(job.header.smoothEdge),
@@ -44,20 +44,26 @@ class Warper {
         const Len x0 = job_.offset.x, y0 = job_.offset.y;
         for (Len y = 0; y < job_.size.height; ++y)
             memory.rows[y] = reach_.row(job_.header, job_.map, y0 + y, {x0, x0 + job_.size.width});
-        eachTileRow(job_.size, tileWidth, [&](Len y, Len left, Len end) {
+        xs_ = memory.x, ys_ = memory.y;
+        const bool moves = job_.header.moves;
+        eachTileRow(job_.size, moves ? Roi(job_.size.width, 1) : Roi(64, 64), [&](Len y, Len left, Len end) {
             const WarpRow& row = memory.rows[y];
             const Span piece{x0 + left, x0 + end}, looked = clipped(row.looked, piece),
                                                    inner = clipped(row.inner, looked);
-            T* const dst = job_.dst.row(y) - x0 * n;
+            T* const dst = job_.dst.row(y);
             if (constant_) putConstant(dst, {piece.from, looked.from}), putConstant(dst, {looked.to, piece.to});
-            work(memory, y0 + y, dst, {looked.from, inner.from}, false);
-            work(memory, y0 + y, dst, inner, true);
-            work(memory, y0 + y, dst, {inner.to, looked.to}, false);
+            look(y0 + y, dst, {looked.from, inner.from});
+            if (!moves || inner.empty() || !warpMoved<layout, Kernel>(job_, y0 + y, at(dst, inner.from), inner))
+                gather(y0 + y, dst, inner);
+            look(y0 + y, dst, {inner.to, looked.to});
         });
+        flush();
     }
 
   private:
     static constexpr int reach = taps == 4 ? 2 : 1;
+    // Pixels of three channels are copied with part of the next, which follows.
+    static constexpr int quick = taps > 1 || n != 3 ? pixel : pixel / 3 * 4;
 
     // Whether the constant comes out where all that is no constant counts nothing, which is how points beyond the
     // region's left and upper edge are looked at.  Real pixels may be infinite, and wild weights have no exact sum.
@@ -72,71 +78,118 @@ class Warper {
         const WarpHeader& h = job.header;
         return double(h.top + h.height) * double(job.src.step) + double(h.left + h.width) * pixel < mostDistance / 2;
     }
+    // Pixel x of the whole destination in a row of the tile.
+    T* at(T* row, Len x) const { return row + (x - job_.offset.x) * n; }
     void putConstant(T* dst, Span span) const {
-        for (Len x = span.from; x < span.to; ++x) copyPixel<pixel>(dst + x * n, value_);
+        for (Len x = span.from; x < span.to; ++x) copyPixel<pixel>(at(dst, x), value_);
     }
-    // At most a tile's width.
-    void work(const WarpMemory& memory, Len y, T* dst, Span span, bool inside) {
-        if (span.empty()) return;
-        const int count = int(span.to - span.from);
-        job_.map.points(job_.header, span.from, y, count, memory.x, memory.y);
-        if (inside && !job_.header.exact) inside = allInner(memory.x, memory.y, count);
-        const int block = inside ? most : mostChecked;
-        for (int i = 0; i < count; i += block) {
-            T* const to = dst + (span.from + i) * n;
-            const int some = std::min(block, count - i);
-            if (inside)
-                fetched(memory.x + i, memory.y + i, to, some);
-            else
-                checked(memory.x + i, memory.y + i, to, some);
+    // A part of a row, at most a tile's width, looked at point by point.
+    void look(Len y, T* dst, Span span) {
+        double *const xs = xs_ + most, *const ys = ys_ + most;  // behind what is gathered
+        for (Len x = span.from; x < span.to; x += mostChecked) {
+            const int count = int(std::min<Len>(mostChecked, span.to - x));
+            job_.map.points(job_.header, x, y, count, xs, ys);
+            checked(xs, ys, at(dst, x), count);
         }
     }
+    // A part where kernels lie inside: worked together with others, as many as a block has room for.
+    void gather(Len y, T* dst, Span span) {
+        for (Len x = span.from; x < span.to;) {
+            const int count = int(std::min<Len>(most, span.to - x)), room = count + (-count & (group - 1));
+            if (gathered_ + room > most || pieces_ == mostPieces) flush();
+            double *const xs = xs_ + gathered_, *const ys = ys_ + gathered_;
+            job_.map.points(job_.header, x, y, count, xs, ys);
+            if (!job_.header.exact && !allInner(xs, ys, count)) {
+                look(y, dst, {x, x + count});
+            } else if constexpr (taps == 1) {
+                copied(at(dst, x), count);
+            } else {
+                for (int i = count; i < room; ++i) xs[i] = xs[count - 1], ys[i] = ys[count - 1];
+                piece_[pieces_++] = {at(dst, x), gathered_, count}, gathered_ += room;
+            }
+            x += count;
+        }
+    }
+    void flush() {
+        if constexpr (taps > 1)
+            if (pieces_ > 0) fetched();
+        gathered_ = pieces_ = 0;
+    }
+    // Of points that are near each other the ends may be looked at twice.
     bool allInner(const double* xs, const double* ys, int count) const {
         const Box& box = reach_.inner;
-        bool all = true;
-        for (int i = 0; i < count; ++i)
-            all = all & (xs[i] >= box.left) & (xs[i] <= box.right) & (ys[i] >= box.top) & (ys[i] <= box.bottom);
-        return all;
+        if (count < lanes<double>) return false;
+        Vec<uint64_t> all = ~Vec<uint64_t>{};
+        for (int i = 0; i < count; i += lanes<double>) {
+            const int at = std::min(i, count - lanes<double>);
+            const Reals x = load(xs + at), y = load(ys + at);
+            all &= (Vec<uint64_t>)(x >= box.left) & (Vec<uint64_t>)(x <= box.right);
+            all &= (Vec<uint64_t>)(y >= box.top) & (Vec<uint64_t>)(y <= box.bottom);
+        }
+        return allZero(~all);
     }
 
-    // Points whose kernels lie inside.
-    void fetched(const double* xs, const double* ys, T* dst, int count) {
-        const Reals step = fill(double(step_)), most = fill(mostDistance);
-        // A distance beside 2^52 has its bits in the last places.
-        const auto bias = fill(reinterpret_cast<uint64_t>(job_.src.data) - std::bit_cast<uint64_t>(mostDistance) -
-                               uint64_t(before * (step_ + pixel)));
-        for (int i = 0; i < count; i += lanes<float>) {
-            Reals fx[doubles], fy[doubles];
-            unrolled<doubles>([&](auto k) {
-                const int at = i + k * lanes<double>;
-                const Reals x = load(xs + at), y = load(ys + at);
-                // Halves go up: of numbers below one half no sum reaches one, of others each does.
-                const Reals half = fill(taps == 1 ? 0x1.fffffffffffffp-2 : 0.0);
-                const Reals column = wholePart(taps == 1 ? x + half : x), row = wholePart(taps == 1 ? y + half : y);
-                fx[k] = x - column, fy[k] = y - row;
-                store(at_ + at, (Vec<uint64_t>)(row * step + (column * double(pixel) + most)) + bias);
+    // Where the pixels under the kernels of a group of points start, and the fractions.
+    struct Distances {
+        Reals step;
+        Vec<uint64_t> bias;
+    };
+    Distances distances() const {
+        // A number of bytes beside 2^52 has its bits in the last places.
+        return {fill(double(step_)), fill(reinterpret_cast<uint64_t>(job_.src.data) -
+                                          std::bit_cast<uint64_t>(mostDistance) - uint64_t(before * (step_ + pixel)))};
+    }
+    ZMV_INLINE void locate(const Distances& d, int i) {
+        Reals fx[doubles], fy[doubles];
+        unrolled<doubles>([&](auto k) __attribute__((always_inline)) {
+            const int at = i + k * lanes<double>;
+            const Reals x = load(xs_ + at), y = load(ys_ + at);
+            // Halves go up: of numbers below one half no sum reaches one, of others each does.
+            const Reals half = fill(taps == 1 ? 0x1.fffffffffffffp-2 : 0.0);
+            const Reals column = wholePart(taps == 1 ? x + half : x), row = wholePart(taps == 1 ? y + half : y);
+            fx[k] = x - column, fy[k] = y - row;
+            store(at_ + at, (Vec<uint64_t>)(row * d.step + (column * double(pixel) + mostDistance)) + d.bias);
+        });
+        if constexpr (taps > 1 && sizeof(W) == 4)
+            pixels_.setFractions(i, roundToFloat(fx[0], fx[1]), roundToFloat(fy[0], fy[1]));
+        else if constexpr (taps > 1)
+            unrolled<doubles>([&](auto k) __attribute__((always_inline)) {
+                pixels_.setFractions(i + k * lanes<double>, fx[k], fy[k]);
             });
-            if constexpr (taps > 1 && sizeof(W) == 4)
-                pixels_.setFractions(i, roundToFloat(fx[0], fx[1]), roundToFloat(fy[0], fy[1]));
-            else if constexpr (taps > 1)
-                unrolled<doubles>([&](auto k) { pixels_.setFractions(i + k * lanes<double>, fx[k], fy[k]); });
-        }
+    }
+    // The points that have been gathered, and those that fill groups, which are others once more.  Pixels are fetched a
+    // group behind where they are located, so that both are worked on at a time.
+    void fetched() {
+        const Distances d = distances();
         const Len rows = step_;
-        const auto each = [&](int i) __attribute__((always_inline)) {
-            const auto from = reinterpret_cast<const uint8_t*>(at_[i]);
-            if constexpr (taps > 1)
-                pixels_.take(i, from, rows);
-            else
-                copyPixel<pixel>(dst + i * n, from);
-        };
-        int i = 0;
-        for (; i + 4 <= count; i += 4) unrolled<4>([&](auto k) __attribute__((always_inline)) { each(i + k); });
-        for (; i < count; ++i) each(i);
-        if constexpr (taps > 1)
-            Writer::write(
-                dst, count, nullptr, [&](int first, const T*, V* to) __attribute__((always_inline)) {
-                    pixels_.values(first, n, to);
+        const auto fetch = [&](int first) __attribute__((always_inline)) {
+            for (int i = first; i < first + group; i += 4)
+                unrolled<4>([&](auto k) __attribute__((always_inline)) {
+                    pixels_.take(i + k, reinterpret_cast<const uint8_t*>(at_[i + k]), rows);
                 });
+        };
+        locate(d, 0);
+        for (int i = group; i < gathered_; i += group) locate(d, i), fetch(i - group);
+        fetch(gathered_ - group);
+        for (int p = 0; p < pieces_; ++p)
+            Writer::write(
+                piece_[p].dst, piece_[p].count, nullptr,
+                [&, start = piece_[p].first ](int first, const T*, V* to)
+                    __attribute__((always_inline)) { pixels_.values(start + first, n, to); });
+    }
+    void copied(T* dst, int count) {
+        const Distances d = distances();
+        const auto copy = [&]<int bytes>(int i) __attribute__((always_inline)) {
+            copyPixel<bytes>(dst + i * n, reinterpret_cast<const void*>(at_[i]));
+        };
+        const int last = count - 1;
+        int i = 0;
+        for (locate(d, 0); i + group <= last; i += group) {
+            locate(d, i + group);
+            unrolled<group>([&](auto k) __attribute__((always_inline)) { copy.template operator()<quick>(i + k); });
+        }
+        for (; i < last; ++i) copy.template operator()<quick>(i);
+        copy.template operator()<pixel>(last);
     }
 
     // Points anywhere.
@@ -180,7 +233,7 @@ class Warper {
         pixels_.setFraction(point, fx, fy);
         alone_[point] =
             Mask(-int64_t(constant_ && (column + taps <= 0 || column >= width || row + taps <= 0 || row >= height)));
-        if (column >= 0 && column + taps <= width && row >= 0 && row + taps <= height)
+        if (column >= 0 && column + taps + Pixels::readsBehind <= width && row >= 0 && row + taps <= height)
             pixels_.take(point, origin_ + row * step_ + column * pixel, step_);
         else
             pixels_.takeEach(point, [&](int i, int j, uint8_t* to) { copyPixelOf(column + i, row + j, to); });
@@ -199,6 +252,14 @@ class Warper {
     const bool transparent_, constant_, smooth_;
     Pixels pixels_;
     Bits<T> value_[n] = {};
+    struct Piece {
+        T* dst;
+        int first, count;  // points among those that are gathered
+    };
+    static constexpr int mostPieces = 16;
+    Piece piece_[mostPieces];
+    int pieces_ = 0, gathered_ = 0;
+    double *xs_ = nullptr, *ys_ = nullptr;
     alignas(64) uint64_t at_[most];
     alignas(64) W ax_[mostChecked], ay_[mostChecked];
     alignas(64) Mask chosen_[mostChecked], alone_[mostChecked];

@@ -70,13 +70,16 @@ struct Weighted {
         return total;
     }
 };
-// The pixel that the point is nearest to, one half counting as nearer to the next.
+// The pixel that the point is nearest to, one half counting as nearer to the next.  `between` says of a kernel that its
+// values lie between those of pixels.
 struct NearestKernel {
     static constexpr int taps = 1, before = 0;
+    static constexpr bool between = true;
 };
 // On the line between two pixels; a constant stays itself exactly.
 struct LinearKernel {
     static constexpr int taps = 2, before = 0;
+    static constexpr bool between = true;
     template <class V>
     struct At {
         V fraction;
@@ -100,6 +103,7 @@ ZMV_INLINE V scaledBy(Element<V> k, V x) {
 // On the cubic through two pixels whose slopes there are those between their neighbours.
 struct CatmullRomKernel {
     static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, 4> {
         using T = Element<V>;
@@ -115,6 +119,7 @@ struct CatmullRomKernel {
 // On the cubic through four pixels.
 struct LagrangeKernel {
     static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, 4> {
         using T = Element<V>;
@@ -133,6 +138,7 @@ struct LagrangeKernel {
 template <class W>
 struct CubicFamilyKernel {
     static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
     W p[taps][4];
     template <class V>
     struct At {
@@ -161,6 +167,7 @@ struct CubicFamilyKernel {
 // The Lanczos kernel of three lobes, between the entries of its table, the weights divided by their sum.
 struct LanczosKernel {
     static constexpr int taps = 6, before = 2;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, taps> {
         using T = Element<V>;

@@ -20,13 +20,15 @@ class Sampler {
     using V = Vec<W>;
 
   private:
-    using Word = Bits<W>;
     static constexpr int taps = Kernel::taps, pixel = n * int(sizeof(T)), run = taps * pixel;
-    // The pixels of a row come in words of the size of a lane; the last one ends where they end, so that no other byte
-    // is read.  Where all rows fit a word they share one.
-    static constexpr int wordBytes = int(sizeof(Word)), words = (run + wordBytes - 1) / wordBytes;
-    static constexpr bool together = taps > 1 && taps* run <= wordBytes;
-    static constexpr int fewest = std::max(lanes<T>, lanes<float>);
+    // The pixels of a row come in words of 8 bytes, or of a lane's where they are fewer; the last one ends where they
+    // end, so that no other byte is read, but for six bytes, which are read as eight.  Where all rows fit a lane they
+    // share it.
+    static constexpr int lane = int(sizeof(W)), filled = taps == 2 && run == 6 ? 8 : run;
+    using Word = std::conditional_t<filled >= 8, uint64_t, Bits<W>>;
+    static constexpr int wordBytes = int(sizeof(Word)), words = (filled + wordBytes - 1) / wordBytes;
+    static constexpr bool together = taps > 1 && taps* run <= lane;
+    static constexpr int fewest = std::max(lanes<T>, lanes<W>);
 
   public:
     static constexpr int pointBytes = (together ? 1 : taps) * words * wordBytes;
@@ -36,6 +38,9 @@ class Sampler {
         while (points > fewest && points * pointBytes > (points == 256 ? 4096 : 8192)) points /= 2;
         return std::max(points, fewest);
     }();
+
+    // Whether the pixel behind those under a kernel is read too.
+    static constexpr bool readsBehind = filled > run;
 
     explicit Sampler(const Kernel& kernel) : kernel_(kernel) {}
 
@@ -54,13 +59,13 @@ class Sampler {
         } else {
             unrolled<taps>([&](auto j) {
                 unrolled<words>([&](auto w) {
-                    if constexpr (run < wordBytes) {
+                    if constexpr (filled < wordBytes) {
                         Word word = 0;
                         __builtin_memcpy(&word, p, run);
                         words_[j][w][point] = word;
                     } else {
                         words_[j][w][point] =
-                            get(reinterpret_cast<const Word*>(p + std::min(w * wordBytes, run - wordBytes)));
+                            get(reinterpret_cast<const Word*>(p + std::min(w * wordBytes, filled - wordBytes)));
                     }
                 });
                 p += step;
@@ -70,7 +75,7 @@ class Sampler {
     // The same where they are not to be read as they lie: copyPixel(i, j, to) gives that of column i and row j.
     template <class CopyPixel>
     __attribute__((noinline)) void takeEach(int point, const CopyPixel& copyPixel) {
-        uint8_t copy[taps * run];
+        uint8_t copy[taps * run + filled - run] = {};
         for (int j = 0; j < taps; ++j)
             for (int i = 0; i < taps; ++i) copyPixel(i, j, copy + j * run + i * pixel);
         take(point, copy, run);
@@ -99,19 +104,32 @@ class Sampler {
         }
         return down.template sum<real>(rows);
     }
+    // Element i of the result is the low or the high half of word i of two vectors of words.
+    template <int half>
+    struct Half {
+        static constexpr int at(int i) { return 2 * i + half; }
+    };
     // Channel c of pixel i of row j.
     ZMV_INLINE V at(int first, int j, int i, int c) const {
+        using Lanes = Vec<Bits<W>>;
         const int byte = (together ? j * run : 0) + (i * n + c) * int(sizeof(T));
         const int word = together ? 0 : byte / wordBytes,
-                  start = together ? 0 : std::min(word * wordBytes, std::max(run - wordBytes, 0));
-        const auto v = load(words_[together ? 0 : j][word] + first);
-        const int above = 8 * (wordBytes - int(sizeof(T)) - (byte - start));  // bits over the element
+                  start = together ? 0 : std::min(word * wordBytes, std::max(filled - wordBytes, 0));
+        const Word* const from = words_[together ? 0 : j][word] + first;
+        Lanes v;
+        if constexpr (wordBytes == lane) {
+            v = (Lanes)load(from);
+        } else {
+            const auto low = (Lanes)load(from), high = (Lanes)load(from + lanes<Word>);
+            v = byte - start < lane ? permute<Half<0>>(low, high) : permute<Half<1>>(low, high);
+        }
+        const int above = 8 * (lane - int(sizeof(T)) - (byte - start) % lane);  // bits over the element
         if constexpr (sizeof(T) == sizeof(W))
             return (V)v;
         else if constexpr (std::is_signed_v<T>)
-            return toFloat(asSigned(v << above) >> (8 * (wordBytes - int(sizeof(T)))));
+            return toFloat(asSigned(v << above) >> (8 * (lane - int(sizeof(T)))));
         else
-            return toFloat(asSigned(v << above >> (8 * (wordBytes - int(sizeof(T))))));
+            return toFloat(asSigned(v << above >> (8 * (lane - int(sizeof(T))))));
     }
 
     const Kernel kernel_;
