@@ -5253,6 +5253,540 @@ ZMV_API StatusCode zmviResizeYUV422Lanczos_8u_P2R(const uint8_t* const src[2], c
 ZMV_API StatusCode zmviResizeYUV422Super_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
 ZMV_API StatusCode zmviResizeYUV422Super_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
 
+/* zmviWarpGetSize: The bytes of a warp's spec object, the same for every map and every type.
+   Checked in this order.  STATUS_NULL_POINTER: specSize is null.  STATUS_BAD_SIZE: a size below 1, then _L: a side is
+   beyond 2^53.  STATUS_BAD_INTERPOLATION: interpolation is none of these.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpGetSize(ImageSize srcSize, ImageSize dstSize, int interpolation, int* specSize);
+ZMV_API StatusCode zmviWarpGetSize_L(ImageSizeL srcSize, ImageSizeL dstSize, int interpolation, int64_t* specSize);
+
+/* zmviWarpGetBufferSize: The bytes of the work buffer of a warp for tiles of this size: it grows with their height
+   alone.
+   Any map, any interpolation, and all types.
+   Checked in this order.  STATUS_NULL_POINTER: spec or bufSize is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp.  STATUS_BAD_CHANNELS: numChannels is not
+   1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647 (not in _L); nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpGetBufferSize(const WarpSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviWarpGetBufferSize_L(const WarpSpec* spec, ImageSizeL dstTileSize, int numChannels, int64_t* bufSize);
+
+/* zmviWarpAffineNearestInit: Makes an object for zmviWarpAffineNearest.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant or a coefficient of
+   the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineNearestInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpAffineLinearInit: Makes an object for zmviWarpAffineLinear.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant or a coefficient of
+   the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineLinearInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpAffineCubicInit: Makes an object for zmviWarpAffineCubic.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these, then B or C is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite, or the
+   determinant or a coefficient of the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineCubicInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpAffineNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves going up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpAffineLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpAffineCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the object
+   over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveNearestInit: Makes an object for zmviWarpPerspectiveNearest.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, nor (forward) one of the map back, or
+   the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveNearestInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpPerspectiveLinearInit: Makes an object for zmviWarpPerspectiveLinear.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, nor (forward) one of the map back, or
+   the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveLinearInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpPerspectiveCubicInit: Makes an object for zmviWarpPerspectiveCubic.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these, then B or C is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite, nor
+   (forward) one of the map back, or the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveCubicInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpPerspectiveNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves
+   going up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the
+   object over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearNearestInit: Makes an object for zmviWarpBilinearNearest.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these.
+   STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpBilinearLinearInit: Makes an object for zmviWarpBilinearLinear.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these.
+   STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpBilinearCubicInit: Makes an object for zmviWarpBilinearCubic.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these, then B or C
+   is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it
+   folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpBilinearNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves going
+   up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the object
+   over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
 /* zmviImageJaehne: Rings round the middle of the region whose frequency grows with the radius, up to one period in two
    pixels at the
    nearer edge: a test image of zone plate kind, after B. Jaehne, on which filters show what they do to each frequency.
