@@ -79,6 +79,7 @@ ImageSizeL Call::area(const std::string& name) const {
     if (name == "srcSize" || name == "src1Size" || asSource) return {setting.width, setting.height};
     if (name == "dstRoiSize") return {setting.width + 2 * setting.border, setting.height + 2 * setting.border};
     if (name == "maskSize") return {setting.mask, setting.mask};
+    if (isWarp() && name.rfind("dst", 0) == 0) return {setting.width, setting.height};
     if (name == "dstSize" || name == "dstTileSize") {  // the half, or that of a goal, whose sides are as 16 to 9
         const int64_t width = setting.factor / 100;
         return width ? ImageSizeL{width, width * 9 / 16} : ImageSizeL{setting.width / 2, setting.height / 2};
@@ -156,7 +157,8 @@ double Call::number(const std::string& name) const {
     if (name == "numLobes") return 3;
     if (name == "chromaFormat") return halvesRows() ? CHROMA_420 : CHROMA_422;
     if (name == "chromaSite") return CHROMA_LEFT;
-    if (name == "antialiasing") return 0;
+    if (name == "antialiasing" || name == "smoothEdge") return 0;
+    if (name == "direction") return setting.factor == forwardWarp ? WARP_FORWARD : WARP_BACKWARD;
     unknown(name);
 }
 
@@ -177,11 +179,13 @@ uint8_t* Call::map(const std::string& name) {
 
 void* Call::pointer(const std::string& name, int64_t element) {
     if (name == "pxMap" || name == "pyMap") return element == 4 ? map<float>(name) : map<double>(name);
+    if (name == "coeffs" && isWarp()) return warpCoefficients();
     if (name == "coeffs" || name == "quad") {
-        static const double coeffs[] = {0, 1, 2, -1, 0, 30}, square[] = {0, 0, 1, 0, 1, 1, 0, 1};
+        static const double coeffs[] = {0, 1, 2, -1, 0, 30, 0, 0, 1}, square[] = {0, 0, 1, 0, 1, 1, 0, 1, 0},
+                            bilinear[] = {0, 0, 1, 2, 0, -1, 0, 30, 0};
         Memory& block = allocate(sizeof square);
-        name == "quad" ? std::memcpy(block.data(), square, sizeof square)
-                       : std::memcpy(block.data(), coeffs, sizeof coeffs);
+        const bool is = std::strstr(member.name, "Bilinear");
+        std::memcpy(block.data(), name == "quad" ? square : is ? bilinear : coeffs, sizeof square);
         return block.data();
     }
     if (name == "bound" || name == "xShift" || name == "yShift" || name == "srcRoi") return allocate(64).data();
@@ -292,7 +296,8 @@ void* Call::workBuffer() {
     const bool filter = name.rfind("zmviFilterBorder_", 0) == 0;
     const bool typed = name.rfind("zmviFilterMedian_", 0) == 0;
     const Member& query =
-        findMember(isYUV()      ? "zmviResizeYUVGetBufferSize"
+        findMember(isWarp()     ? "zmviWarpGetBufferSize"
+                   : isYUV()    ? "zmviResizeYUVGetBufferSize"
                    : isResize() ? "zmviResizeGetBufferSize_" + type
                                 : name.substr(0, name.find('_')) + (filter ? "GetSize" : "GetBufferSize") +
                                       (typed ? "_" + type : ""));
@@ -301,6 +306,33 @@ void* Call::workBuffer() {
     const auto call = query.bind(asked, build);
     call->run(build, build.find(query.name), 1);
     return allocate(call->answer).data();
+}
+
+bool Call::isWarp() const { return std::strncmp(member.name, "zmviWarp", 8) == 0; }
+
+// The image turned by 12 degrees about its middle and made smaller or larger, so that all comes from inside, with the
+// factor 90 by a quarter turn, with 1 moved by part of a pixel; of maps that can, a little bent.
+void* Call::warpCoefficients() {
+    const bool forward = setting.factor == forwardWarp, turn = setting.factor == 90, move = setting.factor == 1;
+    const double scale = forward ? 1 / 0.7 : 0.7, x = double(setting.width) / 2, y = double(setting.height) / 2;
+    const double cosine = turn ? 0 : move ? 1 : 0.9781476007338057 * scale;
+    const double sine = turn ? 1 : move ? 0 : 0.20791169081775931 * (forward ? -scale : scale);
+    const double x0 = x - (cosine * x - sine * y) + 0.3 * move, y0 = y - (sine * x + cosine * y) + 0.4 * move;
+    const double bend = 2e-5 * 1920 / double(setting.width);
+    const double affine[] = {cosine, -sine, x0, sine, cosine, y0, 0, 0, 1};
+    const double last = 1 - bend * (x + y / 2);  // the denominator, which is 1 in the middle
+    const double perspective[] = {cosine + bend * x, bend * x / 2 - sine,   x0 + (last - 1) * x,
+                                  sine + bend * y,   cosine + bend * y / 2, y0 + (last - 1) * y,
+                                  bend,              bend / 2,              last};
+    const double bilinear[] = {bend,  cosine - bend * y, -sine - bend * x, x0 + bend * x * y,
+                               -bend, sine + bend * y,   cosine + bend * x, y0 - bend * x * y, 0};
+    Memory& block = allocate(sizeof affine);
+    std::memcpy(block.data(),
+                std::strstr(member.name, "Persp")      ? perspective
+                : std::strstr(member.name, "Bilinear") ? bilinear
+                                                       : affine,
+                sizeof affine);
+    return block.data();
 }
 
 bool Call::isResize() const { return std::string(member.name).rfind("zmviResize", 0) == 0; }
@@ -329,7 +361,9 @@ void* Call::specObject() {
     }
     const std::string user = setting.about.empty() ? family : setting.about.substr(0, setting.about.find('_'));
     const bool filter = family.rfind("zmviFilterBorder", 0) == 0;
-    const Member& init = findMember(isResize()                              ? resizeInit(user)
+    const std::string warp = user == "zmviWarpGetBufferSize" ? "zmviWarpAffineLinear" : user;
+    const Member& init = findMember(isWarp()                                ? warp + "Init"
+                                    : isResize()                            ? resizeInit(user)
                                     : family.rfind("zmviHistogram", 0) == 0 ? "zmviHistogramUniformInit"
                                     : family.rfind("zmviMoments", 0) == 0   ? "zmviMomentsInit"
                                     : family == "zmviLUT"                   ? "zmviLUT_Init_" + type

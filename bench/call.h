@@ -85,6 +85,9 @@ class Call {
     bool isResize() const;
     bool isYUV() const;
     bool halvesRows() const;  // of colour planes
+    static constexpr int forwardWarp = 2;  // a factor
+    bool isWarp() const;
+    void* warpCoefficients();
     std::string resizeInit(std::string family) const;
     // Of a histogram: evenly spaced numbers, one a level.
     static constexpr int bins = 256;

@@ -4456,6 +4456,102 @@ ZMV_API StatusCode zmviGetRotateBound_L(ImageRectL srcRoi, double bound[2][2], d
 ZMV_API StatusCode zmviGetAffineSrcRoi(ImageSize srcSize, const double coeffs[2][3], ImageRect dstRoi, ImageRect* srcRoi);
 ZMV_API StatusCode zmviGetAffineSrcRoi_L(ImageSizeL srcSize, const double coeffs[2][3], ImageRectL dstRoi, ImageRectL* srcRoi);
 
+/* zmviGetPerspectiveTransform: The perspective map that takes the corners of srcRoi to those of a quadrangle, any that
+   is convex.
+   To straighten a page, take the upright rectangle and the page's corners in the photograph, and warp with
+   WARP_BACKWARD; to hang a picture into a frame, the picture's rectangle and the frame's corners, and warp with
+   WARP_FORWARD.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_QUAD: a corner is not finite, or the corners do not all turn
+   the same way.  STATUS_BAD_RECT: width or height below 2.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveTransform(ImageRect srcRoi, const double quad[4][2], double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveTransform_L(ImageRectL srcRoi, const double quad[4][2], double coeffs[3][3]);
+
+/* zmviGetPerspectiveQuad: The quadrangle that a perspective map makes of srcRoi.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way, or srcRoi reaches over the line that goes to infinity; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveQuad(ImageRect srcRoi, double quad[4][2], const double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveQuad_L(ImageRectL srcRoi, double quad[4][2], const double coeffs[3][3]);
+
+/* zmviGetPerspectiveBound: The smallest upright rectangle round the quadrangle of zmviGetPerspectiveQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].  A corner that is NaN makes its axis NaN.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   bound and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: bound or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way, or srcRoi reaches over the line that goes to infinity; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveBound(ImageRect srcRoi, double bound[2][2], const double coeffs[3][3]);
+ZMV_API StatusCode zmviGetPerspectiveBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[3][3]);
+
+/* zmviGetPerspectiveSrcRoi: The smallest rectangle of source pixels that holds what a perspective map takes to pixel
+   centres of dstRoi; the
+   whole source where dstRoi reaches over the line that comes from infinity.
+   It is what warping dstRoi reads for nearest and linear values; wider kernels add their radius.
+   coeffs: three rows [a, b, c], each at (x, y) a x + b y + c; (x, y) goes to the first over the third and the second
+   over the third.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or srcRoi is null.  STATUS_BAD_SIZE: width or height of srcSize
+   below 1, then width or height of dstRoi below 1.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant
+   is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: dstRoi comes from nowhere in the source; nothing is written.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetPerspectiveSrcRoi(ImageSize srcSize, const double coeffs[3][3], ImageRect dstRoi, ImageRect* srcRoi);
+ZMV_API StatusCode zmviGetPerspectiveSrcRoi_L(ImageSizeL srcSize, const double coeffs[3][3], ImageRectL dstRoi, ImageRectL* srcRoi);
+
+/* zmviGetBilinearTransform: The bilinear map that takes the corners of srcRoi to those of a quadrangle, any that is
+   convex, and its edges
+   evenly to the edges.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_QUAD: a corner is not finite, or the corners do not all turn
+   the same way.  STATUS_BAD_RECT: width or height below 2.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearTransform(ImageRect srcRoi, const double quad[4][2], double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearTransform_L(ImageRectL srcRoi, const double quad[4][2], double coeffs[2][4]);
+
+/* zmviGetBilinearQuad: The quadrangle that a bilinear map makes of srcRoi.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   The corners of srcRoi are the centres of its outermost pixels, from the top left one clockwise: the right ones at x +
+   width - 1, the lower ones at y + height - 1.  A quadrangle has their images in this order.
+   quad and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: quad or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the quadrangle is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearQuad(ImageRect srcRoi, double quad[4][2], const double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearQuad_L(ImageRectL srcRoi, double quad[4][2], const double coeffs[2][4]);
+
+/* zmviGetBilinearBound: The smallest upright rectangle round the quadrangle of zmviGetBilinearQuad.
+   bound: [[least x, least y], [greatest x, greatest y]].  A corner that is NaN makes its axis NaN.
+   coeffs: [[c00, c01, c02, c03], [c10, c11, c12, c13]] takes (x, y) to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x
+   + c12 y + c13).
+   bound and coeffs may share memory.
+   Checked in this order.  STATUS_NULL_POINTER: bound or coeffs is null.  STATUS_BAD_SIZE: width or height of srcRoi
+   below 1, then x or y of srcRoi is negative.  STATUS_BAD_COEFFS: a corner is not finite, or the corners do not all
+   turn the same way; the bound is written all the same.
+   src/geometry/piwarp.cpp */
+ZMV_API StatusCode zmviGetBilinearBound(ImageRect srcRoi, double bound[2][2], const double coeffs[2][4]);
+ZMV_API StatusCode zmviGetBilinearBound_L(ImageRectL srcRoi, double bound[2][2], const double coeffs[2][4]);
+
 /* zmviRemap: dst(i, j) = src(pxMap(i, j), pyMap(i, j)): two maps say where pixels come from.
    Maps hold floats, double for 64f, of the size of dst; coordinates count from the origin of the whole image of
    srcSize.  srcRoi is the part of it that is looked at: pixels beyond it count as the nearest one in it, and points
@@ -5156,6 +5252,540 @@ ZMV_API StatusCode zmviResizeYUV422Lanczos_8u_P2R(const uint8_t* const src[2], c
    src/geometry/piresizeyuv.cpp */
 ZMV_API StatusCode zmviResizeYUV422Super_8u_P3R(const uint8_t* const src[3], const int srcStep[3], uint8_t* const dst[3], const int dstStep[3], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
 ZMV_API StatusCode zmviResizeYUV422Super_8u_P2R(const uint8_t* const src[2], const int srcStep[2], uint8_t* const dst[2], const int dstStep[2], ImagePoint dstOffset, ImageSize dstTileSize, const ResizeYUVSpec* spec, uint8_t* buffer);
+
+/* zmviWarpGetSize: The bytes of a warp's spec object, the same for every map and every type.
+   Checked in this order.  STATUS_NULL_POINTER: specSize is null.  STATUS_BAD_SIZE: a size below 1, then _L: a side is
+   beyond 2^53.  STATUS_BAD_INTERPOLATION: interpolation is none of these.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpGetSize(ImageSize srcSize, ImageSize dstSize, int interpolation, int* specSize);
+ZMV_API StatusCode zmviWarpGetSize_L(ImageSizeL srcSize, ImageSizeL dstSize, int interpolation, int64_t* specSize);
+
+/* zmviWarpGetBufferSize: The bytes of the work buffer of a warp for tiles of this size: it grows with their height
+   alone.
+   Any map, any interpolation, and all types.
+   Checked in this order.  STATUS_NULL_POINTER: spec or bufSize is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp.  STATUS_BAD_CHANNELS: numChannels is not
+   1, 3 or 4.  STATUS_SIZE_EXCEEDS_INT: the size exceeds 2147483647 (not in _L); nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpGetBufferSize(const WarpSpec* spec, ImageSize dstTileSize, int numChannels, int* bufSize);
+ZMV_API StatusCode zmviWarpGetBufferSize_L(const WarpSpec* spec, ImageSizeL dstTileSize, int numChannels, int64_t* bufSize);
+
+/* zmviWarpAffineNearestInit: Makes an object for zmviWarpAffineNearest.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant or a coefficient of
+   the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineNearestInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpAffineLinearInit: Makes an object for zmviWarpAffineLinear.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, or the determinant or a coefficient of
+   the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineLinearInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpAffineCubicInit: Makes an object for zmviWarpAffineCubic.
+   (x, y) goes to (c00 x + c01 y + c02, c10 x + c11 y + c12).
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these, then B or C is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite, or the
+   determinant or a coefficient of the inverse is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpAffineCubicInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[2][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpAffineNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves going up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineNearest_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpAffineLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineLinear_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpAffineCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the object
+   over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpaffine.cpp */
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpAffineCubic_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveNearestInit: Makes an object for zmviWarpPerspectiveNearest.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, nor (forward) one of the map back, or
+   the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveNearestInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpPerspectiveLinearInit: Makes an object for zmviWarpPerspectiveLinear.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these.  STATUS_BAD_COEFFS: a coefficient is not finite, nor (forward) one of the map back, or
+   the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveLinearInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpPerspectiveCubicInit: Makes an object for zmviWarpPerspectiveCubic.
+   Each row [a, b, c] of coeffs is a x + b y + c at (x, y), which goes to the first over the third and the second over
+   the third.  The sign of the third is not looked at.
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative, then _L: a side or a place is beyond 2^53.  STATUS_BAD_ARGUMENT: direction is none of these, then
+   smoothEdge is none of these, then B or C is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite, nor
+   (forward) one of the map back, or the determinant is zero or not finite.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[3][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+ZMV_API StatusCode zmviWarpPerspectiveCubicInit_L(ImageSizeL srcSize, ImageRectL srcRoi, ImageSizeL dstSize, const double coeffs[3][3], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpPerspectiveNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves
+   going up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveNearest_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveLinear_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpPerspectiveCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the
+   object over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpperspective.cpp */
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C1R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C3R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_8u_C4R_L(const uint8_t* src, int64_t srcStep, uint8_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C1R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C3R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16u_C4R_L(const uint16_t* src, int64_t srcStep, uint16_t* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C1R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C3R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_32f_C4R_L(const float* src, int64_t srcStep, float* dst, int64_t dstStep, ImagePointL dstOffset, ImageSizeL dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C3R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpPerspectiveCubic_64f_C4R(const double* src, int srcStep, double* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const double* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearNearestInit: Makes an object for zmviWarpBilinearNearest.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these.
+   STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearNearestInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpBilinearLinearInit: Makes an object for zmviWarpBilinearLinear.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these.
+   STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearLinearInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, WarpSpec* spec);
+
+/* zmviWarpBilinearCubicInit: Makes an object for zmviWarpBilinearCubic.
+   (x, y) goes to (c00 x y + c01 x + c02 y + c03, c10 x y + c11 x + c12 y + c13).  Forward, a destination pixel comes
+   from the point on srcRoi's side of the fold, and some come from nowhere.
+   B and C choose the cubic kernel: 0, 0.5 for the usual one through the pixels, 1, 0 for the B-spline, 1/3, 1/3 in
+   between.
+   Coordinates count from the first pixel's centre of the whole source and of the whole destination.  srcRoi is the part
+   of the source that is looked at, as far as it lies inside; nothing beyond it is ever read.
+   WARP_FORWARD: coeffs take source points to the destination.  WARP_BACKWARD: destination points to the source.
+   smoothEdge: 1 for edges that fade, with BORDER_TRANSPARENT only, 0 for others.  spec has the size that
+   zmviWarpGetSize reports, at any alignment; the object serves every type, and the _L forms of executions as well as
+   the others.  The caller's control word has no influence.
+   Checked in this order.  STATUS_NULL_POINTER: coeffs or spec is null.  STATUS_BAD_SIZE: a size below 1, then x or y of
+   srcRoi is negative.  STATUS_BAD_ARGUMENT: direction is none of these, then smoothEdge is none of these, then B or C
+   is not finite.  STATUS_BAD_COEFFS: a coefficient is not finite; the map folds the plane onto a line; forward, it
+   folds srcRoi.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; the object is made, and its executions write nothing.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearCubicInit(ImageSize srcSize, ImageRect srcRoi, ImageSize dstSize, const double coeffs[2][4], int direction, int smoothEdge, float B, float C, WarpSpec* spec);
+
+/* zmviWarpBilinearNearest: dst(x, y) = the source pixel nearest to where the map says (x, y) comes from, halves going
+   up.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearNearest_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearLinear: dst(x, y) = the source where the map says (x, y) comes from, linear between four pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearLinear_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+
+/* zmviWarpBilinearCubic: dst(x, y) = the source where the map says (x, y) comes from, by the cubic kernel of the object
+   over 16 pixels.
+   borderType: BORDER_TRANSPARENT leaves pixels from outside srcRoi as they were; with smooth edges points up to one
+   pixel outside blend the value at the edge with the old one.  BORDER_REPL and BORDER_MIRROR continue srcRoi in all
+   directions, BORDER_CONST with borderValue, one number a channel; no flags are taken.
+   src is the first pixel of the whole source in every call, dst that of the tile at dstOffset: tiles give the bits of
+   the whole.  Points are formed in double, values in float (64f: double), rows first, every operation rounded once to
+   nearest; integers are then rounded to nearest, ties to even, saturated.  Nothing follows the caller's control word.
+   Steps need not be multiples of the element size.
+   The images must not overlap.
+   buffer has the size that zmviWarpGetBufferSize reports, at any alignment.
+   Checked in this order.  STATUS_NULL_POINTER: an image, spec or buffer is null.  STATUS_BAD_SIZE: width or height of
+   dstTileSize below 1.  STATUS_BAD_STEP: a step is not positive.  STATUS_CONTEXT_MISMATCH: spec is no object of a warp,
+   or not one of this map and interpolation.  STATUS_OUT_OF_RANGE: dstOffset lies outside the destination.
+   STATUS_BAD_BORDER: borderType is none of these, then smooth edges with another word than BORDER_TRANSPARENT.
+   STATUS_NULL_POINTER: BORDER_CONST without borderValue.
+   STATUS_WARN_NO_INTERSECTION: srcRoi begins outside the source; nothing is written.
+   STATUS_WARN_SIZE_CLIPPED: the tile is wider or higher than the whole destination; done for the part inside.
+   src/geometry/piwarpbilinear.cpp */
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint8_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const uint16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const int16_t* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
+ZMV_API StatusCode zmviWarpBilinearCubic_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImagePoint dstOffset, ImageSize dstTileSize, uint32_t borderType, const float* borderValue, const WarpSpec* spec, uint8_t* buffer);
 
 /* zmviImageJaehne: Rings round the middle of the region whose frequency grows with the radius, up to one period in two
    pixels at the

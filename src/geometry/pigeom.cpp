@@ -53,17 +53,70 @@ AffineMap ownpi_GetAffineTransform(Corners from, const Quad& to) {
     return map;
 }
 
-PixelRange ownpi_WarpAffineRect(Roi image, const AffineMap& map, Corners to) {
-    const double d = map.determinant();
-    const AffineMap back{map.yy / d,  -map.xy / d, (map.xy * map.y0 - map.yy * map.x0) / d,
-                         -map.yx / d, map.xx / d,  (map.yx * map.x0 - map.xx * map.y0) / d};
-    const auto source = [&](Point p) {
-        return Point{back.xx * p.x + (back.xy * p.y + back.x0), back.yx * p.x + (back.yy * p.y + back.y0)};
-    };
-    const Bound bound = ownpi_GetQuadrangleBound(Quad(source, to));
+// After Heckbert, Fundamentals of Texture Mapping and Image Warping, 1989.
+PerspectiveMap ownpi_GetPerspectiveTransform(Corners from, const Quad& to) {
+    const auto& [p0, p1, p2, p3] = to.corner;
+    const double x1 = p1.x - p2.x, x2 = p3.x - p2.x, x3 = ((p0.x - p1.x) + p2.x) - p3.x;
+    const double y1 = p1.y - p2.y, y2 = p3.y - p2.y, y3 = ((p0.y - p1.y) + p2.y) - p3.y;
+    const double e = x1 * y2 - x2 * y1, g = (x3 * y2 - x2 * y3) / e, k = (x1 * y3 - x3 * y1) / e;
+    const double unit[3][3] = {{p1.x - p0.x + g * p1.x, p3.x - p0.x + k * p3.x, p0.x},
+                               {p1.y - p0.y + g * p1.y, p3.y - p0.y + k * p3.y, p0.y},
+                               {g, k, 1}};
+    PerspectiveMap map;
+    for (int i = 0; i < 3; ++i) {
+        const double across = unit[i][0] / from.across, down = unit[i][1] / from.down;
+        const double rest = (unit[i][2] - across * from.left) - down * from.top;
+        map.c[3 * i] = across, map.c[3 * i + 1] = down, map.c[3 * i + 2] = rest;
+    }
+    if (const double last = map.c[8]; last != 0)
+        for (double& number : map.c) number /= last;
+    return map;
+}
+
+BilinearMap ownpi_GetBilinearTransform(Corners from, const Quad& to) {
+    BilinearMap map;
+    for (int i = 0; i < 2; ++i) {
+        const auto at = [&](int k) { return i ? to.corner[k].y : to.corner[k].x; };
+        const double e = ((at(0) - at(1)) + at(2)) - at(3);
+        const double across = (at(1) - at(0)) / from.across, down = (at(3) - at(0)) / from.down;
+        const double c0 = e / (from.across * from.down);
+        const double c3 = ((at(0) - across * from.left) - down * from.top) + (c0 * from.left) * from.top;
+        const double all[] = {c0, across - c0 * from.top, down - c0 * from.left, c3};
+        for (int k = 0; k < 4; ++k) map.c[i][k] = all[k];
+    }
+    return map;
+}
+
+bool PerspectiveMap::faces(const Corners& r) const {
+    const double corners[] = {row(2, {r.left, r.top}), row(2, {r.right(), r.top}), row(2, {r.right(), r.bottom()}),
+                              row(2, {r.left, r.bottom()})};
+    int front = 0, back = 0;
+    for (const double d : corners) front += d > 0, back += d < 0;
+    return front == 4 || back == 4;
+}
+
+// The whole pixels round what a map makes of a rectangle.
+template <class Map>
+PixelRange pixelsOf(Roi image, const Map& map, Corners to) {
+    const Bound bound = ownpi_GetQuadrangleBound(Quad(map, to));
     return {std::max(roundedDown(bound.least.x), 0.0), std::max(roundedDown(bound.least.y), 0.0),
             std::min(roundedUp(bound.greatest.x), double(image.width - 1)),
             std::min(roundedUp(bound.greatest.y), double(image.height - 1))};
+}
+PixelRange ownpi_WarpAffineRect(Roi image, const AffineMap& map, Corners to) {
+    const AffineMap back = map.inverse();
+    const auto source = [&](Point p) {
+        return Point{back.xx * p.x + (back.xy * p.y + back.x0), back.yx * p.x + (back.yy * p.y + back.y0)};
+    };
+    return pixelsOf(image, source, to);
+}
+PixelRange ownpi_WarpPerspectiveRect(Roi image, const PerspectiveMap& map, Corners to) {
+    const PerspectiveMap back = map.adjugate();
+    bool finite = true;
+    for (const double x : {to.left, to.right()})
+        for (const double y : {to.top, to.bottom()}) finite = finite && isFinite(back.row(2, {x, y}));
+    if (!finite || !back.faces(to)) return {0, 0, double(image.width - 1), double(image.height - 1)};
+    return pixelsOf(image, back, to);
 }
 
 }  // namespace zmv

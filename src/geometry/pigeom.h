@@ -1,4 +1,5 @@
-// The plane under affine maps: corners, quadrangles, bounds.  All of it rounds to nearest, which the entries see to.
+// The plane under maps of three kinds: corners, quadrangles, bounds.  All of it rounds to nearest, which the entries
+// see to.
 #pragma once
 
 #include <algorithm>
@@ -32,6 +33,7 @@ struct Point {
 };
 
 // (x, y) goes to (xx x + xy y + x0, yx x + yy y + y0).
+struct Corners;
 struct AffineMap {
     double xx, xy, x0, yx, yy, y0;
     static AffineMap from(const double (*c)[3]) {
@@ -41,11 +43,17 @@ struct AffineMap {
         const double all[] = {xx, xy, x0, yx, yy, y0};
         for (int i = 0; i < 6; ++i) putNumber(&c[i / 3][i % 3], all[i]);
     }
+    using Numbers = double[3];
     Point operator()(Point p) const { return {xx * p.x + xy * p.y + x0, yx * p.x + yy * p.y + y0}; }
     bool finite() const {
         return isFinite(xx) && isFinite(xy) && isFinite(x0) && isFinite(yx) && isFinite(yy) && isFinite(y0);
     }
     double determinant() const { return xx * yy - xy * yx; }
+    static constexpr bool faces(const Corners&) { return true; }
+    AffineMap inverse() const {
+        const double d = determinant();
+        return {yy / d, -xy / d, (xy * y0 - yy * x0) / d, -yx / d, xx / d, (yx * x0 - xx * y0) / d};
+    }
 };
 
 // The corners of a rectangle are centres of pixels, the last ones at width - 1 and height - 1.
@@ -78,6 +86,56 @@ struct Quad {
     Quad() = default;
 };
 
+// (x, y) goes to n / d, n being the first row or the second at (x, y, 1), d the third.
+struct PerspectiveMap {
+    double c[9];
+    using Numbers = double[3];
+    static PerspectiveMap from(const double (*c)[3]) {
+        PerspectiveMap map;
+        for (int i = 0; i < 9; ++i) map.c[i] = get(&c[i / 3][i % 3]);
+        return map;
+    }
+    void to(double (*to)[3]) const {
+        for (int i = 0; i < 9; ++i) putNumber(&to[i / 3][i % 3], c[i]);
+    }
+    double row(int i, Point p) const { return c[3 * i] * p.x + (c[3 * i + 1] * p.y + c[3 * i + 2]); }
+    Point operator()(Point p) const { return {row(0, p) / row(2, p), row(1, p) / row(2, p)}; }
+    // The map back, times the determinant.
+    PerspectiveMap adjugate() const {
+        return {{c[4] * c[8] - c[5] * c[7], c[2] * c[7] - c[1] * c[8], c[1] * c[5] - c[2] * c[4],
+                 c[5] * c[6] - c[3] * c[8], c[0] * c[8] - c[2] * c[6], c[2] * c[3] - c[0] * c[5],
+                 c[3] * c[7] - c[4] * c[6], c[1] * c[6] - c[0] * c[7], c[0] * c[4] - c[1] * c[3]}};
+    }
+    bool finite() const {
+        bool all = true;
+        for (const double x : c) all = all && isFinite(x);
+        return all;
+    }
+    double determinant() const {
+        const PerspectiveMap b = adjugate();
+        return (c[0] * b.c[0] + c[1] * b.c[3]) + c[2] * b.c[6];
+    }
+    // Whether a rectangle lies on one side of the line that goes to infinity.
+    bool faces(const Corners&) const;
+};
+
+// (x, y) goes to (c0 x y + c1 x + c2 y + c3), with numbers of its own for either axis.
+struct BilinearMap {
+    double c[2][4];
+    using Numbers = double[4];
+    static BilinearMap from(const double (*c)[4]) {
+        BilinearMap map;
+        for (int i = 0; i < 8; ++i) map.c[i / 4][i % 4] = get(&c[i / 4][i % 4]);
+        return map;
+    }
+    void to(double (*to)[4]) const {
+        for (int i = 0; i < 8; ++i) putNumber(&to[i / 4][i % 4], c[i / 4][i % 4]);
+    }
+    double row(int i, Point p) const { return (c[i][0] * p.y + c[i][1]) * p.x + (c[i][2] * p.y + c[i][3]); }
+    Point operator()(Point p) const { return {row(0, p), row(1, p)}; }
+    static constexpr bool faces(const Corners&) { return true; }
+};
+
 struct Bound {
     Point least, greatest;
 };
@@ -86,6 +144,8 @@ bool ownpi_CheckQuad(const Quad& quad);
 Bound ownpi_GetQuadrangleBound(const Quad& quad);
 bool isParallelogram(const Quad& quad);
 AffineMap ownpi_GetAffineTransform(Corners from, const Quad& to);
+PerspectiveMap ownpi_GetPerspectiveTransform(Corners from, const Quad& to);
+BilinearMap ownpi_GetBilinearTransform(Corners from, const Quad& to);
 // The smallest rectangle of whole pixels of an image that holds the points which `map` takes to pixels between the
 // corners `to`; empty where the image has none of them.
 struct PixelRange {
@@ -93,5 +153,7 @@ struct PixelRange {
     bool empty() const { return !(left <= right && top <= bottom); }
 };
 PixelRange ownpi_WarpAffineRect(Roi image, const AffineMap& map, Corners to);
+// All pixels where `to` does not lie on one side of the line that comes from infinity.
+PixelRange ownpi_WarpPerspectiveRect(Roi image, const PerspectiveMap& map, Corners to);
 
 }  // namespace zmv

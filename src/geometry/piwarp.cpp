@@ -1,4 +1,4 @@
-// zmviGetRotateTransform and its neighbours: matrices of affine maps, and what they do to rectangles.
+// zmviGetRotateTransform and its neighbours: coefficients of maps, and what they do to rectangles.
 #include "geometry/pigeom.h"
 #include "kernels/rounding.h"
 
@@ -54,29 +54,36 @@ StatusCode ownpi_GetRotateShift(double x, double y, double angle, double* xShift
     return STATUS_OK;
 }
 
-template <class Rect>
-StatusCode ownpi_GetAffineTransformOf(Rect from, const double (*quad)[2], double (*coeffs)[3]) {
+template <auto transform, class Rect, class Numbers>
+StatusCode ownpi_GetTransformOf(Rect from, const double (*quad)[2], Numbers* coeffs) {
     if (auto bad = firstOf({pointers(quad, coeffs), rectangle(from)})) return bad;
     const Quad to = Quad::from(quad);
     if (!ownpi_CheckQuad(to)) return STATUS_BAD_QUAD;
-    const StatusCode status = isParallelogram(to) ? STATUS_OK : STATUS_WARN_NOT_PARALLELOGRAM;
     if (from.width < 2 || from.height < 2) return STATUS_BAD_RECT;
-    ownpi_GetAffineTransform(Corners(from), to).to(coeffs);
-    return status;
+    transform(Corners(from), to).to(coeffs);
+    return STATUS_OK;
 }
 
 template <class Rect>
-StatusCode ownpi_GetAffineQuad(Rect from, double (*quad)[2], const double (*coeffs)[3]) {
+StatusCode ownpi_GetAffineTransformOf(Rect from, const double (*quad)[2], double (*coeffs)[3]) {
+    const bool skewed = quad && !isParallelogram(Quad::from(quad));
+    const StatusCode bad = ownpi_GetTransformOf<ownpi_GetAffineTransform>(from, quad, coeffs);
+    return bad ? bad : skewed ? STATUS_WARN_NOT_PARALLELOGRAM : STATUS_OK;
+}
+
+template <class Map, class Rect>
+StatusCode ownpi_GetQuad(Rect from, double (*quad)[2], const typename Map::Numbers* coeffs) {
     if (auto bad = firstOf({pointers(quad, coeffs), rectangle(from)})) return bad;
-    const Quad image(AffineMap::from(coeffs), Corners(from));
+    const Map map = Map::from(coeffs);
+    const Quad image(map, Corners(from));
     image.to(quad);
-    return ownpi_CheckQuad(image) ? STATUS_OK : STATUS_BAD_COEFFS;
+    return ownpi_CheckQuad(image) && map.faces(Corners(from)) ? STATUS_OK : STATUS_BAD_COEFFS;
 }
 
-template <class Rect>
-StatusCode ownpi_GetAffineBound(Rect from, double (*bound)[2], const double (*coeffs)[3]) {
+template <class Map, class Rect>
+StatusCode ownpi_GetBound(Rect from, double (*bound)[2], const typename Map::Numbers* coeffs) {
     double quad[4][2];
-    const StatusCode status = bound ? ownpi_GetAffineQuad(from, quad, coeffs) : StatusCode(STATUS_NULL_POINTER);
+    const StatusCode status = bound ? ownpi_GetQuad<Map>(from, quad, coeffs) : StatusCode(STATUS_NULL_POINTER);
     if (status != STATUS_OK && status != STATUS_BAD_COEFFS) return status;
     const auto [least, greatest] = ownpi_GetQuadrangleBound(Quad::from(quad));
     const double all[] = {least.x, least.y, greatest.x, greatest.y};
@@ -88,22 +95,22 @@ template <class Rect>
 StatusCode ownpi_GetRotateQuad(Rect from, double (*quad)[2], double angle, double xShift, double yShift) {
     double coeffs[2][3];
     const StatusCode bad = ownpi_GetRotateTransform(angle, xShift, yShift, coeffs);
-    return bad ? bad : ownpi_GetAffineQuad(from, quad, coeffs);
+    return bad ? bad : ownpi_GetQuad<AffineMap>(from, quad, coeffs);
 }
 template <class Rect>
 StatusCode ownpi_GetRotateBound(Rect from, double (*bound)[2], double angle, double xShift, double yShift) {
     double coeffs[2][3];
     const StatusCode bad = ownpi_GetRotateTransform(angle, xShift, yShift, coeffs);
-    return bad ? bad : ownpi_GetAffineBound(from, bound, coeffs);
+    return bad ? bad : ownpi_GetBound<AffineMap>(from, bound, coeffs);
 }
 
-template <class Size, class Rect>
-StatusCode ownpi_GetAffineSrcRoi(Size srcSize, const double (*coeffs)[3], Rect to, Rect* srcRoi) {
+template <class Map, auto rangeOf, class Size, class Rect>
+StatusCode ownpi_GetSrcRoi(Size srcSize, const double (*coeffs)[3], Rect to, Rect* srcRoi) {
     if (auto bad = firstOf({pointers(coeffs, srcRoi), size(srcSize), size(Roi(to.width, to.height))})) return bad;
-    const AffineMap map = AffineMap::from(coeffs);
+    const Map map = Map::from(coeffs);
     const double d = map.determinant();
     if (!map.finite() || !isFinite(d) || d == 0) return STATUS_BAD_COEFFS;
-    const PixelRange range = ownpi_WarpAffineRect(srcSize, map, Corners(to));
+    const PixelRange range = rangeOf(srcSize, map, Corners(to));
     if (range.empty()) return STATUS_WARN_NO_INTERSECTION;
     using Index = decltype(srcSize.width);
     // The last index of the largest sizes has no double of its own.
@@ -128,3 +135,10 @@ AFFINE_BOUND_FAMILY
 ROTATE_QUAD_FAMILY
 ROTATE_BOUND_FAMILY
 AFFINE_SRC_ROI_FAMILY
+PERSPECTIVE_TRANSFORM_FAMILY
+PERSPECTIVE_QUAD_FAMILY
+PERSPECTIVE_BOUND_FAMILY
+PERSPECTIVE_SRC_ROI_FAMILY
+BILINEAR_TRANSFORM_FAMILY
+BILINEAR_QUAD_FAMILY
+BILINEAR_BOUND_FAMILY

@@ -1,13 +1,14 @@
 // A call of remap, checked: its driver makes it, and the module of each element type does it.
 #pragma once
 
+#include "kernels/interpolation.h"
 #include "kernels/readable.h"
 
 namespace zmv {
 
 // What coordinates are given in, and all is computed in.
 template <class T>
-using MapOf = std::conditional_t<sizeof(T) == 8, double, float>;
+using MapOf = Formed<T>;
 
 template <class T>
 struct Remapping {

@@ -1,21 +1,116 @@
 // The walker of maps: from a vector of coordinates to pixels.
 #pragma once
 
+#include "geometry/pointwriter.h"
 #include "geometry/remap.h"
-#include "kernels/masked.h"
 #include "kernels/rounding.h"
-#include "kernels/rows.h"
-#include "kernels/sampler.h"
 
 namespace zmv {
+
+// Where the pixels under a kernel are at a block of points, in what may be read.
+template <class Kernel, class T, int n>
+class MapSampler : public Sampler<Kernel, T, n> {
+    using Base = Sampler<Kernel, T, n>;
+    using W = typename Base::W;
+    using V = typename Base::V;
+    using Places = zmv::Places<W>;
+    static constexpr int taps = Kernel::taps, pixel = n * int(sizeof(T));
+    static constexpr int across = taps + Base::readsBehind;  // pixels of a row that are read
+
+  public:
+    using Mask = Vec<Bits<W>>;
+    using Base::most;
+
+    explicit MapSampler(const Readable<T>& from)
+        : Base(Kernel{}),
+          from_(from),
+          roomy_(from.right - from.left >= across - 1 && from.bottom - from.top >= taps - 1),
+          left_(Places{} + from.left),
+          top_(Places{} + from.top),
+          right_(Places{} + (from.right - (across - 1))),
+          bottom_(Places{} + (from.bottom - (taps - 1))) {}
+
+    // The points of a block from `first` on, inside of what may be read wherever `chosen`; `halves` says where those
+    // of the nearest pixel go up.
+    ZMV_INLINE void set(int first, V x, V y, Mask chosen, Mask halves) {
+        V fx, fy;
+        Places bx = whole(x, fx), by = whole(y, fy);
+        if constexpr (taps == 1) {
+            bx -= places((Mask)(fx >= W(0.5)) & halves), by -= places((Mask)(fy >= W(0.5)) & halves);
+            store(x_ + first, bx < right_ ? bx : right_);
+            store(y_ + first, by < bottom_ ? by : bottom_);
+        } else {
+            this->setFractions(first, fx, fy);
+            bx -= Kernel::before, by -= Kernel::before;
+            const Places inside = (bx >= left_) & (bx <= right_) & (by >= top_) & (by <= bottom_),
+                         cut = places(chosen) & ~inside;
+            store(x_ + first, inside ? bx : left_), store(y_ + first, inside ? by : top_);
+            store(cut_ + first, cut), store(cutX_ + first, bx), store(cutY_ + first, by);
+            anyCut_ = anyCut_ | cut;
+        }
+    }
+    // The pixel of a point, or the first under its kernel.
+    ZMV_INLINE const uint8_t* pixelOf(int point) const {
+        const auto data = reinterpret_cast<const uint8_t*>(from_.image.data);
+        return data + y_[point] * from_.image.step + Len(x_[point]) * pixel;
+    }
+    // What has been set, up to `count` points.
+    void fetch(int count) {
+        if (roomy_)
+            for (int i = 0; i < count; ++i) this->take(i, pixelOf(i), from_.image.step);
+        if (!anyOf(anyCut_)) return;
+        for (int i = 0; i < count; ++i)
+            if (cut_[i]) takeCut(i);
+        anyCut_ = Places{};
+    }
+
+  private:
+    static Places places(Mask m) {
+        if constexpr (sizeof(W) == 4)
+            return (Places)m;
+        else
+            return __builtin_convertvector((Vec<int64_t>)m, Places);
+    }
+    static bool anyOf(Places v) {
+        if constexpr (sizeof(v) >= 16)
+            return !allZero(v);
+        else
+            return v[0] | v[1];
+    }
+    // Whole numbers and fractions of numbers from 0 to 2^31.
+    static ZMV_INLINE Places whole(V v, V& fraction) {
+        Places base = wholeOf(v);
+        fraction = v - realOf<W>(base);
+        if constexpr (sizeof(W) == 4) {
+            const auto beyond = v >= W(2147483648.0);
+            base ^= beyond, fraction = beyond ? V{} : fraction;
+        }
+        return base;
+    }
+    // Pixels that may not be read count as the nearest that may.
+    void takeCut(int point) {
+        this->takeEach(point, [&](int i, int j, uint8_t* to) {
+            const auto row = reinterpret_cast<const uint8_t*>(
+                from_.image.row(std::clamp(cutY_[point] + j, from_.top, from_.bottom)));
+            __builtin_memcpy(to, row + Len(std::clamp(cutX_[point] + i, from_.left, from_.right)) * pixel, pixel);
+        });
+    }
+
+    const Readable<T> from_;
+    const bool roomy_;
+    const Places left_, top_, right_, bottom_;  // of base pixels whose kernels stay inside
+    Places anyCut_{};
+    alignas(64) int32_t x_[most], y_[most], cut_[most], cutX_[most], cutY_[most];
+};
 
 template <Layout layout, class Kernel, class T>
 class Remapper {
     using W = MapOf<T>;
     using V = Vec<W>;
     using Mask = Vec<Bits<W>>;
-    static constexpr int n = layout.channels, used = layout.used(), parts = int(sizeof(W) / sizeof(T));
-    using Pixels = Sampler<Kernel, W, T, n>;
+    static constexpr int n = layout.channels, used = layout.used();
+    using Pixels = MapSampler<Kernel, T, n>;
+    using Writer = PointWriter<layout, T, Kernel::between>;
 
   public:
     static constexpr int most = Pixels::most;
@@ -46,19 +141,12 @@ class Remapper {
         if (allZero(any)) return;
         if (Kernel::taps == 1 && !smooth_) return copy(dst, count, allZero(~all));
         pixels_.fetch(ready);
-        for (int first = 0; first < count; first += lanes<T>) {
-            T* const to = dst + first * n;
-            const int some = std::min(lanes<T>, count - first);
-            if (some == lanes<T>) {
-                write(first, xs, ys, to, count);
-                continue;
-            }
-            T last[lanes<T> * n] = {};  // nothing beyond the row
-            const size_t bytes = size_t(rowBytes<T>(some, used, n));
-            std::memcpy(last, to, bytes);
-            write(first, xs, ys, last, count);
-            std::memcpy(to, last, bytes);
-        }
+        Writer::write(dst, count, chosen_, [&](int first, const T* old, V* channels) {
+            pixels_.values(first, used, channels);
+            if (!smooth_) return;
+            const int some = std::min(lanes<W>, count - first);
+            fade(loadUpTo(xs + first, some), loadUpTo(ys + first, some), load(chosen_ + first), old, channels);
+        });
     }
 
   private:
@@ -71,45 +159,11 @@ class Remapper {
         for (int i = 0; i < count; ++i)
             if (all || chosen_[i]) copyPixel<bytes>(dst + i * n, pixels_.pixelOf(i));
     }
-    // A vector of pixels; dst: the pixels as they are.
-    ZMV_INLINE void write(int first, const W* xs, const W* ys, T* dst, int count) const {
-        std::array<std::array<V, parts>, n> values;
-        std::array<Mask, parts> chosen;
-        unrolled<parts>([&](auto part) {
-            const int at = first + part * lanes<W>, some = std::min(lanes<W>, count - at);
-            V channels[n] = {};
-            if (some > 0) {
-                chosen[part] = load(chosen_ + at);
-                pixels_.values(at, used, channels);
-                if (smooth_)
-                    fade(loadUpTo(xs + at, some), loadUpTo(ys + at, some), dst + part * lanes<W> * n, chosen[part],
-                         channels);
-            } else {
-                chosen[part] = Mask{};
-            }
-            for (int c = 0; c < n; ++c) values[size_t(c)][part] = channels[c];
-        });
-        writeChosen<layout>(bits(dst), joinedMasks<Bits<T>>(chosen), [&] {
-            Block<Vec<Bits<T>>, n> planes;
-            for (size_t c = 0; c < n; ++c) planes[c] = (Vec<Bits<T>>)joined<T>(values[c]);
-            return pixelsOf(planes);
-        });
-    }
-    // Towards the edge of the region what is there fades in.
-    __attribute__((noinline)) void fade(V x, V y, const T* dst, Mask chosen, V* values) const {
+    void fade(V x, V y, Mask chosen, const T* old, V* values) const {
         const Mask band = chosen & ~within(x, y, 0);
         if (allZero(band)) return;
         const auto outside = [](V v, V first, V last) { return larger(larger(first - v, v - last), V{}); };
-        const V ax = outside(x, left_, right_), ay = outside(y, top_, bottom_);
-        const V both = (1 - ax) * (1 - ay);
-        const V source = ay > 0 ? (ax > 0 ? both : 1 - ay) : 1 - ax;
-        const V old = ay > 0 ? (ax > 0 ? 1 - both : ay) : ax;
-        for (int c = 0; c < used; ++c) {
-            V pixels;
-            for (int i = 0; i < lanes<W>; ++i) pixels[i] = W(get(dst + i * n + c));
-            const V blended = sumInOrder<std::is_floating_point_v<T>>(values[c] * source, pixels * old);
-            values[c] = (V)select(band, (Mask)blended, (Mask)values[c]);
-        }
+        Writer::fade(outside(x, left_, right_), outside(y, top_, bottom_), band, old, values);
     }
 
     Pixels pixels_;
@@ -118,17 +172,15 @@ class Remapper {
     alignas(64) Bits<W> chosen_[most];
 };
 
-// Destinations are worked in tiles, so that the rows of the source under one stay near whichever way the maps turn.
 template <Layout layout, class Kernel, class T>
 __attribute__((noinline)) void remapBy(const Remapping<T>& job) {
     Remapper<layout, Kernel, T> remapper(job);
-    constexpr Len block = remapper.most, tileWidth = std::max<Len>(64, block), tileHeight = 16;
-    for (Len top = 0; top < job.roi.height; top += tileHeight)
-        for (Len left = 0; left < job.roi.width; left += tileWidth)
-            for (Len y = top; y < std::min(top + tileHeight, job.roi.height); ++y)
-                for (Len x = left; x < std::min(left + tileWidth, job.roi.width); x += block)
-                    remapper.run(job.xMap.row(y) + x, job.yMap.row(y) + x, job.dst.row(y) + x * layout.channels,
-                                 int(std::min(block, job.roi.width - x)));
+    constexpr Len block = remapper.most;
+    eachTileRow(job.roi, Roi(std::max<Len>(64, block), 16), [&](Len y, Len left, Len end) {
+        for (Len x = left; x < end; x += block)
+            remapper.run(job.xMap.row(y) + x, job.yMap.row(y) + x, job.dst.row(y) + x * layout.channels,
+                         int(std::min(block, end - x)));
+    });
 }
 
 template <class T>

@@ -11,6 +11,10 @@
 
 namespace zmv {
 
+// What values between pixels are formed in.
+template <class T>
+using Formed = std::conditional_t<sizeof(T) == 8, double, float>;
+
 // Coordinates as integers, in as many lanes.
 template <class W>
 using Places = Vec<int32_t, lanes<W> * 4>;
@@ -66,13 +70,16 @@ struct Weighted {
         return total;
     }
 };
-// The pixel that the point is nearest to, one half counting as nearer to the next.
+// The pixel that the point is nearest to, one half counting as nearer to the next.  `between` says of a kernel that its
+// values lie between those of pixels.
 struct NearestKernel {
     static constexpr int taps = 1, before = 0;
+    static constexpr bool between = true;
 };
 // On the line between two pixels; a constant stays itself exactly.
 struct LinearKernel {
     static constexpr int taps = 2, before = 0;
+    static constexpr bool between = true;
     template <class V>
     struct At {
         V fraction;
@@ -82,6 +89,10 @@ struct LinearKernel {
             return sumInOrder<real>(p[0], (p[1] - p[0]) * fraction);
         }
     };
+    template <class V>
+    static ZMV_INLINE At<V> at(V f) {
+        return At<V>(f);
+    }
 };
 // k * x, which nobody takes for x * -k: c - k * x and c + x * -k differ where the caller does not round to nearest, and
 // to compilers they are the same.
@@ -92,6 +103,7 @@ ZMV_INLINE V scaledBy(Element<V> k, V x) {
 // On the cubic through two pixels whose slopes there are those between their neighbours.
 struct CatmullRomKernel {
     static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, 4> {
         using T = Element<V>;
@@ -99,10 +111,15 @@ struct CatmullRomKernel {
             : Weighted<V, 4>{{((1 - scaledBy(T(0.5), f)) * f - T(0.5)) * f, (f * T(1.5) - T(2.5)) * f * f + 1,
                               ((2 - scaledBy(T(1.5), f)) * f + T(0.5)) * f, (f * T(0.5) - T(0.5)) * f * f}} {}
     };
+    template <class V>
+    static ZMV_INLINE At<V> at(V f) {
+        return At<V>(f);
+    }
 };
 // On the cubic through four pixels.
 struct LagrangeKernel {
     static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, 4> {
         using T = Element<V>;
@@ -111,11 +128,46 @@ struct LagrangeKernel {
             : Weighted<V, 4>{{((T(0.5) - scaledBy(sixth, f)) * f - third) * f, ((f * T(0.5) - 1) * f - T(0.5)) * f + 1,
                               ((T(0.5) - scaledBy(T(0.5), f)) * f + 1) * f, (f * sixth * f - sixth) * f}} {}
     };
+    template <class V>
+    static ZMV_INLINE At<V> at(V f) {
+        return At<V>(f);
+    }
+};
+// On the cubics of two parameters, as four polynomials of the fraction, the coefficient of its cube first.  The
+// parameters may be of any size: of a weight and a pixel that are both NaN the pixel goes on.
+template <class W>
+struct CubicFamilyKernel {
+    static constexpr int taps = 4, before = 1;
+    static constexpr bool between = false;
+    W p[taps][4];
+    template <class V>
+    struct At {
+        std::array<V, taps> weight;
+        template <bool real>
+        ZMV_INLINE V sum(const std::array<V, taps>& pixels) const {
+            const auto term = [&](size_t i) {
+                if constexpr (real)
+                    return mulInOrder(pixels[i], weight[i]);
+                else
+                    return pixels[i] * weight[i];
+            };
+            V total = term(0);
+            unrolled<taps - 1>([&](auto i) { total = sumInOrder<real>(total, term(i + 1)); });
+            return total;
+        }
+    };
+    template <class V>
+    ZMV_INLINE At<V> at(V f) const {
+        At<V> weights;
+        unrolled<taps>([&](auto i) { weights.weight[i] = ((p[i][0] * f + p[i][1]) * f + p[i][2]) * f + p[i][3]; });
+        return weights;
+    }
 };
 
 // The Lanczos kernel of three lobes, between the entries of its table, the weights divided by their sum.
 struct LanczosKernel {
     static constexpr int taps = 6, before = 2;
+    static constexpr bool between = false;
     template <class V>
     struct At : Weighted<V, taps> {
         using T = Element<V>;
@@ -145,6 +197,10 @@ struct LanczosKernel {
             for (V& w : this->weight) w /= sum;
         }
     };
+    template <class V>
+    static ZMV_INLINE At<V> at(V f) {
+        return At<V>(f);
+    }
 };
 
 }  // namespace zmv

@@ -1,4 +1,4 @@
-// Affine coefficients: the formulas of the banners in plain double, sines and cosines in long double.
+// Coefficients of maps: the formulas of the banners in plain double, sines and cosines in long double.
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -49,20 +49,32 @@ void arrangeAffine(Case& c) {
                 name == "angle" && c.rng.oneIn(2) ? angles[c.rng.below(int(std::size(angles)))] : real(c, 5000));
         if (!p.pointer) continue;
         const bool quad = name == "quad", coeffs = name == "coeffs";
-        const int rows = quad ? 4 : coeffs || name == "bound" ? 2 : 1;
-        Image& image = c.place(name, coeffs ? 3 : name == "srcRoi" ? 4 : rows == 1 ? 1 : 2, rows);
+        const bool perspective = c.member.name.find("Persp") != std::string::npos;
+        const int rows = quad ? 4 : coeffs && perspective ? 3 : coeffs || name == "bound" ? 2 : 1;
+        const int columns = c.member.name.find("Bilinear") != std::string::npos ? 4 : 3;
+        Image& image = c.place(name, coeffs ? columns : name == "srcRoi" ? 4 : rows == 1 ? 1 : 2, rows);
         if (name == "srcRoi") continue;
         const double range = quad ? 500 : source && c.rng.oneIn(2) ? 200 : 2;
         for (int y = 0; y < rows; ++y)
             for (int x = 0; x < image.width; ++x) c.set(image, x, y, 0, real(c, range));
+        if (rows == 3 && !c.rng.oneIn(4)) {  // no vanishing line near
+            put(c, "coeffs", 2, 0, real(c, 1) / 4096), put(c, "coeffs", 2, 1, real(c, 1) / 4096);
+            put(c, "coeffs", 2, 2, c.rng.oneIn(2) ? 1 : -1);
+        }
+        if (columns == 4 && coeffs && !c.rng.oneIn(4))
+            for (int y = 0; y < 2; ++y) put(c, "coeffs", y, 0, real(c, 1) / 1024);
         if (!quad || p.written || c.rng.oneIn(4)) continue;
         for (int k = 0; k < 2; ++k)  // a parallelogram, up to a corner that is a little off
             put(c, "quad", 3, k,
-                at(c, "quad", 0, k) + at(c, "quad", 2, k) - at(c, "quad", 1, k) + (c.rng.oneIn(3) ? 1e-12 : 0));
+                at(c, "quad", 0, k) + at(c, "quad", 2, k) - at(c, "quad", 1, k) + (c.rng.oneIn(3) ? 1e-12 : 0) +
+                    (c.rng.oneIn(3) ? real(c, 100) : 0));
     }
     // Outputs may be where inputs are.
     if (!c.has("coeffs") || c.has("angle") || c.has("srcSize") || !c.rng.oneIn(4)) return;
-    Image &outer = c.image(c.has("quad") ? "quad" : "coeffs"), &inner = c.image(c.has("quad") ? "coeffs" : "bound");
+    const bool large = c.image("coeffs").height == 3;  // which holds the other
+    Image &outer = c.image(c.has("quad") && !large ? "quad" : "coeffs"), &inner = c.image(!c.has("quad") ? "bound"
+                                                                                          : large        ? "quad"
+                                                                                                         : "coeffs");
     inner.block[0] = outer.block[0], inner.first[0] = outer.first[0], inner.pointer[0] = outer.pointer[0];
     c.arg(inner.name) = inner.pointer[0];
 }
@@ -110,11 +122,12 @@ Coefficients coefficientsOf(Case& c) {
     const auto k = [&](int i, int j) { return at(c, "coeffs", i, j); };
     return {{{k(0, 0), k(0, 1), k(0, 2)}, {k(1, 0), k(1, 1), k(1, 2)}}};
 }
+Quad cornersOf(const Slot& r) {
+    const double left = double(r.a), top = double(r.b), right = left + double(r.c - 1), bottom = top + double(r.d - 1);
+    return {{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
+}
 Quad quadOf(Case& c, const Coefficients& coeffs) {
-    const Slot& r = c.arg("srcRoi");
-    const double left = double(r.a), top = double(r.b);
-    const double right = left + double(r.c - 1), bottom = top + double(r.d - 1);
-    Quad quad = {{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
+    Quad quad = cornersOf(c.arg("srcRoi"));
     for (auto& [x, y] : quad) {
         const auto image = [&, x = x, y = y](size_t k) { return coeffs[k][0] * x + coeffs[k][1] * y + coeffs[k][2]; };
         x = image(0), y = image(1);
@@ -131,12 +144,17 @@ bool convex(const Quad& q) {
     }
     return left == 4 || right == 4;
 }
-void affineTransform(Case& c) {
+Quad givenQuad(Case& c) {
     Quad q;
     for (size_t i = 0; i < 4; ++i) q[i] = {at(c, "quad", int(i), 0), at(c, "quad", int(i), 1)};
-    if (!convex(q)) return void(c.expected = STATUS_BAD_QUAD);
     const Slot& r = c.arg("srcRoi");
-    if (r.c < 2 || r.d < 2) return void(c.expected = STATUS_BAD_RECT);
+    c.expected = !convex(q) ? STATUS_BAD_QUAD : r.c < 2 || r.d < 2 ? STATUS_BAD_RECT : STATUS_OK;
+    return q;
+}
+void affineTransform(Case& c) {
+    const Quad q = givenQuad(c);
+    if (c.expected != STATUS_OK) return;
+    const Slot& r = c.arg("srcRoi");
     const auto differ = [](double p, double d) {
         return std::fabs(p) <= 1e-200 ? std::fabs(d) > 1e-10 : std::fabs((p - d) / p) > 1e-10;
     };
@@ -181,27 +199,76 @@ void quadOrBound(Case& c) {
     if (!convex(quad)) c.expected = STATUS_BAD_COEFFS;
 }
 
-void affineSrcRoi(Case& c) {
-    const Coefficients coeffs = coefficientsOf(c);
-    const auto& [c00, c01, c02] = coeffs[0];
-    const auto& [c10, c11, c12] = coeffs[1];
-    const double d = c00 * c11 - c01 * c10;
-    for (const double x : {c00, c01, c02, c10, c11, c12, d})
-        if (!std::isfinite(x)) return void(c.expected = STATUS_BAD_COEFFS);
-    if (d == 0) return void(c.expected = STATUS_BAD_COEFFS);
-    const double back[2][3] = {{c11 / d, -c01 / d, (c01 * c12 - c11 * c02) / d},
-                               {-c10 / d, c00 / d, (c10 * c02 - c00 * c12) / d}};
-    const Slot& to = c.arg("dstRoi");
+// ---- Maps with four numbers more, or two ----
+
+void perspectiveTransform(Case& c) {
+    const auto q = givenQuad(c);
+    if (c.expected != STATUS_OK) return;
+    const Slot& r = c.arg("srcRoi");
+    const double w = double(r.c - 1), h = double(r.d - 1);
+    const auto X = [&](size_t i) { return q[i][0]; };
+    const auto Y = [&](size_t i) { return q[i][1]; };
+    const double x1 = X(1) - X(2), x2 = X(3) - X(2), x3 = ((X(0) - X(1)) + X(2)) - X(3);
+    const double y1 = Y(1) - Y(2), y2 = Y(3) - Y(2), y3 = ((Y(0) - Y(1)) + Y(2)) - Y(3);
+    const double e = x1 * y2 - x2 * y1, g = (x3 * y2 - x2 * y3) / e, k = (x1 * y3 - x3 * y1) / e;
+    double rows[3][3] = {{X(1) - X(0) + g * X(1), X(3) - X(0) + k * X(3), X(0)},
+                         {Y(1) - Y(0) + g * Y(1), Y(3) - Y(0) + k * Y(3), Y(0)},
+                         {g, k, 1}};
+    for (auto& [l, m, n] : rows) l /= w, m /= h, n = (n - l * double(r.a)) - m * double(r.b);
+    const double last = rows[2][2];
+    for (int i = 0; i < 9; ++i)
+        put(c, "coeffs", i / 3, i % 3, last != 0 ? rows[i / 3][i % 3] / last : rows[i / 3][i % 3]);
+}
+void bilinearTransform(Case& c) {
+    const auto q = givenQuad(c);
+    if (c.expected != STATUS_OK) return;
+    const Slot& r = c.arg("srcRoi");
+    const double w = double(r.c - 1), h = double(r.d - 1), x = double(r.a), y = double(r.b);
+    for (size_t k = 0; k < 2; ++k) {
+        const double e = ((q[0][k] - q[1][k]) + q[2][k]) - q[3][k], f = q[1][k] - q[0][k], g = q[3][k] - q[0][k];
+        const double c0 = e / (w * h);
+        const double all[] = {c0, f / w - c0 * y, g / h - c0 * x,
+                              ((q[0][k] - (f / w) * x) - (g / h) * y) + (c0 * x) * y};
+        for (int i = 0; i < 4; ++i) put(c, "coeffs", int(k), i, all[i]);
+    }
+}
+// A matrix at a point, its denominator with it.
+struct Seen {
+    double x, y, d;
+};
+Seen seen(const double (*b)[3], double x, double y) {
+    const auto row = [&](int i) { return b[i][0] * x + (b[i][1] * y + b[i][2]); };
+    return {row(0) / row(2), row(1) / row(2), row(2)};
+}
+template <auto putResult>
+void mappedQuad(Case& c) {
+    double k[3][4] = {};
+    const Image& coeffs = c.image("coeffs");
+    for (int i = 0; i < coeffs.height; ++i)
+        for (int j = 0; j < coeffs.width; ++j) k[i][j] = at(c, "coeffs", i, j);
+    const double b[3][3] = {{k[0][0], k[0][1], k[0][2]}, {k[1][0], k[1][1], k[1][2]}, {k[2][0], k[2][1], k[2][2]}};
+    Quad quad = cornersOf(c.arg("srcRoi"));
+    int front = 0, behind = 0;
+    for (auto& [x, y] : quad) {
+        const auto [px, py] = std::pair(x, y);
+        const Seen s = seen(b, px, py);
+        front += s.d > 0, behind += s.d < 0;
+        const auto line = [&](const double* n) { return (n[0] * py + n[1]) * px + (n[2] * py + n[3]); };
+        x = coeffs.width == 4 ? line(k[0]) : s.x, y = coeffs.width == 4 ? line(k[1]) : s.y;
+    }
+    putResult(c, quad);
+    if (!convex(quad) || (coeffs.width == 3 && front < 4 && behind < 4)) c.expected = STATUS_BAD_COEFFS;
+}
+
+void putSrcRoi(Case& c, const Quad& corners) {
     const int64_t lengths[] = {c.arg("srcSize").a, c.arg("srcSize").b};
     int64_t from[2], count[2];
-    for (int k = 0; k < 2; ++k) {
+    for (size_t k = 0; k < 2; ++k) {
         double least = INFINITY, greatest = -INFINITY;
-        for (const double x : {double(to.a), double(to.a) + double(to.c - 1)})
-            for (const double y : {double(to.b), double(to.b) + double(to.d - 1)}) {
-                const double at = back[k][0] * x + (back[k][1] * y + back[k][2]);
-                if (at != at) return void(c.expected = STATUS_WARN_NO_INTERSECTION);
-                least = std::min(least, at), greatest = std::max(greatest, at);
-            }
+        for (const auto& corner : corners) {
+            if (corner[k] != corner[k]) return void(c.expected = STATUS_WARN_NO_INTERSECTION);
+            least = std::min(least, corner[k]), greatest = std::max(greatest, corner[k]);
+        }
         const double end = double(lengths[k] - 1), first = std::max(std::floor(least), 0.0),
                      last = std::min(std::ceil(greatest), end);
         if (first > last) return void(c.expected = STATUS_WARN_NO_INTERSECTION);
@@ -215,6 +282,47 @@ void affineSrcRoi(Case& c) {
         else
             c.set(c.image("srcRoi"), i, 0, 0, int32_t(all[i]));
 }
+void perspectiveSrcRoi(Case& c) {
+    double k[3][3], b[3][3];
+    bool finite = true;
+    for (int i = 0; i < 9; ++i)
+        k[i / 3][i % 3] = at(c, "coeffs", i / 3, i % 3), finite &= std::isfinite(k[i / 3][i % 3]);
+    for (int i = 0; i < 3; ++i)
+        for (int j = 0; j < 3; ++j) {
+            const auto minor = [&](int r, int s, int t, int u) { return k[r][t] * k[s][u] - k[r][u] * k[s][t]; };
+            b[i][j] = minor((j + 1) % 3, (j + 2) % 3, (i + 1) % 3, (i + 2) % 3);
+        }
+    const double d = (k[0][0] * b[0][0] + k[0][1] * b[1][0]) + k[0][2] * b[2][0];
+    if (!finite || d == 0 || !std::isfinite(d)) return void(c.expected = STATUS_BAD_COEFFS);
+    Quad corners = cornersOf(c.arg("dstRoi"));
+    int front = 0, behind = 0;
+    for (auto& [x, y] : corners) {
+        const Seen s = seen(b, x, y);
+        front += s.d > 0 && std::isfinite(s.d), behind += s.d < 0 && std::isfinite(s.d);
+        x = s.x, y = s.y;
+    }
+    const double right = double(c.arg("srcSize").a - 1), bottom = double(c.arg("srcSize").b - 1);
+    if (front < 4 && behind < 4) corners = {{{0, 0}, {right, 0}, {right, bottom}, {0, bottom}}};
+    putSrcRoi(c, corners);
+}
+
+void affineSrcRoi(Case& c) {
+    const Coefficients coeffs = coefficientsOf(c);
+    const auto& [c00, c01, c02] = coeffs[0];
+    const auto& [c10, c11, c12] = coeffs[1];
+    const double d = c00 * c11 - c01 * c10;
+    for (const double x : {c00, c01, c02, c10, c11, c12, d})
+        if (!std::isfinite(x)) return void(c.expected = STATUS_BAD_COEFFS);
+    if (d == 0) return void(c.expected = STATUS_BAD_COEFFS);
+    const double back[2][3] = {{c11 / d, -c01 / d, (c01 * c12 - c11 * c02) / d},
+                               {-c10 / d, c00 / d, (c10 * c02 - c00 * c12) / d}};
+    Quad corners = cornersOf(c.arg("dstRoi"));
+    for (auto& [x, y] : corners) {
+        const auto source = [&, x = x, y = y](int k) { return back[k][0] * x + (back[k][1] * y + back[k][2]); };
+        x = source(0), y = source(1);
+    }
+    putSrcRoi(c, corners);
+}
 
 }  // namespace
 
@@ -226,3 +334,10 @@ extern const Family test_zmviGetAffineBound = {.arrange = arrangeAffine, .oracle
 extern const Family test_zmviGetAffineSrcRoi = {.arrange = arrangeAffine, .oracle = affineSrcRoi};
 extern const Family test_zmviGetRotateQuad = {.arrange = arrangeAffine, .oracle = quadOrBound<putQuad>};
 extern const Family test_zmviGetRotateBound = {.arrange = arrangeAffine, .oracle = quadOrBound<putBound>};
+extern const Family test_zmviGetPerspectiveTransform = {.arrange = arrangeAffine, .oracle = perspectiveTransform};
+extern const Family test_zmviGetPerspectiveQuad = {.arrange = arrangeAffine, .oracle = mappedQuad<putQuad>};
+extern const Family test_zmviGetPerspectiveBound = {.arrange = arrangeAffine, .oracle = mappedQuad<putBound>};
+extern const Family test_zmviGetPerspectiveSrcRoi = {.arrange = arrangeAffine, .oracle = perspectiveSrcRoi};
+extern const Family test_zmviGetBilinearTransform = {.arrange = arrangeAffine, .oracle = bilinearTransform};
+extern const Family test_zmviGetBilinearQuad = {.arrange = arrangeAffine, .oracle = mappedQuad<putQuad>};
+extern const Family test_zmviGetBilinearBound = {.arrange = arrangeAffine, .oracle = mappedQuad<putBound>};
