@@ -41,7 +41,7 @@ class PointWriter {
     }
     // Towards the edge of a region what is there fades in: in the band the values give way to the pixels by the
     // distances from the region, of which one is not zero.
-    static __attribute__((noinline)) void fade(V ax, V ay, Mask band, const T* old, V* values) {
+    __attribute__((noinline)) static void fade(V ax, V ay, Mask band, const T* old, V* values) {
         const V both = (1 - ax) * (1 - ay);
         const V source = ay > 0 ? (ax > 0 ? both : 1 - ay) : 1 - ax;
         const V rest = ay > 0 ? (ax > 0 ? 1 - both : ay) : ax;
