@@ -178,6 +178,14 @@ T& fake(const char* name) {
     return *static_cast<T*>(dlsym(fakeCore(), name));
 }
 
+// What narrow registers compute more slowly than memory takes what it writes.
+bool outlastsMemory(const Member& m) {
+    const std::string& family = m.row->name;
+    return underTest().build == "s3" &&
+           ((family == "zmviMul" && bytesOf(m.source) == 2) || family == "zmviMulScale" ||
+            (family == "zmviConvert" && isReal(m.source) && m.destination == Element::u16));
+}
+
 // The stores of one member that asks for the cache size; they begin when it has asked.
 std::string watchMember(const Member& m, int64_t bytesPerPixel, int kind, uint64_t seed = 1) {
     Case c(m, underTest(), seed, Mode::bulk);
@@ -213,7 +221,8 @@ std::string watchMember(const Member& m, int64_t bytesPerPixel, int kind, uint64
     // What is in place is near already; transposes stream where rows of the destination are whole lines.
     const bool turned =
         c.hasImage("src") && (image.width != c.image("src").width || m.name.rfind("zmviTranspose", 0) == 0);
-    const std::string bad = judge(watch, target, !m.inPlace && (kind == 1 || (kind != 3 && !turned)));
+    const std::string bad =
+        judge(watch, target, !m.inPlace && !outlastsMemory(m) && (kind == 1 || (kind != 3 && !turned)));
     return bad.empty() ? "" : m.name + " (" + std::to_string(kind) + "): " + bad;
 }
 

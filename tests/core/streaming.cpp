@@ -90,8 +90,9 @@ TEST(Streaming, AsksFromItsThresholdOn) {
     // products.  Roots of floats of one and three channels.  Conversions of 18 pairs of types with C1 C3 C4, and of 5
     // with C1.  Thresholds of one and three channels, two with four, in place too.  Mirrors of three types, and one
     // transpose.  The smaller and the larger of two images of three types.  Scaling between 8 pairs of types.
+    // Ramps of four types, and two windows.
     const int all = 3 * 5 + 4 * 4 + 1 + (3 * 4 + 1) * 3 * 2 + 3 * 3 * 3 + 2 * 3 + 2 + 18 * 3 + 5 + (7 * 2 + 2) * 4 * 2 +
-                    3 + 1 + 2 * 3 + 8 * 3;
+                    3 + 1 + 2 * 3 + 8 * 3 + 4 * 3 + 2 * 4;
     EXPECT_TRUE(asking == all || !options.only.empty()) << asking << ", not " << all;
 }
 
