@@ -154,11 +154,11 @@ void integerIndices(Image<const T> a, Image<const T> b, Roi roi, ImageSize windo
                   leaving < 0 ? nullptr : b.row(leaving), elements);
         if (leaving < -1) continue;
         decltype(sumsOf(0)) sums[kinds] = {sumsOf(0), sumsOf(1), sumsOf(2), sumsOf(3), sumsOf(4)};
-        constexpr Len most = mean.most / n;
-        for (Len x = 0; x < windows; x += most) {
-            const int pixels = int(std::min(most, windows - x));
+        constexpr int most = Mean<n, false>::most;
+        for (Len x = 0; x < windows; x += most / n) {
+            const int pixels = int(std::min<Len>(most / n, windows - x));
             for (int k = 0; k < kinds; ++k) {
-                S chunk[mean.most + lanes<uint32_t>];
+                S chunk[most + lanes<uint32_t>];
                 sums[k].next(chunk, pixels);
                 for (int i = 0; i < pixels * n; ++i) mean.sums[k][i] = asDouble(chunk[i]);
             }
