@@ -1,4 +1,4 @@
-// Arguments by the names of parameters.  A family whose parameters have names of their own adds them here.
+// Arguments of timed calls: those that depend on what is timed by their names, all others at their usual values.
 #include "call.h"
 
 #include <algorithm>
@@ -20,13 +20,13 @@ Call::Call(const Member& theMember, const Setting& theSetting, const Build& theB
 test::Slot Call::argument(const catalog::Parameter& p) {
     const int64_t bytes = std::max(1, catalog::bytesOf(p.element));
     if (p.planes) return planes(p.name, bytes);
-    if (p.pointer) return pointer(p.name, bytes);
+    if (p.pointer) return pointer(p, bytes);
     if (p.type.rfind("ImageSize", 0) == 0) {
         const ImageSizeL size = area(p.name);
         return {size.width, size.height};
     }
     if (p.role == catalog::Role::rectangle) return {0, 0, setting.width, setting.height};
-    const double value = number(p.name);
+    const double value = number(p);
     test::Slot slot{int64_t(value), int64_t(value)};  // a point has it twice
     const auto single = float(value);
     if (p.type == "float") std::memcpy(&slot.a, &single, sizeof single);
@@ -89,77 +89,40 @@ ImageSizeL Call::area(const std::string& name) const {
     unknown(name);
 }
 
-double Call::number(const std::string& name) const {
+double Call::number(const catalog::Parameter& p) const {
+    const std::string& name = p.name;
     static const std::map<std::string, int> codes = {{"8u", DATATYPE_8U},
                                                      {"16u", DATATYPE_16U},
                                                      {"16s", DATATYPE_16S},
                                                      {"32f", DATATYPE_32F},
                                                      {"64f", DATATYPE_64F}};
     if (const auto step = steps.find(name); step != steps.end()) return double(step->second);
-    if (name == "width") return double(setting.width);
+    if (name == "width" || name == "roiWidth") return double(setting.width);
     if (name == "height") return double(setting.height);
     if (name == "top" || name == "left") return setting.border;
     if (name == "maskSize") return setting.mask;
     if (name == "anchor") return kernelSide() / 2;
-    if (name == "borderType") return BORDER_REPL;
-    if (name == "roiWidth") return double(setting.width);
     if (name == "divisor") return kernelSide() * kernelSide();
     if (name == "kernelType") return type == "64f" ? DATATYPE_64F : wholeTaps() ? DATATYPE_16S : DATATYPE_32F;
-    if (name == "algType") return CONV_METHOD_AUTO | CONV_SHAPE_FULL;
-    if (name == "offset") return 0;
     if (name == "dataType" && std::string(member.name).ends_with("Init_64f")) return DATATYPE_64F;
     if (name.ends_with("DataType") && setting.about.empty()) return DATATYPE_16S;  // a pair that all queries take
     if (name == "dataType" || name == "srcDataType") return codes.at(type);
     if (name == "dstDataType") return codes.at(toType);
     if (name == "mask") return setting.mask == 5 && accepts("mask", MASK_5X5) ? MASK_5X5 : MASK_3X3;
-    if (name == "weight") return 3;
     if (name == "numChannels") {
         if (std::strstr(member.name, "MedianGetBufferSize_32f")) return std::max(3, fromChannels);
         const bool three = std::strstr(member.name, "LUT") && setting.about.find("AC4") != std::string::npos;
         return three ? 3 : std::max(1, fromChannels);
     }
     if (name == "interpolation") return has("pxMap") && setting.factor ? setting.factor : INTERP_LINEAR;
-    if (name == "angle") return 31;
-    if (name == "xCenter" || name == "yCenter" || name == "xShift" || name == "yShift") return 100;
-    if (name == "nBitSize") return 8;
-    if (name == "mVal") return 1.25;
-    if (name == "aVal" || name == "vMin") return 0;
-    if (name == "vMax") return 512;
-    if (name == "value" || name == "valueLT" || name == "valueGT") return 5;
-    if (name == "thresholdLT") return 85;
-    if (name == "threshold" || name == "thresholdGT") return 170;
-    if (name == "cmpOp") return CMP_GREATER;
-    if (name == "lowerBound") return 50;
-    if (name == "upperBound") return 200;
-    if (name == "hint") return setting.factor;
-    if (name.ends_with("BitOffset")) return 0;
-    if (name == "colorKey" || name == "loVal") return 5;
-    if (name == "hiVal") return 250;
-    if (name == "delta" || name == "valLE" || name == "borderValue") return 5;
-    if (name == "valGT") return 255;
-    if (name == "sigma") return 0;
-    if (name.rfind("alpha", 0) == 0 && name != "alphaType") return type == "32f" ? 0.4 : 100;
-    if (name == "alphaType") return setting.factor;
+    if (p.role == catalog::Role::constant && name.rfind("alpha", 0) == 0) return type == "32f" ? 0.4 : 100;
+    if (name == "hint" || name == "alphaType" || name == "scaleFactor") return setting.factor;
     if (name == "axis") return has("slope") ? setting.factor : AXIS_VERTICAL;
-    if (name == "slope") return 0.125;
-    if (name == "low" || name == "high") return name == "low" ? -20 : 20;
-    if (name == "mean" || name == "stdDev") return name == "mean" ? 0 : 10;
-    if (name == "seed") return 1;
-    if (name == "flags") return 0;
-    if (name == "scaleFactor") return setting.factor;
-    if (name == "roundMode") return ROUND_NEAR;
     if (name == "uniform") return 1;
-    if (name == "dstOffset" || name == "roiOffset" || name == "channel" || name == "shiftX" || name == "shiftY" ||
-        name == "B")
-        return 0;
-    if (name == "C") return 0.5;
-    if (name == "xOrder" || name == "yOrder") return 1;
-    if (name == "numLobes") return 3;
     if (name == "chromaFormat") return halvesRows() ? CHROMA_420 : CHROMA_422;
     if (name == "chromaSite") return CHROMA_LEFT;
-    if (name == "antialiasing" || name == "smoothEdge") return 0;
     if (name == "direction") return setting.factor == forwardWarp ? WARP_FORWARD : WARP_BACKWARD;
-    unknown(name);
+    return p.usual;
 }
 
 // Coordinates of an image that is turned by some degrees about its middle.
@@ -177,7 +140,9 @@ uint8_t* Call::map(const std::string& name) {
     return first;
 }
 
-void* Call::pointer(const std::string& name, int64_t element) {
+void* Call::pointer(const catalog::Parameter& p, int64_t element) {
+    using catalog::Role;
+    const std::string& name = p.name;
     if (name == "pxMap" || name == "pyMap") return element == 4 ? map<float>(name) : map<double>(name);
     if (name == "coeffs" && isWarp()) return warpCoefficients();
     if (name == "coeffs" || name == "quad") {
@@ -188,14 +153,11 @@ void* Call::pointer(const std::string& name, int64_t element) {
         std::memcpy(block.data(), name == "quad" ? square : is ? bilinear : coeffs, sizeof square);
         return block.data();
     }
-    if (name == "bound" || name == "xShift" || name == "yShift" || name == "srcRoi") return allocate(64).data();
     if (name == "src" || name == "src1" || name == "src2") return image(name, fromChannels * element);
     if (name == "dst" || name == "srcDst" || name == "dstMin" || name == "dstMax")
         return image(name, toChannels * element);
     if (name == "mask") return image(name, element);
-    if (name == "value" || name == "borderValue" || name.ends_with("Bound") || name.rfind("threshold", 0) == 0 ||
-        name.rfind("value", 0) == 0 || name == "colorKey")
-        return allocate(4 * element).data();
+    if (p.role == Role::constant || p.role == Role::borderValue) return allocate(4 * element).data();
     if (name == "dstOrder") {
         // Pixels of another size keep the order of their channels, the others get the first and third exchanged.
         static const int kept[] = {0, 1, 2, 3}, exchanged[] = {2, 1, 0, 3};
@@ -206,16 +168,10 @@ void* Call::pointer(const std::string& name, int64_t element) {
     if (name.ends_with("Step")) return planeSteps[name].data();
     if (name == "stepOut" || name == "pStateSize" || name == "pBufferSize" || name == "bufSize") return &answer;
     if (name == "initBuf") return allocate(8 * (area("dstSize").width + area("dstSize").height + 128)).data();
-    if (name == "specSize" || name == "initBufSize" || name == "borderSize" || name == "srcOffset" || name == "srcRoi")
-        return allocate(32).data();
-    if (name == "sum" || name == "mean" || name == "pMin" || name == "pMax" || name == "pIndexX" || name == "pIndexY" ||
-        name == "pCounts" || name == "pSpecSize" || name == "pThreshold" || name == "pSize" || name == "pDp" ||
-        name == "pQuality" || name == "pValue")
-        return allocate(32).data();
-    if (name == "pHu") return allocate(7 * element).data();
     if (name == "pSpec" || name == "spec" || name == "pState") return specObject();
     if (name == "pSrcDstState") return maker->spec;
     if (name == "pHist") return allocate(bins * element).data();
+    if (p.role == Role::result) return allocate(64).data();
     if (name == "pTable") return allocate(bins * toChannels * element).data();
     if (name == "nLevels") return levels<int>(bins + 1, 0);
     if (name == "lowerLevel") return levels<float>(0, 0);
@@ -321,11 +277,18 @@ void* Call::warpCoefficients() {
     const double bend = 2e-5 * 1920 / double(setting.width);
     const double affine[] = {cosine, -sine, x0, sine, cosine, y0, 0, 0, 1};
     const double last = 1 - bend * (x + y / 2);  // the denominator, which is 1 in the middle
-    const double perspective[] = {cosine + bend * x, bend * x / 2 - sine,   x0 + (last - 1) * x,
-                                  sine + bend * y,   cosine + bend * y / 2, y0 + (last - 1) * y,
-                                  bend,              bend / 2,              last};
-    const double bilinear[] = {bend,  cosine - bend * y, -sine - bend * x, x0 + bend * x * y,
-                               -bend, sine + bend * y,   cosine + bend * x, y0 - bend * x * y, 0};
+    const double perspective[] = {cosine + bend * x,
+                                  bend * x / 2 - sine,
+                                  x0 + (last - 1) * x,
+                                  sine + bend * y,
+                                  cosine + bend * y / 2,
+                                  y0 + (last - 1) * y,
+                                  bend,
+                                  bend / 2,
+                                  last};
+    const double bilinear[] = {bend,  cosine - bend * y, -sine - bend * x,  x0 + bend * x * y,
+                               -bend, sine + bend * y,   cosine + bend * x, y0 - bend * x * y,
+                               0};
     Memory& block = allocate(sizeof affine);
     std::memcpy(block.data(),
                 std::strstr(member.name, "Persp")      ? perspective

@@ -69,8 +69,8 @@ class Call {
 
     test::Slot argument(const catalog::Parameter& parameter);
     ImageSizeL area(const std::string& name) const;
-    double number(const std::string& name) const;
-    void* pointer(const std::string& name, int64_t element);
+    double number(const catalog::Parameter& p) const;
+    void* pointer(const catalog::Parameter& p, int64_t element);
     void* planes(const std::string& name, int64_t element);
     uint8_t* image(const std::string& name, int64_t pixel, int plane = 0);
     // Of a kernel, mask counts its side, and from 100 on its taps: 100 more for real ones, 200 for a column times a
