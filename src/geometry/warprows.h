@@ -157,10 +157,10 @@ struct WarpReach {
     bool anyInner, all;
     WarpReach(const WarpHeader& h, int word, int reach, int behind, bool fills, bool isNear) {
         const WarpAxis columns(h.left, h.width, word, reach), rows(h.top, h.height, word, reach);
-        all = word == BORDER_REPL || word == BORDER_MIRROR;
+        // Where the constant does not come out by itself points left and above may matter, NaN among them.
+        all = word == BORDER_REPL || word == BORDER_MIRROR || (word == BORDER_CONST && !fills);
         const double more = word == BORDER_CONST ? reach : h.smoothEdge ? 1 : nearEdge;
         looked = {columns.first - more, columns.last + more, rows.first - more, rows.last + more};
-        if (word == BORDER_CONST && !fills) looked.left = looked.top = -std::numeric_limits<double>::infinity();
         // The last pixel is not among them: its kernel wants the next.
         const double less = reach - 1;
         const auto below = [](double x) { return x > 0 ? std::bit_cast<double>(std::bit_cast<uint64_t>(x) - 1) : -1; };

@@ -250,7 +250,7 @@ void mappedQuad(Case& c) {
     Quad quad = cornersOf(c.arg("srcRoi"));
     int front = 0, behind = 0;
     for (auto& [x, y] : quad) {
-        const auto [px, py] = std::pair(x, y);
+        const double px = x, py = y;
         const Seen s = seen(b, px, py);
         front += s.d > 0, behind += s.d < 0;
         const auto line = [&](const double* n) { return (n[0] * py + n[1]) * px + (n[2] * py + n[3]); };

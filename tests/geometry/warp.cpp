@@ -35,13 +35,13 @@ void anyMap(Case& c, Warp& w, WarpPoint from, WarpPoint to, double size) {
     const int kind = c.rng.below(6);
     const double angle = unit(c) * 3.2, scale = c.rng.oneIn(3) ? c.rng.between(1, 5) : 0.3 + 2 * std::fabs(unit(c));
     double xx = std::cos(angle) * scale, xy = std::sin(angle) * scale, x0, y0;
-    if (kind < 3) xx = turns[c.rng.below(4)][0], xy = xx != 0 ? 0 : c.rng.oneIn(2) ? 1 : -1;
+    if (kind < 3) xx = turns[kind == 0 ? 0 : c.rng.below(4)][0], xy = xx != 0 ? 0 : c.rng.oneIn(2) ? 1 : -1;
     if (kind == 2) xx *= scale, xy *= scale;
     const double flip = c.rng.oneIn(3) ? -1 : 1;
     const double m[2][2] = {{xx, xy}, {-xy * flip, xx * flip}};
     x0 = to.x - (m[0][0] * from.x + m[0][1] * from.y), y0 = to.y - (m[1][0] * from.x + m[1][1] * from.y);
     if (kind == 0) {
-        static const double parts[] = {0, 0, 0.5, 0x1p-20, 0x1p-20 + 0x1p-40, -0x1p-20, 1 / 3.0, -0x1p-21};
+        static const double parts[] = {0, 0.5, 0.5, 0x1p-20, 0x1p-20 + 0x1p-40, -0x1p-20, 1 / 3.0, -0x1p-21};
         x0 = std::floor(x0) + parts[c.rng.below(8)], y0 = std::floor(y0) + parts[c.rng.below(8)];
     }
     double rows[3][4] = {{m[0][0], m[0][1], x0}, {m[1][0], m[1][1], y0}, {0, 0, 1}};
