@@ -1,6 +1,7 @@
 // zmviFilterBorder and zmviFilter, their queries and the spec object.
 #include "filter/convolve.h"
 
+#include <bit>
 #include <cmath>
 
 #include "arith/arith.h"
@@ -76,20 +77,21 @@ void tellKernel(Case& c, int kw, int kh, bool integers) {
         int left = 127 + c.rng.below(3);
         for (int& tap : taps) tap = left ? c.rng.below(std::min(left, 9) + 1) : 0, left -= tap;
         taps[size_t(c.rng.below(area))] += left;
-        if (c.rng.oneIn(2)) std::transform(taps.begin(), taps.end(), taps.begin(), std::negate<>());
+        if (c.rng.oneIn(4)) std::transform(taps.begin(), taps.end(), taps.begin(), std::negate<>());
     } else if (kind == 3) {  // a column times a row, or a unit away from it
         std::vector<int> row(static_cast<size_t>(kw));
-        const int size = c.rng.oneIn(2) ? 180 : 5;
+        const int sizes[] = {5, 40, 180}, size = sizes[c.rng.below(3)], least = c.rng.oneIn(2) ? 1 : -size;
         for (int& r : row) r = c.rng.between(-size, size);
         for (int i = 0; i < kh; ++i)
-            for (int j = 0, f = c.rng.between(-size, size); j < kw; ++j) taps[size_t(i * kw + j)] = f * row[size_t(j)];
+            for (int j = 0, f = c.rng.between(least, size); j < kw; ++j) taps[size_t(i * kw + j)] = f * row[size_t(j)];
         if (c.rng.oneIn(4)) taps[size_t(c.rng.below(area))] += 1;
         for (int& tap : taps) tap = std::max(-32768, std::min(32767, tap));
     }
     const float unit = c.rng.oneIn(2) ? std::ldexp(1.0f, -c.rng.below(12)) : 1 / float(c.rng.between(1, 99));
     for (const int tap : taps) {
         told.whole.push_back(int16_t(tap));
-        told.single.push_back(c.rng.oneIn(200) && kind == 1 ? (c.rng.oneIn(2) ? NAN : INFINITY) : float(tap) * unit);
+        const float rare = c.rng.oneIn(2) ? std::bit_cast<float>(0x7fc00000 | c.rng.below(1 << 22)) : INFINITY;
+        told.single.push_back(c.rng.oneIn(200) && kind == 1 ? rare : float(tap) * unit);
         told.real.push_back(tap / 3.0);
     }
     if (kind == 4 && c.rng.oneIn(3)) told.single[0] = -0.0f, told.real[0] = -0.0;
@@ -104,7 +106,7 @@ void placeFilter(Case& c, int type, int channels) {
     FIND(l, zmviFilterBorderGetSize)(kernel, {1, 1}, type, kernelType, channels, &size, &unused);
     const int hint = c.rng.oneIn(4) ? ROUND_HINT_ACCURATE : 0;
     told.mode = type == DATATYPE_64F ? ROUND_NEAR : c.rng.below(3);
-    told.divisor = divisors[c.rng.below(int(std::size(divisors)))];
+    told.divisor = c.rng.oneIn(4) ? 1 << c.rng.below(11) : divisors[c.rng.below(int(std::size(divisors)))];
     const bool moves = (type == DATATYPE_16U || type == DATATYPE_8U) && c.rng.oneIn(2);
     const int ends[] = {INT_MAX, INT_MIN, 32768, -32768};
     if (moves) told.offset = c.rng.oneIn(6) ? ends[c.rng.below(4)] : c.rng.between(-400, 400);
@@ -145,6 +147,14 @@ void arrangeFilter(Case& c) {
     c.place("src", w, h,
             {readable(BORDER_IN_MEM_LEFT, reach.left), readable(BORDER_IN_MEM_RIGHT, reach.right),
              readable(BORDER_IN_MEM_TOP, reach.top), readable(BORDER_IN_MEM_BOTTOM, reach.bottom)});
+    if (type == Element::u8 && c.rng.oneIn(3)) {  // bright, so that sums come to their limits
+        const Image& src = c.image("src");
+        const int least = c.rng.oneIn(2) ? 255 : 192;
+        for (int64_t y = -src.readable.top; y < h + src.readable.bottom; ++y)
+            for (int64_t x = -src.readable.left; x < w + src.readable.right; ++x)
+                for (int k = 0; k < src.channels; ++k)
+                    c.set(src, x, y, k, uint8_t(c.get<uint8_t>(src, x, y, k) | least));
+    }
     c.rowsApart = true;
     c.place("dst", w, h);
     c.arg("borderValue") = nullptr;
