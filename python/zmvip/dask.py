@@ -27,19 +27,22 @@ def __getattr__(name):
 
 def lazily(function, *args, **keywords):
     """function(*args, **keywords), of dask arrays: a dask array, a tuple of them, or numbers that compute() gives."""
-    spec = keywords["spec"] = function if isinstance(function, Spec) else keywords.get("spec")
+    if isinstance(function, Spec):
+        keywords["spec"] = function
     engine = function.engine
     unknown = [n for n in ("out", "mask") if n in keywords]
     if unknown:
         raise TypeError(f"dask: {engine.name} takes no {unknown[0]} here")
-    said = dict(keywords) if spec else {n: v for n, v in keywords.items() if n != "spec"}
-    plan = engine.plan(tuple(stand_in(a) for a in args), {n: stand_in(v) for n, v in said.items()})
+    plan = engine.plan(tuple(map(stand_in, args)), {n: stand_in(v) for n, v in keywords.items()})
     call = plan.call
     how = tiled(engine, plan, "dask")
     mode = call.mode()
     if mode == "maps":
         raise ValueError(f"dask: {engine.name}: nothing tells which part of the image the maps of a block take")
-    first = next(a for a in (*args, *said.values()) for a in (a if isinstance(a, (tuple, list)) else [a]) if is_lazy(a))
+    every = (a for v in (*args, *keywords.values()) for a in (v if isinstance(v, (tuple, list)) else [v]))
+    first = next(filter(is_lazy, every), None)
+    if first is None:
+        raise TypeError(f"dask: {engine.name}: takes a dask array")
     if np.isnan(sum(map(sum, first.chunks))):
         raise ValueError(f"dask: {engine.name}: takes arrays of known sizes")
     x, y, w, h = call.roi
@@ -50,14 +53,14 @@ def lazily(function, *args, **keywords):
         regions = [(l, t, r - l, b - t) for t, b in zip(edges[1], edges[1][1:]) for l, r in zip(edges[0], edges[0][1:])]
     else:
         regions = tiles(w, h, (max(columns), max(rows)), least)
-    said.pop("roi", None)
+    keywords.pop("roi", None)
     whole = call.source.height, call.source.width
     work = dask.delayed(block, pure=True)
     found = []
     for left, top, width, height in regions:
         region = x + left, y + top, width, height
         part, origin = sources(call, region)
-        found.append(work(engine.name, on_images(engine, args, said, lambda a: a[part]), region, origin, whole))
+        found.append(work(engine.name, on_images(engine, args, keywords, lambda a: a[part]), region, origin, whole))
     if how:
         return dask.delayed(together)(found, how, naming_of(plan))
     return assembled(plan, found, regions)
@@ -67,12 +70,12 @@ def is_lazy(value):
     return isinstance(value, dask.array.Array)
 
 
-def on_images(engine, args, said, f):
+def on_images(engine, args, keywords, f):
     """The arguments with f of each image, or plane, in its place."""
     each = lambda v: tuple(map(each, v)) if isinstance(v, (tuple, list)) else f(v) if getattr(v, "ndim", 0) > 1 else v
     names = [row[0] for row in engine.rows[:engine.images]]
     return ([each(a) if i < engine.images else a for i, a in enumerate(args)],
-            {n: each(v) if n in names else v for n, v in said.items()})
+            {n: each(v) if n in names else v for n, v in keywords.items()})
 
 
 def stand_in(value):
@@ -98,7 +101,7 @@ def sources(call, region):
 def block(name, arguments, region, origin, whole):
     """A region of the result from parts of the images, which seem to be there as a whole: so neighbours, places and sizes
     are those of the whole, and what is not there is never looked at."""
-    (args, said), function = arguments, getattr(zmvip, name)
+    (args, keywords), function = arguments, getattr(zmvip, name)
 
     def seeming(image):
         rows = np.empty((len(image), *whole[1:], *image.shape[2:]), image.dtype)  # no row overlaps the next
@@ -108,8 +111,8 @@ def block(name, arguments, region, origin, whole):
                   "typestr": image.dtype.str, "version": 3}
         return np.asarray(type("Seeming", (), {"__array_interface__": places, "rows": rows})())
 
-    args, said = on_images(function.engine, args, said, seeming)
-    return function(*args, **said, roi=region)
+    args, keywords = on_images(function.engine, args, keywords, seeming)
+    return function(*args, **keywords, roi=region)
 
 
 def assembled(plan, found, regions):

@@ -7,15 +7,9 @@
 #include <numeric>
 
 #include "core/spec.h"
+#include "geometry/region.h"
 
 namespace zmv {
-
-struct At {
-    Len x, y;
-    At(Len column, Len row) : x(column), y(row) {}
-    At(ImagePoint p) : x(p.x), y(p.y) {}
-    At(ImagePointL p) : x(p.x), y(p.y) {}
-};
 
 // Objects for 8u to 32f, and those for 64f.  The second number of the first kind is one that no initialiser writes.
 enum ResizeKind : uint32_t { singlePrecision = 13, singlePrecisionToo = 7, doublePrecision = 19 };

@@ -1,7 +1,5 @@
-// What the entries of all warps share: a call whose arguments are checked, and
-// its memory.  A map adds what its object holds and two functions of a
-// destination row: where its pixels come from, and which of them can come from
-// a box.
+// What the entries of all warps share: a call whose arguments are checked, and its memory.  A map adds what its object
+// holds and two functions of a destination row: where its pixels come from, and which of them can come from a box.
 #pragma once
 
 #include "geometry/warprows.h"
@@ -11,8 +9,7 @@
 
 namespace zmv {
 
-// One call, its arguments checked: a tile of the destination and the source
-// from its first pixel on.
+// One call, its arguments checked: a tile of the destination and the source from its first pixel on.
 template <class T>
 struct WarpJob {
     const WarpHeader& header;
@@ -20,7 +17,7 @@ struct WarpJob {
     Image<const T> src;
     Image<T> dst;
     Layout layout;
-    Place offset;
+    At offset;
     Roi size;
     int word;
     const T* borderValue;
@@ -47,8 +44,7 @@ inline StatusCode warpBorder(uint32_t word, bool smooth) {
 
 template <class T>
 StatusCode ownpi_Warp(const WarpMap& map, uint32_t interpolation, Layout layout, Image<const T> src, Image<T> dst,
-                      Place offset, Roi tile, uint32_t word, const T* borderValue, const WarpSpec* spec,
-                      uint8_t* buffer) {
+                      At offset, Roi tile, uint32_t word, const T* borderValue, const WarpSpec* spec, uint8_t* buffer) {
     const auto block = reinterpret_cast<const uint8_t*>(spec);
     const auto h = headerOf<WarpHeader>(block ? objectIn(block) : nullptr);
     const bool otherKind = h.kind != map.kind || h.interpolation != interpolation;

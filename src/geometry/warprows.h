@@ -1,5 +1,5 @@
-// Rows of a warp's destination: which of their pixels come from where, and what
-// stands for those that come from outside the region.
+// Rows of a warp's destination: which of their pixels come from where, and what stands for those that come from outside
+// the region.
 #pragma once
 
 #include "geometry/warpspec.h"
@@ -24,17 +24,14 @@ struct Box {
 
 struct WarpMap {
     WarpKind kind;
-    // The points of pixels x, x + 1 .. of row y, in whole groups of
-    // lanes<int32_t>.
+    // The points of pixels x, x + 1 .. of row y, in whole groups of lanes<int32_t>.
     void (*points)(const WarpHeader&, Len x, Len y, int count, double* xs, double* ys);
-    // Pixels of a row whose points lie in the box: exactly those where the object
-    // says that it tells; elsewhere all of those and some beside, or when asked
-    // `surely` none but those, as far as rounding allows.
+    // Pixels of a row whose points lie in the box: exactly those where the object says that it tells; elsewhere all of
+    // those and some beside, or when asked `surely` none but those, as far as rounding allows.
     Span (*within)(const WarpHeader&, Len y, Span row, const Box&, bool surely);
 };
 
-// points(i, X) for a vector of pixels at a time, as many as a map's `points`
-// has to give.
+// points(i, X) for a vector of pixels at a time, as many as a map's `points` has to give.
 template <class Points>
 ZMV_INLINE void eachVectorOfPixels(Len x, int count, const Points& points) {
     Vec<double> at;
@@ -43,8 +40,8 @@ ZMV_INLINE void eachVectorOfPixels(Len x, int count, const Points& points) {
         for (int k = 0; k < lanes<int32_t>; k += lanes<double>, at += lanes<double>) points(i + k, at);
 }
 
-// The first of from .. to - 1 for which `is`, which stays true once it is; to
-// where there is none.  Near the guess it takes two looks.
+// The first of from .. to - 1 for which `is`, which stays true once it is; to where there is none.  Near the guess it
+// takes two looks.
 template <class Is>
 Len firstWhere(Len from, Len to, double guess, const Is& is) {
     Len low = from, high = to;
@@ -79,9 +76,8 @@ Len firstWhere(Len from, Len to, double guess, const Is& is) {
     }
     return low;
 }
-// The numbers X of a span for which slope * X + rest, as it is rounded, lies
-// from least to most: products and sums never change their order by being
-// rounded, so that these are neighbours.
+// The numbers X of a span for which slope * X + rest, as it is rounded, lies from least to most: products and sums
+// never change their order by being rounded, so that these are neighbours.
 inline Span withinLine(double slope, double rest, double least, double most, Span span) {
     const auto value = [&](Len x) { return slope * double(x) + rest; };
     if (!isFinite(rest) || span.empty()) return {span.from, span.from};
@@ -96,9 +92,8 @@ inline Span withinLine(double slope, double rest, double least, double most, Spa
                              [&](Len x) { return up ? !(value(x) <= most) : !(value(x) >= least); })};
 }
 
-// The numbers X of a span for which slope * X + rest is not negative, but for
-// an error of both: some more, or when asked `surely` some less.  What is no
-// number says nothing.
+// The numbers X of a span for which slope * X + rest is not negative, but for an error of both: some more, or when
+// asked `surely` some less.  What is no number says nothing.
 inline Span withinHalf(double slope, double rest, double error, Span span, bool surely) {
     const double end = -(surely ? rest - error : rest + error) / slope;
     const double less = roundedDown(end), more = surely ? 2 : -1;
@@ -110,8 +105,7 @@ inline Span withinHalf(double slope, double rest, double error, Span span, bool 
     return span;
 }
 
-constexpr double nearEdge = 0x1p-20;  // what counts as inside: points that come
-                                      // back from where they were sent to
+constexpr double nearEdge = 0x1p-20;  // what counts as inside: points that come back from where they were sent to
 
 // An axis of the region, and what a border word makes of it.
 struct WarpAxis {
@@ -130,8 +124,7 @@ struct WarpAxis {
         const double low = beyond ? first - reach : first, high = beyond ? last + reach : last;
         return (v > low ? (v < high ? v : high) : low) + 0.0;  // no negative zero
     }
-    // The pixel of the region that stands for one, counted from its first; -1
-    // where the constant does.
+    // The pixel of the region that stands for one, counted from its first; -1 where the constant does.
     Len pixel(Len i) const {
         if (word == BORDER_MIRROR) return MirrorRule::at(i, count);
         if (word == BORDER_CONST && (i < 0 || i >= count)) return -1;
@@ -146,8 +139,7 @@ struct WarpAxis {
     }
 };
 
-// Of a row: what is looked at, the rest being left alone or constant, and the
-// pixels whose kernels lie inside.
+// Of a row: what is looked at, the rest being left alone or constant, and the pixels whose kernels lie inside.
 struct WarpRow {
     Span looked, inner;
 };

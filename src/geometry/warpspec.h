@@ -1,9 +1,9 @@
-// The spec object of all warps: what it holds, and how a map that is made of
-// numbers gets into it.
+// The spec object of all warps: what it holds, and how a map that is made of numbers gets into it.
 #pragma once
 
 #include "core/spec.h"
 #include "geometry/pigeom.h"
+#include "geometry/region.h"
 
 namespace zmv {
 
@@ -13,30 +13,17 @@ struct WarpHeader {
     static constexpr uint32_t itsTag = 0x50524157;
     static constexpr Len blockBytes = 512;
     uint32_t tag, kind, interpolation, smoothEdge;
-    uint32_t forward, exact,
-        moves;  // exact: the map tells exactly which pixels of a row come from a
-                // box; moves: a row comes from one, pixel by pixel
+    uint32_t forward;
+    uint32_t exact;  // the map tells exactly which pixels of a row come from a box
+    uint32_t moves;  // a row comes from one, pixel by pixel
     uint32_t unused;
     int64_t srcWidth, srcHeight, dstWidth, dstHeight;
-    int64_t left, top, width, height;  // the region inside of the source; width
-                                       // and height are 0 where there is none
+    int64_t left, top, width, height;  // the region inside of the source; width and height are 0 where there is none
     double map[20];                    // the map's own
     double weights[4][4];              // of a cubic kernel
     bool empty() const { return width == 0; }
 };
 static_assert(sizeof(WarpHeader) + objectAlignment - 1 <= WarpHeader::blockBytes);
-
-// Rectangles and points of both widths.
-struct Region {
-    Len x, y, width, height;
-    Region(ImageRect r) : x(r.x), y(r.y), width(r.width), height(r.height) {}
-    Region(ImageRectL r) : x(r.x), y(r.y), width(r.width), height(r.height) {}
-};
-struct Place {
-    Len x, y;
-    Place(ImagePoint p) : x(p.x), y(p.y) {}
-    Place(ImagePointL p) : x(p.x), y(p.y) {}
-};
 
 constexpr Len longestSide = Len(1) << 53;  // what coordinates can count
 inline StatusCode warpSize(Roi r) {
@@ -61,9 +48,8 @@ struct WarpWanted {
     uint32_t interpolation;
     CubicParameters cubic = {};
 };
-// A map that is made of numbers, in doubles: it has `kind`, how many `numbers`
-// it takes, and bool form(const double* c, WarpHeader&), which says no to
-// numbers that make no map.
+// A map that is made of numbers, in doubles: it has `kind`, how many `numbers` it takes, and
+// bool form(const double* c, WarpHeader&), which says no to numbers that make no map.
 template <class Map>
 StatusCode ownpi_WarpInit(const WarpWanted& w, const double* coeffs, WarpSpec* spec) {
     const Region& r = w.region;

@@ -5,9 +5,6 @@
 
 #include "filter/box.h"
 
-// A function of a library by its name, with the type that the public header gives it.
-#define FIND(library, name) reinterpret_cast<decltype(&name)>((library).find(#name))
-
 namespace test {
 
 inline constexpr int divisors[] = {1,   1,    2,    3,     4,     6,  8,  9,  16,  41,      100,     255,

@@ -10,8 +10,6 @@ namespace {
 
 using namespace test;
 
-#define FIND(library, name) reinterpret_cast<decltype(&name)>((library).find(#name))
-
 // ---- The order of elements, and the one in the middle ----
 
 template <class T>

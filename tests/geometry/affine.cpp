@@ -1,4 +1,6 @@
 // Coefficients of maps: the formulas of the banners in plain double, sines and cosines in long double.
+#include <gtest/gtest.h>
+
 #include <bit>
 #include <cmath>
 #include <limits>
@@ -30,8 +32,9 @@ void putNear(Case& c, const char* name, int row, int column, long double value, 
 
 // Numbers where all outputs and inputs are, rectangles near the limits, angles of every kind.
 void arrangeAffine(Case& c) {
-    static const double angles[] = {0,     90,     180,     270,  360, 450, -90,
-                                    1e300, 5e-324, -5e-324, 9e15, 30,  45,  89.99999999999999};
+    // Of the last -152 is left.
+    static const double angles[] = {
+        0, 90, 180, 270, 360, 450, -90, 1e300, 5e-324, -5e-324, 9e15, 30, 45, 89.99999999999999, 3.32821536696692e18};
     const int64_t far = c.member.large ? INT64_MAX / 2 : INT32_MAX;
     const auto length = [&] {
         return c.rng.oneIn(8) ? far - c.rng.below(3) : c.rng.between(1, c.rng.oneIn(4) ? 2 : 300);
@@ -322,6 +325,19 @@ void affineSrcRoi(Case& c) {
         x = source(0), y = source(1);
     }
     putSrcRoi(c, corners);
+}
+
+// Products that cancel where both are infinite: one corner is none, and the first one is not it.
+TEST(Affine, BoundOfACornerThatIsNone) {
+    constexpr int64_t far = INT64_MAX / 2;
+    const double coeffs[2][3] = {{1e300, -1e300, 0}, {1, 0, 0}};
+    for (const Library& library : builds()) {
+        double bound[2][2] = {};
+        EXPECT_EQ(FIND(library, zmviGetAffineBound_L)({1, 1, far, far}, bound, coeffs), STATUS_BAD_COEFFS);
+        EXPECT_TRUE(bound[0][0] != bound[0][0] && bound[1][0] != bound[1][0]) << library.build;
+        EXPECT_EQ(bound[0][1], 1) << library.build;
+        EXPECT_EQ(bound[1][1], double(far)) << library.build;
+    }
 }
 
 }  // namespace

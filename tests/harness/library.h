@@ -11,6 +11,8 @@ struct Library {
     void* handle = nullptr;
     void* find(const std::string& name) const;
 };
+// A function of a library by its name, with the type that the public header gives it.
+#define FIND(library, name) reinterpret_cast<decltype(&name)>((library).find(#name))
 
 struct Options {
     std::string builds, libs, core, only;  // codes of builds, separated by commas
