@@ -2,34 +2,18 @@
 """Prints what the Python package has of the library: tools/python.py api.json FOLDER writes _api.py (members, facts and
 the functions that are made of them), _docs.py, __init__.pyi and raw.pyi.  Nothing here knows a family: what it does not
 find in the roles and facts of api.json stays with zmvip.raw."""
-import json
-import keyword
 import re
 import sys
 from pathlib import Path
+
+from apijson import ENUMERATIONS, RENAMED, argument_name, groups, load, makers, word_of
 
 # Arguments that the package works out by itself: by role, or by a name that stands for one thing in all families.
 IMPLIED_ROLES = {"image", "planes", "step", "buffer", "spec object", "init buffer", "result", "mask"}
 IMPLIED = {"roiSize", "srcRoiSize", "srcSize", "src1Size", "src2Size", "width", "height", "roiWidth", "dstTileSize",
            "dstOffset", "roiOffset", "numChannels", "nLevels"}
-RENAMED = {"scaleFactor": "scale", "borderType": "border", "dstRoiSize": "size", "dstSize": "size"}
-WORDS = {"repl": "replicate", "const": "constant"}  # words of enumerations that are short in C
 TYPES = {"8u": "uint8", "8s": "int8", "16u": "uint16", "16s": "int16", "32u": "uint32", "32s": "int32", "64s": "int64",
          "64u": "uint64", "32f": "float32", "64f": "float64", "32fc": "complex64"}
-LAYOUT = re.compile(r"A?[CP]\d")
-
-
-def snake(name):
-    """pIndexX and LUTPalette as index_x and lut_palette."""
-    name = re.sub(r"^p(?=[A-Z])", "", name)
-    name = re.sub(r"([A-Z]+)([A-Z][a-z])", r"\1_\2", re.sub(r"([a-z0-9])([A-Z])", r"\1_\2", name))
-    name = re.sub(r"_+", "_", name).lower()
-    return name + "_" if keyword.iskeyword(name) else name
-
-
-def argument_name(argument):
-    name = argument["name"]
-    return "mask_size" if name == "mask" and argument["role"] == "option" else RENAMED.get(name) or snake(name)
 
 
 def implied(argument, siblings):
@@ -59,108 +43,6 @@ def parameters(arguments, facts):
         elif a["role"] in ("border value", "rectangle") or a["name"] in ("anchor", "dstRoiSize", "dstSize"):
             default = "None"
         found.append((argument_name(a), a["name"], default))
-    return found
-
-
-def word_of(argument):
-    value = argument.get("usual", 0)
-    return next((w for w, v in ENUMERATIONS.get(argument.get("enumeration"), {}).items() if v == value), value)
-
-
-def read_enumerations(api):
-    table = {}
-    for e in api["enumerations"]:
-        words = table.setdefault(e["prefix"], {})
-        for v in e["values"]:
-            word = v["name"][len(e["prefix"]):].lower()
-            words[WORDS.get(word, word)] = v["value"]
-    return table
-
-
-class Member:
-    """A member, and what its name says in Python's words."""
-
-    def __init__(self, json_member):
-        self.name, self.result = json_member["name"], json_member["result"]
-        self.arguments, self.letters, self.large = (json_member[k] for k in ("arguments", "letters", "large"))
-        types = json_member["types"] or [""]
-        layouts = LAYOUT.findall(json_member["layout"]) or [""]
-        self.source, self.destination = types[0], types[-1]
-        self.layouts = layouts[0], "C3" if "24u" in self.name else layouts[-1]
-
-    def row(self, shapes):
-        shape = tuple((a["name"], a["type"], a["role"], a["direction"], a.get("enumeration", ""), a.get("count", ""))
-                      for a in self.arguments)
-        return (self.name, shapes.setdefault(shape, len(shapes)), self.source, self.destination, *self.layouts,
-                self.letters, self.large, self.result)
-
-
-class Family:
-    def __init__(self, json_family):
-        self.name, self.facts, self.banner = (json_family[k] for k in ("name", "facts", "banner"))
-        self.page = json_family["page"]
-        self.members = [Member(m) for m in json_family["members"]]
-
-    def roles(self):
-        return {a["role"] for m in self.members for a in m.arguments}
-
-    def specs(self, direction):
-        return any(a["role"] == "spec object" and (a["direction"] == "in") == (direction == "in")
-                   for m in self.members for a in m.arguments)
-
-    def images(self):
-        return max((sum(a["role"] in ("image", "planes") and a["direction"] != "out" for a in m.arguments)
-                    for m in self.members), default=0)
-
-    def callable(self):
-        """Whether calls can be made from roles and facts alone."""
-        roles, facts = self.roles(), self.facts
-        if any(m.result != "StatusCode" or not m.arguments for m in self.members):
-            return False
-        if not roles & {"image", "planes"}:  # a service that computes something
-            return not roles & {"spec object", "buffer", "init buffer"} and not re.search(r"Size$", self.name)
-        if self.specs("out") or (roles & {"spec object"} and not facts["init"]):
-            return False
-        if facts["reach"] in ("anchor", "radius", "fixed") and "border" not in roles and not facts["extent"]:
-            words = [w for a in self.members[0].arguments for w in
-                     [a["name"], *ENUMERATIONS.get(a.get("enumeration"), {})]]
-            return bool(re.search(r"\dx\d|maskSize|kernelSize", " ".join(words + [self.name])))
-        told = {a["name"] for m in self.members for a in m.arguments if a["role"] == "size"}
-        return bool(facts["extent"] or told & {"roiSize", "dstRoiSize", "dstSize", "dstTileSize"})
-
-    def offered(self):
-        return [m for m in self.members if not {"1u", "16sc", "32sc"} & {m.source, m.destination} and
-                not any(a["role"] == "step" and "[" in a["type"] for a in m.arguments)]
-
-
-def makers(family, families):
-    """The initialisers that serve a family, with the part of their names that tells them apart, and the setters."""
-    if not family.facts["init"]:
-        return [], []
-    query = next(f for f in families if f.name == family.facts["init"]).facts["query"]
-    stem = family.name.rstrip("_") if query != family.facts["query"] else family.name
-    found = [f for f in families if f.specs("out") and not f.roles() & {"image", "planes"} and f.facts["query"] == query
-             and f.name.startswith(stem)]
-    names = {f.name for f in found}
-    setters = [f for f in families if f.specs("out") and not f.roles() & {"image", "planes"} and not f.facts["query"]
-               and f.name not in names and f.page == family.page and f.facts["init"]]
-    return found, setters
-
-
-def groups(families):
-    """One name a family: image and constant forms together, with the border or without."""
-    named = {f.name: f for f in families}
-    found = {}
-    for f in families:
-        if not f.callable() or not f.offered():
-            continue
-        shorter = (f.name[:c.start()] + f.name[c.end():] for c in re.finditer(r"C(?=[A-Z]|$)", f.name))
-        whole = next((named[n] for n in shorter if n in named), None)
-        constant = bool(whole and f.images() == 1 and whole.images() == 2)
-        name = (whole if constant else f).name.removeprefix("zmvi")
-        if "border" in f.roles():
-            name = name.replace("Border", "")
-        found.setdefault(snake(name), []).append((f, constant))
     return found
 
 
@@ -223,9 +105,16 @@ def python_expression(text):
     return text.replace("/", "//")
 
 
+def row(m, shapes):
+    shape = tuple((a["name"], a["type"], a["role"], a["direction"], a.get("enumeration", ""), a.get("count", ""))
+                  for a in m.arguments)
+    return (m.name, shapes.setdefault(shape, len(shapes)), m.source, m.destination, *m.layouts,
+            m.letters, m.large, m.result)
+
+
 def print_table(api, families, found):
     shapes, lines = {}, []
-    rows = {f.name: [m.row(shapes) for m in f.members] for f in families}
+    rows = {f.name: [row(m, shapes) for m in f.members] for f in families}
     facts = {f.name: {k: f.facts[k] for k in ("steps", "freeSteps", "place", "query", "init", "reach", "tiles", "combine")} |
              {"extent": tuple(map(python_expression, f.facts["extent"].split(","))) if f.facts["extent"] else (),
               "refusals": [(r["status"], r["arguments"], r["condition"]) for r in f.facts["refusals"]],
@@ -338,10 +227,7 @@ def print_raw(families):
 
 
 def main(source, folder):
-    global ENUMERATIONS
-    api = json.loads(Path(source).read_text())
-    ENUMERATIONS = read_enumerations(api)
-    families = [Family(f) for f in api["families"]]
+    api, families = load(source)
     found = groups(families)
     text, table = print_table(api, families, found)
     folder = Path(folder)
