@@ -88,11 +88,14 @@ std::string enumerations(const std::string& header) {
     eachMatch(header, R"(enum \{([^}(]*)\})", [&](const std::smatch& e) {
         Parts values('[');
         std::string prefix;
-        eachMatch(e[1], R"((\w+) = (-?\w+))", [&](const std::smatch& value) {
+        eachMatch(e[1], R"((\w+) = (-?\w+)( - 1)?)", [&](const std::smatch& value) {
             const std::string name = value[1];
             if (prefix.empty()) prefix = name;
             while (name.compare(0, prefix.size(), prefix) != 0 || prefix.back() != '_') prefix.pop_back();
-            values.item(Parts('{').text("name", name).raw("value", std::to_string(std::stol(value[2], nullptr, 0))).done());
+            values.item(Parts('{')
+                            .text("name", name)
+                            .raw("value", std::to_string(std::stol(value[2], nullptr, 0) - value[3].matched))
+                            .done());
         });
         all.line(Parts('{').text("prefix", prefix).raw("values", values.done()).done());
     });

@@ -131,7 +131,8 @@ TEST(ApiJson, HasEveryStatusStructAndEnumeration) {
             EXPECT_EQ(value["name"].text.rfind(e["prefix"].text, 0), 0u) << value["name"].text;
             names.insert(value["name"].text + "=" + value["value"].text);
         }
-    for (const char* value : {"DATATYPE_64F=19", "ALPHA_PLUS_PREMUL=11", "BORDER_IN_MEM=240", "HINT_ACCURATE=2"})
+    for (const char* value : {"DATATYPE_64F=19", "ALPHA_PLUS_PREMUL=11", "BORDER_IN_MEM=240", "HINT_ACCURATE=2",
+                              "INTERP_SMOOTH_EDGE=-2147483648"})
         EXPECT_TRUE(names.count(value)) << value;
     std::map<std::string, size_t> fields;
     for (const Json& s : api["structs"].items) fields[s["name"].text] = s["fields"].items.size();
