@@ -83,9 +83,6 @@ class Call(Regions):
 
     def object(self):
         """The address of the spec object: made now, or kept by the caller's."""
-        if not self.maker:
-            raise TypeError(f"{self.function.name}: takes what one of its makers takes: " +
-                            "; ".join(self.function.made_of()))
         m = self.pick(self.maker)
         words = []
         for a in m.arguments:

@@ -33,20 +33,19 @@ def lazily(function, *args, **keywords):
     unknown = [n for n in ("out", "mask") if n in keywords]
     if unknown:
         raise TypeError(f"dask: {engine.name} takes no {unknown[0]} here")
+    every = [a for v in (*args, *keywords.values()) for a in (v if isinstance(v, (tuple, list)) else [v]) if is_lazy(a)]
+    if not every:
+        raise TypeError(f"dask: {engine.name}: takes a dask array")
+    if np.isnan([n for a in every for n in a.shape]).any():
+        raise ValueError(f"dask: {engine.name}: takes arrays of known sizes")
     plan = engine.plan(tuple(map(stand_in, args)), {n: stand_in(v) for n, v in keywords.items()})
     call = plan.call
     how = tiled(engine, plan, "dask")
     mode = call.mode()
     if mode == "maps":
         raise ValueError(f"dask: {engine.name}: nothing tells which part of the image the maps of a block take")
-    every = (a for v in (*args, *keywords.values()) for a in (v if isinstance(v, (tuple, list)) else [v]))
-    first = next(filter(is_lazy, every), None)
-    if first is None:
-        raise TypeError(f"dask: {engine.name}: takes a dask array")
-    if np.isnan(sum(map(sum, first.chunks))):
-        raise ValueError(f"dask: {engine.name}: takes arrays of known sizes")
     x, y, w, h = call.roi
-    rows, columns = first.chunks[:2]
+    rows, columns = every[0].chunks[:2]
     least = reach(call)
     if mode == "slice" and (w, h) == call.whole and min(columns) >= least[0] and min(rows) >= least[1]:
         edges = [np.cumsum((0, *c)).tolist() for c in (columns, rows)]

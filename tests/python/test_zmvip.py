@@ -4,8 +4,10 @@ import itertools
 import mmap
 import pickle
 import random
+import re
 import sys
 import threading
+import traceback
 import unittest
 import warnings
 
@@ -154,44 +156,75 @@ class Case:
         return self.function(*(images or self.images.values()), **{**self.keywords, **keywords})
 
     def raw(self, out):
-        """The function in C, its arguments made here: only where no object is needed and the size is that of the source."""
-        m, values, last, results = self.m, [], None, []
-        images = {**self.images, **dict(zip(m.writes or m.changes, [out]))}
-        if "mask" in self.keywords:
-            images["mask"] = self.keywords["mask"].view(np.uint8)
+        """The function in C, its arguments made here; spec objects by the initialiser that comes first."""
+        m, spec = self.m, ctypes.create_string_buffer(1 << 20)
+        images = {**self.images, **self.keywords, **dict(zip(m.writes or m.changes, out if len(m.writes) > 1 else [out]))}
+        if "mask" in images:
+            images["mask"] = images["mask"].view(np.uint8)
+        for family in self.makers[:1]:
+            maker = next((x for x in members(family) if x.source == m.source), members(family)[0])
+            assert getattr(raw, maker.name)(*self.values(maker, images, out, spec, [])) >= 0, maker.name
+        results = []
+        assert getattr(raw, m.name)(*self.values(m, images, out, spec, results)) >= 0, m.name
+        used = 3 if m.from_ == "AC4" else int(m.from_[-1])
+        results = tuple(r if r.ndim == 0 or m.has("spec object") else r[:used] for r in results)
+        return out if m.writes or m.changes else results if len(results) > 1 else results[0]
+
+    def values(self, m, images, out, spec, results):
+        """What the arguments of a member are, or of its initialiser."""
+        values, last, self.kept = [], None, [images]
+        channels = 3 if self.m.from_ == "AC4" else int(self.m.from_[-1])
         for a in m.arguments:
             said = self.keywords.get(self.engine.called(a.name))
-            if a.role in ("image", "planes", "mask"):
-                last = images[a.name]
-                values.append((ctypes.c_void_p * len(last))(*(p.ctypes.data for p in last)) if isinstance(last, tuple)
-                              else last.ctypes)
+            kind = C_DTYPES.get(re.sub(r"^const |[ *\[].*", "", re.sub("^const ", "", a.type)))
+            if a.role in ("image", "planes", "mask", "map"):
+                last = images[a.name] if a.role != "map" else said
+                value = (ctypes.c_void_p * len(last))(*(p.ctypes.data for p in last)) if isinstance(last, tuple) else last.ctypes
             elif a.role == "step":
-                values.append((last[0] if isinstance(last, tuple) else last).strides[0])
+                value = (last[0] if isinstance(last, tuple) else last).strides[0]
             elif a.role == "size":
-                w, h = (W, H) if said is None else said if isinstance(said, tuple) else (said, said)
-                values.append(getattr(raw, a.type)(w, h) if a.type.startswith("Image") else w)
+                w, h = said if isinstance(said, tuple) else (said, said) if said is not None else (3, 3) if a.name == "kernelSize" \
+                    else (W, H) if not a.name.startswith("dst") else flat(out)[0].shape[1::-1]
+                value = getattr(raw, a.type)(w, h) if a.type.startswith("Image") else w
             elif a.role == "point":
-                at = 0 if a.name == "roiOffset" else 1  # the image is the whole; masks are of 3 x 3
-                values.append(raw.ImagePoint(at, at) if a.type == "ImagePoint" else at)
-            elif a.role == "buffer":
-                values.append(ctypes.create_string_buffer(1 << 20))
+                at = 0 if a.name.endswith("Offset") else 1  # the image is the whole; masks are of 3 x 3
+                value = raw.ImagePoint(at, at) if a.type == "ImagePoint" else at
+            elif a.role == "rectangle":
+                value = getattr(raw, a.type)(0, 0, W, H)
+            elif a.role in ("buffer", "init buffer"):
+                value = ctypes.create_string_buffer(1 << 20)
+            elif a.role == "spec object":
+                value = spec
             elif a.role == "result":
-                results.append(np.zeros(4 if m.from_[-1] != "1" else (), C_DTYPES[a.type.rstrip("*")]))
-                values.append(results[-1].ctypes)
+                if "[" in a.type or m.has("spec object"):  # counts: an array a channel
+                    results += [np.zeros(len(self.keywords["levels"]) - 1, kind) for _ in range(channels)]
+                    value = (ctypes.c_void_p * channels)(*(r.ctypes.data for r in results)) if "[" in a.type else results[0].ctypes
+                else:
+                    results.append(np.zeros(4 if channels > 1 else (), kind))
+                    value = results[-1].ctypes
             elif a.role == "border value":
-                values.append(None if "*" in a.type else 0)
+                value = None if "*" in a.type else 0
+            elif a.enumeration == "DATATYPE_":
+                value = _api.ENUMERATIONS["DATATYPE_"][self.m.source]
+            elif a.name == "numChannels":
+                value = channels
             elif a.role in ("option", "border"):
                 words = _api.ENUMERATIONS.get(a.enumeration, {})
                 value = said if said is not None else self.engine.named[a.name][1] if a.name in self.engine.named else 0
-                values.append(words.get(value, words.get(f"{value}x{value}", value)))
+                value = words.get(value, words.get(f"{value}x{value}", value))
+            elif a.name == "nLevels":
+                value = np.full(channels, len(self.keywords["levels"]), kind).ctypes
+            elif re.search(r"\* ?const ?(\*|\[)", a.type):  # a table a channel
+                one = np.asarray(said).astype(kind)
+                value = (ctypes.c_void_p * channels)(*[one.ctypes.data] * channels)
+                self.kept.append(one)
             else:
-                number = said if said is not None else 5
-                values.append(np.resize(number, 256).astype(C_DTYPES[a.type.split()[1].rstrip("*")]).ctypes
-                              if "*" in a.type else number)
-        assert getattr(raw, m.name)(*values) >= 0, m.name
-        used = 3 if m.from_ == "AC4" else int(m.from_[-1])
-        results = tuple(r if r.ndim == 0 else r[:used] for r in results)
-        return out if m.writes or m.changes else results if len(results) > 1 else results[0]
+                value = 5 if said is None else said
+                value = (np.resize(value, 1024).astype(kind) if np.ndim(value) == 0 else np.asarray(value).astype(kind)).ctypes \
+                    if re.search(r"[*\[]", a.type) else value
+            values.append(value)
+        self.kept.append(values)
+        return values
 
 
 from zmvip._members import members  # noqa: E402
@@ -223,9 +256,7 @@ class Families(unittest.TestCase):
                 self.assertEqual(plan.member.name, case.m.name)
 
     def test_raw(self):
-        plain = lambda m: not (m.has("spec object") or m.has("table") or m.has("map") or m.facts["extent"] or
-                               m.has("dstRoiSize") or m.has("dstOffset") or m.facts["reach"] == "query")
-        for case in cases(plain):
+        for case in cases():
             with self.subTest(case.m.name):
                 if case.m.writes:
                     inside = needs_inside(case)
@@ -393,9 +424,20 @@ class Oracles(unittest.TestCase):
         self.assertTrue(all(same(f, curve(self.a)) for f in found))
         self.assertIs(pickle.loads(pickle.dumps(zmvip.add)), zmvip.add)
 
+    def dask_refusals(self):
+        if not dask:
+            return ()
+        blocks = dask.array.from_array(self.gray)
+        unknown = dask.array.concatenate([blocks[blocks[:, 0] > 5]])
+        return ((AttributeError, "zmvip.dask has no nothing", lambda: zmvip.dask.nothing),
+                (TypeError, "dask: add takes no out here", lambda: zmvip.dask.add(blocks, 1, out=self.gray)),
+                (ValueError, "dask: remap: nothing tells", lambda: zmvip.dask.remap(blocks, *[np.ones((H, W), "f4")] * 2)),
+                (TypeError, "dask: add: takes a dask array", lambda: zmvip.dask.add(self.gray, 1)),
+                (ValueError, "dask: add: takes arrays of known sizes", lambda: zmvip.dask.add(unknown, 1)))
+
     def test_refusals(self):
-        """Each says who, what and why."""
-        a, gray, locked = self.a, self.gray, self.gray.copy()
+        """Each says who, what and why; none in the package goes untried."""
+        a, gray, locked, floats, tried = self.a, self.gray, self.gray.copy(), self.gray.astype("f4"), set()
         locked.flags.writeable = False
         for kind, words, call in (
                 (TypeError, "no member takes complex64", lambda: zmvip.add(gray.astype("c8"), 1)),
@@ -420,9 +462,50 @@ class Oracles(unittest.TestCase):
                 (ValueError, "values: takes 3 numbers, not 2", lambda: zmvip.lut(gray, [0, 9, 99], [1, 2])),
                 (ValueError, "dst_order: takes 3 numbers", lambda: zmvip.swap_channels(a, [0, 1])),
                 (ValueError, "not worked in tiles", lambda: zmvip.parallel(zmvip.transpose, gray)),
-                (zmvip.Error, "filter_box: mask_size: width or height .*STATUS_BAD_MASK_SIZE", lambda: zmvip.filter_box(a, 0))):
-            with self.subTest(words), self.assertRaisesRegex(kind, words):
-                call()
+                (TypeError, r"img: an image has the shape .*not \(2, 2, 2, 2\)", lambda: zmvip.sum(np.zeros((2, 2, 2, 2), "u1"))),
+                (ValueError, "img: planes of different shapes", lambda: zmvip.copy((gray, gray, gray[1:]))),
+                (TypeError, "img: no element type of the library is float16", lambda: zmvip.sum(gray.astype("f2"))),
+                (TypeError, r"mask: has the shape \(h, w\)", lambda: zmvip.copy(gray, mask=a, out=gray.copy())),
+                (TypeError, "copy: mask is no array", lambda: zmvip.copy(gray, mask=5, out=gray.copy())),
+                (TypeError, "value: takes numbers, not 'x'", lambda: zmvip.add(gray, "x")),
+                (TypeError, "object .* is neither an array nor a number", lambda: zmvip.add(gray, object())),
+                (ValueError, "value: takes 3 numbers, not 4", lambda: zmvip.add(a, (1, 2, 3, 4))),
+                (TypeError, r"value: takes one number, not \(1, 2\)", lambda: zmvip.add(gray, (1, 2))),
+                (TypeError, "add: takes a, b, scale, not 4 arguments", lambda: zmvip.add(gray, gray, 0, 4)),
+                (TypeError, "add: b is given twice", lambda: zmvip.add(gray, gray, b=gray)),
+                (TypeError, "lut: spec is no object of this", lambda: zmvip.lut(gray, spec=zmvip.Filter(np.ones((3, 3))))),
+                (TypeError, "block_min_max: out is a tuple of 2", lambda: zmvip.block_min_max(gray, 4, out=gray.copy())),
+                (TypeError, "dup: takes layout, one of C3, C4", lambda: zmvip.dup(gray)),
+                (TypeError, "add: images of different types", lambda: zmvip.add(gray, floats)),
+                (ValueError, "remap: maps of different sizes", lambda: zmvip.remap(gray, floats, floats[1:])),
+                (ValueError, "copy: channel 5 of 3", lambda: zmvip.copy(a, channel=5)),
+                (ValueError, "set: takes no roi but", lambda: zmvip.set(1, out=gray.copy(), roi=(0, 0, 1, 1))),
+                (TypeError, r"resize_linear: takes out, or size=\(width, height\)", lambda: zmvip.resize_linear(gray)),
+                (TypeError, "LUT: takes levels, values, interpolation$", lambda: zmvip.LUT(1, 2, 3, 4)),
+                (TypeError, "LUT: .* not colour", lambda: zmvip.LUT(levels=[1], colour=3)),
+                (AttributeError, "zmvip has no nothing", lambda: zmvip.nothing),
+                (AttributeError, "zmvip.raw has no nothing", lambda: raw.nothing),
+                (ValueError, "more than 2147483647 pixels or bytes a row", lambda: zmvip.sum(np.zeros((1, 2**31), "u1"))),
+                (ValueError, "levels: takes an array, or 3 of them", lambda: zmvip.histogram(a, [[0, 1, 2], [0, 1, 3]])),
+                (ValueError, "tables: takes 3 tables, not 2", lambda: zmvip.lut_palette(a, 8, tables=[[0] * 256] * 2)),
+                (ValueError, r"coeffs: takes numbers of the shape \(2, 3\)", lambda: zmvip.get_affine_quad((0, 0, 4, 4), [1] * 6)),
+                (zmvip.Error, "filter_box: mask_size: width or height .*STATUS_BAD_MASK_SIZE", lambda: zmvip.filter_box(a, 0)),
+                *self.dask_refusals()):
+            with self.subTest(words):
+                try:
+                    self.fail(f"not refused: {call()}")
+                except kind as error:
+                    self.assertRegex(str(error), words)
+                    *_, (frame, line) = traceback.walk_tb(error.__traceback__)
+                    tried.add((frame.f_code.co_filename, line))
+        later = "nothing tells what|takes no roi\"|takes {python}|takes {self.function.named"  # of families to come
+        untried = []
+        for path in {path for path, _ in tried}:
+            with open(path) as file:
+                lines = list(enumerate(file, 1))
+            untried += [text for at, text in lines if re.search(r"raise \w+\(", text) and (path, at) not in tried and
+                        not re.search(later, "".join(t for _, t in lines[at - 1:at + 1]))]
+        self.assertEqual(untried, [])
         with self.assertRaises(zmvip.Error) as caught:
             zmvip.div(gray, 0)
         self.assertEqual((caught.exception.function, caught.exception.name, caught.exception.member),
