@@ -44,10 +44,13 @@ class Call(Regions):
         """The pixels of the source that the region of the result takes."""
         return self.asked("GetSrcRoi", "srcRoi")
 
-    def asked(self, ending, result):
-        """What the service of the call's page says whose name ends so; None if there is none."""
+    def service(self, ending):
+        """The service of the call's page whose name ends so; None if there is none."""
         page = self.member.facts["page"]
-        family = next((f for f, facts in _api.FACTS.items() if facts["page"] == page and f.endswith(ending)), None)
+        return next((f for f, facts in _api.FACTS.items() if facts["page"] == page and f.endswith(ending)), None)
+
+    def asked(self, ending, result):
+        family = self.service(ending)
         return family and self.serve(family)[result]
 
     # Members that serve this one.

@@ -188,7 +188,7 @@ class Function:
 
     def makes_of(self, m):
         """What a user says of the arguments of an initialiser, but sizes, which images have; by names in C."""
-        return [a.name for a in m.arguments if a.name in self.named and a.role != "size" and
+        return [a.name for a in m.arguments if a.name in self.named and a.role not in ("size", "rectangle") and
                 not (a.name == "nLevels" and m.has("pLevels"))]
 
     def made_of(self):

@@ -42,8 +42,8 @@ def lazily(function, *args, **keywords):
     call = plan.call
     how = tiled(engine, plan, "dask")
     mode = call.mode()
-    if mode == "maps":
-        raise ValueError(f"dask: {engine.name}: nothing tells which part of the image the maps of a block take")
+    if mode == "maps" or (mode == "offset" and not call.service("GetSrcRoi")):
+        raise ValueError(f"dask: {engine.name}: nothing tells which part of the image a block takes")
     x, y, w, h = call.roi
     rows, columns = every[0].chunks[:2]
     least = reach(call)

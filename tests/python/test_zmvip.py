@@ -28,7 +28,9 @@ LIBC = ctypes.CDLL(None)
 # Everyday values of parameters that may be anything, but not what they are of their kind.
 USUAL = {"mask_size": 3, "block_size": 4, "window_size": 3, "kernel": np.arange(9).reshape(3, 3), "levels": [0, 60, 200, 256],
          "values": [250, 10, 90, 30], "lower_level": 0, "upper_level": 256, "n_levels": 9, "n_bit_size": 8, "table": None,
-         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "num_lobes": 3, "size": (30, 19), "dst_order": None}
+         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "num_lobes": 3, "size": (30, 19), "dst_order": None,
+         "coeffs": {"[2][3]": [[.9, .2, 2], [-.1, .8, 3]], "[3][3]": [[.9, .2, 2], [-.1, .8, 3], [.001, .002, 1]],
+                    "[2][4]": [[.001, .9, .2, 2], [.002, -.1, .8, 3]]}}
 BY_ROLE = {"constant": 5, "number": 1, "size": 3, "option": 0}
 
 
@@ -134,7 +136,7 @@ class Case:
         if python == "dst_order":
             return [2, 0, 1, 3][:int(self.m.to[-1]) if self.m.to != "AC4" else 3]
         if python in USUAL:
-            return USUAL[python]
+            return USUAL[python] if python != "coeffs" else USUAL[python][a.type[-6:]]
         if a.role in ("rectangle", "border value"):
             return None
         return BY_ROLE.get(a.role, 1)
@@ -321,7 +323,7 @@ class Families(unittest.TestCase):
 
     def on_dask(self, case, tile, region, whole):
         """The same in blocks of dask arrays, where there is dask."""
-        if not dask or set(case.keywords) & {"mask", "out"} or case.m.has("map"):
+        if not dask or set(case.keywords) & {"mask", "out"} or case.m.has("map") or "coeffs" in case.keywords:
             return
         chunks = tile[1] + 3, tile[0] + 3
         lazy = lambda image: image if isinstance(image, int) else \
