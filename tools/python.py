@@ -177,7 +177,8 @@ def annotation(name, c, parts, families):
         return "DTypeLike"
     if role in ("option", "border"):
         words = [w for w in ENUMERATIONS.get(arguments[0].get("enumeration"), {}) if not w.startswith("in_mem")]
-        return ("Literal[" + ", ".join(f'"{w}"' for w in words) + "] | str | int") if words else "int"
+        free = "str | int" if role == "option" else "int"  # flags may be joined; which sides are in memory follows
+        return ("Literal[" + ", ".join(f'"{w}"' for w in words) + f"] | {free}") if words else "int"
     if role == "size":
         return "int | tuple[int, int]"
     if role in ("constant", "border value"):
@@ -190,8 +191,8 @@ def annotation(name, c, parts, families):
 def print_stubs(table, found, families):
     lines = ['"""Printed by tools/python.py from api.json."""', "from typing import Any, Callable, Literal, NamedTuple",
              "from numpy import ndarray", "from numpy.typing import ArrayLike, DTypeLike", "from . import raw as raw",
-             "Image = ArrayLike | tuple[ndarray, ...]", "Constant = float | tuple[float, ...] | list[float] | ndarray",
-             "Out = ndarray | tuple[ndarray, ...] | None", "Roi = tuple[int, int, int, int] | None",
+             "Image = ndarray | tuple[ndarray, ...] | list[ndarray]",
+             "Constant = float | tuple[float, ...] | list[float] | ndarray", "Out = Image | None", "Roi = tuple[int, int, int, int] | None",
              "class Error(ValueError):", "    function: str", "    arguments: tuple[str, ...]", "    condition: str",
              "    status: int", "    name: str", "class StatusWarning(UserWarning): ...", "__version__: str",
              "def parallel(function: Callable[..., Any], *args: Any, threads: int | None = None,",
@@ -216,8 +217,13 @@ def print_stubs(table, found, families):
     return "\n".join(lines) + "\n"
 
 
-def print_raw(families):
+def print_raw(api, families):
     lines = ['"""Printed by tools/python.py from api.json."""', "from typing import Any", "from ctypes import Structure"]
+    for struct in api["structs"]:
+        lines += [f"class {struct['name']}(Structure):", "    def __init__(self, *values: Any, **fields: Any) -> None: ..."]
+        lines += [f"    {f['name']}: Any" for f in struct["fields"]]
+    lines += [f"{v['name']}: int" for e in api["enumerations"] for v in e["values"]]
+    lines += [f"{s['name']}: int" for s in api["statuses"]]
     for f in families:
         for m in f.members:
             kinds = [a["name"] + ": " + ("float" if a["type"] in ("float", "double") else "int" if re.fullmatch(r"u?int\d*(_t)?", a["type"])
@@ -236,7 +242,7 @@ def main(source, folder):
     (folder / "_docs.py").write_text('"""Printed by tools/python.py from api.json."""\n'
                                      "TEXTS = {" + "".join(f"\n    {n!r}: {d!r}," for n, d in docs.items()) + "}\n")
     (folder / "__init__.pyi").write_text(print_stubs(table, found, families))
-    (folder / "raw.pyi").write_text(print_raw(families))
+    (folder / "raw.pyi").write_text(print_raw(api, families))
     (folder / "py.typed").write_text("")
 
 
