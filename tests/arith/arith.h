@@ -64,6 +64,18 @@ void oneByOne(Case& c, F f) {
         eachElement(c, [&](int64_t x, int64_t y, int k) { c.set<T>(to, x, y, k, f(c.get<T>(src, x, y, k), x, y, k)); });
     });
 }
+// The same where the types differ: f(a, zero, x, y, k), the zero of the type that is due.
+template <class F>
+void oneByAnother(Case& c, F f) {
+    const Image src = c.image(onlySource(c)), to = c.image(overwritten(c));
+    withElement(c.member.source, [&]<class S>(S) {
+        withElement(c.member.destination, [&]<class D>(D zero) {
+            eachElement(c, [&](int64_t x, int64_t y, int k) {
+                c.set<D>(to, x, y, k, f(c.get<S>(src, x, y, k), zero, x, y, k));
+            });
+        });
+    });
+}
 template <class F>
 void pairByPair(Case& c, F f) {
     const Image &first = c.image(firstSource(c)), &second = c.image(secondSource(c)), &to = c.image(overwritten(c));

@@ -17,12 +17,10 @@ void arrangeDivision(Case& c) {
     withElement(divisors.element, [&](auto zero) {
         using T = decltype(zero);
         if (!c.has("value") && !c.rng.oneIn(3)) return;
-        for (int64_t y = 0; y < divisors.height; ++y)
-            for (int64_t x = 0; x < divisors.width; ++x)
-                for (int k = 0; k < divisors.channels; ++k) {
-                    const bool used = k < c.member.to.used();
-                    if (!used || c.get<T>(divisors, x, y, k) == 0) c.set(divisors, x, y, k, T(used));
-                }
+        change(c, divisors, [&](auto v, int64_t, int64_t, int k) {
+            const bool used = k < c.member.to.used();
+            return !used || v == 0 ? decltype(v)(used) : v;
+        });
         if (!c.has("value") && c.rng.oneIn(2))
             c.set(divisors, c.rng.below(int(c.width)), c.rng.below(int(c.height)), c.rng.below(c.member.to.used()),
                   T(-0.0));

@@ -22,12 +22,8 @@ void arrangeBits(Case& c) {
     c.arg("roiSize") = {c.width, c.height};
     if (!c.has("threshold")) return;
     // Pixels that equal the threshold.
-    const Image& src = c.image("src");
-    withElement(src.element, [&]<class T>(T) {
-        for (int64_t y = 0; y < c.height; ++y)
-            for (int64_t x = 0; x < c.width; ++x)
-                if (c.rng.oneIn(8)) c.set(src, x, y, 0, c.get<T>(c.image("threshold"), 0, 0));
-    });
+    change(c, c.image("src"),
+           [&]<class T>(T v, auto...) { return c.rng.oneIn(8) ? c.get<T>(c.image("threshold"), 0, 0) : v; });
 }
 
 template <class F>

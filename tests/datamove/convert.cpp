@@ -17,18 +17,12 @@ void arrangeConvert(Case& c) {
     const Image& src = c.image(onlySource(c));
     if (!c.has("roundMode") || c.rng.oneIn(3)) return;
     const int factor = c.has("scaleFactor") ? int(std::clamp<int64_t>(c.arg("scaleFactor").a, -100, 100)) : 0;
-    withElement(src.element, [&](auto zero) {
-        using T = decltype(zero);
-        if constexpr (std::is_floating_point_v<T>)
-            for (int64_t y = 0; y < src.height; ++y)
-                for (int64_t x = 0; x < src.width; ++x)
-                    for (int k = 0; k < src.channels; ++k) {
-                        const int bits = c.rng.below(34);
-                        T v = T(c.rng.between(-2, 2) * 0.5 +
-                                double(c.rng.next() >> (63 - bits)) * (c.rng.oneIn(2) ? 1 : -1));
-                        if (c.rng.oneIn(2)) v = std::nextafter(v, T(c.rng.oneIn(2) ? INFINITY : -INFINITY));
-                        c.set(src, x, y, k, T(std::ldexp(v, factor)));
-                    }
+    change(c, src, [&]<class T>(T was, auto...) {
+        if constexpr (std::is_integral_v<T>) return was;
+        const int bits = c.rng.below(34), sign = c.rng.oneIn(2) ? 1 : -1;
+        T v = T(c.rng.between(-2, 2) * 0.5 + double(c.rng.next() >> (63 - bits)) * sign);
+        if (c.rng.oneIn(2)) v = T(std::nextafter(v, T(c.rng.oneIn(2) ? INFINITY : -INFINITY)));
+        return T(std::ldexp(v, factor));
     });
 }
 
@@ -47,20 +41,9 @@ D converted(S value, const Case& c, int64_t mode, int64_t factor) {
 }
 // In the order of elements: where rows overlap, each reads what those before it wrote.
 void convert(Case& c) {
-    const Image src = c.image(onlySource(c));
-    Image dst = c.image(overwritten(c));
-    dst.element = c.member.destination;
     const int64_t mode = c.has("roundMode") ? c.arg("roundMode").a : int64_t(ROUND_ZERO);
     const int64_t factor = c.has("scaleFactor") ? c.arg("scaleFactor").a : 0;
-    withElement(c.member.source, [&](auto from) {
-        withElement(c.member.destination, [&](auto to) {
-            using S = decltype(from);
-            using D = decltype(to);
-            eachElement(c, [&](int64_t x, int64_t y, int k) {
-                c.set(dst, x, y, k, converted<S, D>(c.get<S>(src, x, y, k), c, mode, factor));
-            });
-        });
-    });
+    oneByAnother(c, [&]<class S, class D>(S value, D, auto...) { return converted<S, D>(value, c, mode, factor); });
 }
 
 }  // namespace

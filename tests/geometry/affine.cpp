@@ -2,10 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <cmath>
-#include <limits>
 
-#include "harness/case.h"
+#include "geometry/warp.h"
 
 namespace {
 
@@ -120,22 +118,38 @@ void rotateShift(Case& c) {
 }
 
 using Quad = std::array<std::array<double, 2>, 4>;
-using Coefficients = std::array<std::array<double, 3>, 2>;
-Coefficients coefficientsOf(Case& c) {
-    const auto k = [&](int i, int j) { return at(c, "coeffs", i, j); };
-    return {{{k(0, 0), k(0, 1), k(0, 2)}, {k(1, 0), k(1, 1), k(1, 2)}}};
-}
 Quad cornersOf(const Slot& r) {
     const double left = double(r.a), top = double(r.b), right = left + double(r.c - 1), bottom = top + double(r.d - 1);
     return {{{left, top}, {right, top}, {right, bottom}, {left, bottom}}};
 }
-Quad quadOf(Case& c, const Coefficients& coeffs) {
-    Quad quad = cornersOf(c.arg("srcRoi"));
-    for (auto& [x, y] : quad) {
-        const auto image = [&, x = x, y = y](size_t k) { return coeffs[k][0] * x + coeffs[k][1] * y + coeffs[k][2]; };
-        x = image(0), y = image(1);
+// The map of the coefficients that are given, or of a rotation, for which the library is asked.
+Warp mapOf(Case& c) {
+    Warp w;
+    w.direction = c.has("srcSize") ? WARP_FORWARD : WARP_BACKWARD;
+    double turned[2][3] = {};
+    if (!c.has("coeffs")) {
+        const auto transform = FIND(c.library, zmviGetRotateTransform);
+        c.expected = transform(bound(c, "angle"), bound(c, "xShift"), bound(c, "yShift"), turned);
+    } else if (c.image("coeffs").width == 4) {
+        w.map = Warp::bilinear;
+    } else if (c.image("coeffs").height == 3) {
+        w.map = Warp::perspective;
     }
-    return quad;
+    for (int i = 0; i < w.rows(); ++i)
+        for (int j = 0; j < w.columns(); ++j) w.c[i][j] = c.has("coeffs") ? at(c, "coeffs", i, j) : turned[i][j];
+    return w.form(), w;
+}
+// Where a map takes corners, and whether they are seen from one side.
+bool takeCorners(const Warp& w, Quad& quad) {
+    int front = 0, behind = 0;
+    for (auto& [x, y] : quad) {
+        const double d = w.line(2, x, y);
+        const bool counts = std::isfinite(d) || !w.forward();
+        front += d > 0 && counts, behind += d < 0 && counts;
+        const WarpPoint p = w.at(x, y);
+        x = p.x, y = p.y;
+    }
+    return w.map != Warp::perspective || front == 4 || behind == 4;
 }
 bool convex(const Quad& q) {
     int left = 0, right = 0;
@@ -185,21 +199,16 @@ void putBound(Case& c, const Quad& quad) {
         put(c, "bound", 0, int(k), least), put(c, "bound", 1, int(k), greatest);
     }
 }
-// Of a matrix, or of a rotation's, for which the library is asked.
 template <auto putResult>
 void quadOrBound(Case& c) {
-    Coefficients coeffs;
-    if (c.has("coeffs")) {
-        coeffs = coefficientsOf(c);
-    } else {
-        const auto transform = reinterpret_cast<StatusCode (*)(double, double, double, Coefficients*)>(
-            c.library.find("zmviGetRotateTransform"));
-        if (transform(bound(c, "angle"), bound(c, "xShift"), bound(c, "yShift"), &coeffs) != STATUS_OK)
-            return void(c.expected = STATUS_OUT_OF_RANGE);
-    }
-    const Quad quad = quadOf(c, coeffs);
-    putResult(c, quad);
-    if (!convex(quad)) c.expected = STATUS_BAD_COEFFS;
+    const Warp w = mapOf(c);
+    if (c.expected != STATUS_OK) return;
+    Quad quad = cornersOf(c.arg("srcRoi")), image = quad;
+    const bool oneSide = takeCorners(w, image);
+    for (size_t i = 0; i < 4 && w.map == Warp::affine; ++i)  // in the order of its banner
+        for (size_t k = 0; k < 2; ++k) image[i][k] = w.c[k][0] * quad[i][0] + w.c[k][1] * quad[i][1] + w.c[k][2];
+    putResult(c, image);
+    if (!convex(image) || !oneSide) c.expected = STATUS_BAD_COEFFS;
 }
 
 // ---- Maps with four numbers more, or two ----
@@ -235,34 +244,6 @@ void bilinearTransform(Case& c) {
         for (int i = 0; i < 4; ++i) put(c, "coeffs", int(k), i, all[i]);
     }
 }
-// A matrix at a point, its denominator with it.
-struct Seen {
-    double x, y, d;
-};
-Seen seen(const double (*b)[3], double x, double y) {
-    const auto row = [&](int i) { return b[i][0] * x + (b[i][1] * y + b[i][2]); };
-    return {row(0) / row(2), row(1) / row(2), row(2)};
-}
-template <auto putResult>
-void mappedQuad(Case& c) {
-    double k[3][4] = {};
-    const Image& coeffs = c.image("coeffs");
-    for (int i = 0; i < coeffs.height; ++i)
-        for (int j = 0; j < coeffs.width; ++j) k[i][j] = at(c, "coeffs", i, j);
-    const double b[3][3] = {{k[0][0], k[0][1], k[0][2]}, {k[1][0], k[1][1], k[1][2]}, {k[2][0], k[2][1], k[2][2]}};
-    Quad quad = cornersOf(c.arg("srcRoi"));
-    int front = 0, behind = 0;
-    for (auto& [x, y] : quad) {
-        const double px = x, py = y;
-        const Seen s = seen(b, px, py);
-        front += s.d > 0, behind += s.d < 0;
-        const auto line = [&](const double* n) { return (n[0] * py + n[1]) * px + (n[2] * py + n[3]); };
-        x = coeffs.width == 4 ? line(k[0]) : s.x, y = coeffs.width == 4 ? line(k[1]) : s.y;
-    }
-    putResult(c, quad);
-    if (!convex(quad) || (coeffs.width == 3 && front < 4 && behind < 4)) c.expected = STATUS_BAD_COEFFS;
-}
-
 void putSrcRoi(Case& c, const Quad& corners) {
     const int64_t lengths[] = {c.arg("srcSize").a, c.arg("srcSize").b};
     int64_t from[2], count[2];
@@ -285,45 +266,12 @@ void putSrcRoi(Case& c, const Quad& corners) {
         else
             c.set(c.image("srcRoi"), i, 0, 0, int32_t(all[i]));
 }
-void perspectiveSrcRoi(Case& c) {
-    double k[3][3], b[3][3];
-    bool finite = true;
-    for (int i = 0; i < 9; ++i)
-        k[i / 3][i % 3] = at(c, "coeffs", i / 3, i % 3), finite &= std::isfinite(k[i / 3][i % 3]);
-    for (int i = 0; i < 3; ++i)
-        for (int j = 0; j < 3; ++j) {
-            const auto minor = [&](int r, int s, int t, int u) { return k[r][t] * k[s][u] - k[r][u] * k[s][t]; };
-            b[i][j] = minor((j + 1) % 3, (j + 2) % 3, (i + 1) % 3, (i + 2) % 3);
-        }
-    const double d = (k[0][0] * b[0][0] + k[0][1] * b[1][0]) + k[0][2] * b[2][0];
-    if (!finite || d == 0 || !std::isfinite(d)) return void(c.expected = STATUS_BAD_COEFFS);
+void srcRoi(Case& c) {
+    const Warp w = mapOf(c);
+    if (!w.finite || w.determinant == 0 || !std::isfinite(w.determinant)) return void(c.expected = STATUS_BAD_COEFFS);
     Quad corners = cornersOf(c.arg("dstRoi"));
-    int front = 0, behind = 0;
-    for (auto& [x, y] : corners) {
-        const Seen s = seen(b, x, y);
-        front += s.d > 0 && std::isfinite(s.d), behind += s.d < 0 && std::isfinite(s.d);
-        x = s.x, y = s.y;
-    }
     const double right = double(c.arg("srcSize").a - 1), bottom = double(c.arg("srcSize").b - 1);
-    if (front < 4 && behind < 4) corners = {{{0, 0}, {right, 0}, {right, bottom}, {0, bottom}}};
-    putSrcRoi(c, corners);
-}
-
-void affineSrcRoi(Case& c) {
-    const Coefficients coeffs = coefficientsOf(c);
-    const auto& [c00, c01, c02] = coeffs[0];
-    const auto& [c10, c11, c12] = coeffs[1];
-    const double d = c00 * c11 - c01 * c10;
-    for (const double x : {c00, c01, c02, c10, c11, c12, d})
-        if (!std::isfinite(x)) return void(c.expected = STATUS_BAD_COEFFS);
-    if (d == 0) return void(c.expected = STATUS_BAD_COEFFS);
-    const double back[2][3] = {{c11 / d, -c01 / d, (c01 * c12 - c11 * c02) / d},
-                               {-c10 / d, c00 / d, (c10 * c02 - c00 * c12) / d}};
-    Quad corners = cornersOf(c.arg("dstRoi"));
-    for (auto& [x, y] : corners) {
-        const auto source = [&, x = x, y = y](int k) { return back[k][0] * x + (back[k][1] * y + back[k][2]); };
-        x = source(0), y = source(1);
-    }
+    if (!takeCorners(w, corners)) corners = {{{0, 0}, {right, 0}, {right, bottom}, {0, bottom}}};
     putSrcRoi(c, corners);
 }
 
@@ -342,18 +290,9 @@ TEST(Affine, BoundOfACornerThatIsNone) {
 
 }  // namespace
 
-extern const Family test_zmviGetRotateTransform = {.arrange = arrangeAffine, .oracle = rotateTransform};
-extern const Family test_zmviGetRotateShift = {.arrange = arrangeAffine, .oracle = rotateShift};
-extern const Family test_zmviGetAffineTransform = {.arrange = arrangeAffine, .oracle = affineTransform};
-extern const Family test_zmviGetAffineQuad = {.arrange = arrangeAffine, .oracle = quadOrBound<putQuad>};
-extern const Family test_zmviGetAffineBound = {.arrange = arrangeAffine, .oracle = quadOrBound<putBound>};
-extern const Family test_zmviGetAffineSrcRoi = {.arrange = arrangeAffine, .oracle = affineSrcRoi};
-extern const Family test_zmviGetRotateQuad = {.arrange = arrangeAffine, .oracle = quadOrBound<putQuad>};
-extern const Family test_zmviGetRotateBound = {.arrange = arrangeAffine, .oracle = quadOrBound<putBound>};
-extern const Family test_zmviGetPerspectiveTransform = {.arrange = arrangeAffine, .oracle = perspectiveTransform};
-extern const Family test_zmviGetPerspectiveQuad = {.arrange = arrangeAffine, .oracle = mappedQuad<putQuad>};
-extern const Family test_zmviGetPerspectiveBound = {.arrange = arrangeAffine, .oracle = mappedQuad<putBound>};
-extern const Family test_zmviGetPerspectiveSrcRoi = {.arrange = arrangeAffine, .oracle = perspectiveSrcRoi};
-extern const Family test_zmviGetBilinearTransform = {.arrange = arrangeAffine, .oracle = bilinearTransform};
-extern const Family test_zmviGetBilinearQuad = {.arrange = arrangeAffine, .oracle = mappedQuad<putQuad>};
-extern const Family test_zmviGetBilinearBound = {.arrange = arrangeAffine, .oracle = mappedQuad<putBound>};
+#define TESTED(name, ...) extern const Family test_zmviGet##name = {.arrange = arrangeAffine, .oracle = __VA_ARGS__};
+#define CORNERS(map) TESTED(map##Quad, quadOrBound<putQuad>) TESTED(map##Bound, quadOrBound<putBound>)
+TESTED(RotateTransform, rotateTransform)
+TESTED(RotateShift, rotateShift) CORNERS(Rotate) TESTED(AffineTransform, affineTransform) TESTED(AffineSrcRoi, srcRoi)
+    CORNERS(Affine) TESTED(PerspectiveTransform, perspectiveTransform) TESTED(PerspectiveSrcRoi, srcRoi)
+        CORNERS(Perspective) TESTED(BilinearTransform, bilinearTransform) CORNERS(Bilinear)

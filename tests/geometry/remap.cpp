@@ -1,8 +1,5 @@
 // zmviRemap: a scalar rule of each kernel, in the map's type and in the order that the banner gives.
-#include <cmath>
-#include <limits>
-
-#include "harness/case.h"
+#include "geometry/taps.h"
 
 namespace {
 
@@ -73,11 +70,6 @@ void arrangeRemap(Case& c) {
     c.arg("dstRoiSize") = Slot(c.width, c.height);
 }
 
-template <class W>
-W sumOf(W a, W b) {
-    return a != a ? a + W(0) : b != b ? b + W(0) : a + b;
-}
-
 // sin(pi x) sin(pi x / 3) of the window, at hundredths.
 float lanczosEntry(int i) {
     if (i == 0) return 1;
@@ -88,18 +80,20 @@ float lanczosEntry(int i) {
 
 // Rounded as it stands: compilers move signs in and out of products, which only rounding to nearest allows.
 template <class W>
-[[gnu::noinline]] W product(W a, W b) {
+[[gnu::noinline]] W asWritten(W a, W b) {
     return a * b;
 }
 template <class W>
 std::vector<W> weights(int kind, W f) {
     const W third = W(1) / W(3), sixth = W(1) / W(6);
+    if (kind == INTERP_NEAREST) return {};
+    if (kind == INTERP_LINEAR) return {f};
     if (kind == INTERP_CUBIC)
-        return {((1 - product(W(0.5), f)) * f - W(0.5)) * f, (W(1.5) * f - W(2.5)) * f * f + 1,
-                ((2 - product(W(1.5), f)) * f + W(0.5)) * f, (W(0.5) * f - W(0.5)) * f * f};
+        return {((1 - asWritten(W(0.5), f)) * f - W(0.5)) * f, (W(1.5) * f - W(2.5)) * f * f + 1,
+                ((2 - asWritten(W(1.5), f)) * f + W(0.5)) * f, (W(0.5) * f - W(0.5)) * f * f};
     if (kind == INTERP_CUBIC_ALT)
-        return {((W(0.5) - product(sixth, f)) * f - third) * f, ((W(0.5) * f - 1) * f - W(0.5)) * f + 1,
-                ((W(0.5) - product(W(0.5), f)) * f + 1) * f, (sixth * f * f - sixth) * f};
+        return {((W(0.5) - asWritten(sixth, f)) * f - third) * f, ((W(0.5) * f - 1) * f - W(0.5)) * f + 1,
+                ((W(0.5) - asWritten(W(0.5), f)) * f + 1) * f, (sixth * f * f - sixth) * f};
     std::vector<W> w;
     W sum = 0;
     for (int k = 0; k < 6; ++k) {
@@ -112,15 +106,6 @@ std::vector<W> weights(int kind, W f) {
     for (W& x : w) x /= sum;
     return w;
 }
-template <class W>
-W along(int kind, W f, const std::vector<W>& p) {
-    if (kind == INTERP_LINEAR) return sumOf(p[0], (p[1] - p[0]) * f);
-    const auto w = weights(kind, f);
-    W sum = w[0] * p[0];
-    for (size_t i = 1; i < w.size(); ++i) sum = sumOf(sum, w[i] * p[i]);
-    return sum;
-}
-
 template <class T, class W>
 void judgeRemap(Case& c) {
     const Image &src = c.image("src"), &dst = c.image("dst");
@@ -135,7 +120,6 @@ void judgeRemap(Case& c) {
     if (side < 4 && kind != INTERP_NEAREST) kind = INTERP_LINEAR;
     if (side == 1) kind = INTERP_NEAREST;
     const int before = kind == INTERP_LANCZOS ? 2 : kind == INTERP_NEAREST || kind == INTERP_LINEAR ? 0 : 1;
-    const int taps = kind == INTERP_NEAREST ? 1 : 2 * before + 2;
 
     for (int64_t j = 0; j < dst.height; ++j)
         for (int64_t i = 0; i < dst.width; ++i) {
@@ -149,33 +133,20 @@ void judgeRemap(Case& c) {
             int bx = int(nearX), by = int(nearY);
             const W fx = nearX - W(bx), fy = nearY - W(by);
             if (kind == INTERP_NEAREST && inside) bx += fx >= W(0.5), by += fy >= W(0.5);
+            const auto wx = weights(kind, fx), wy = weights(kind, fy);
             for (int ch = 0; ch < c.member.to.used(); ++ch) {
-                const auto pixel = [&](int px, int py) {
-                    return W(c.get<T>(src, std::clamp(px, left, right) - left, std::clamp(py, top, bottom) - top, ch));
-                };
-                W value = pixel(bx, by);
-                if (kind != INTERP_NEAREST) {
-                    std::vector<W> rows;
-                    for (int r = 0; r < taps; ++r) {
-                        std::vector<W> row;
-                        for (int k = 0; k < taps; ++k) row.push_back(pixel(bx - before + k, by - before + r));
-                        rows.push_back(along(kind, fx, row));
-                    }
-                    value = along(kind, fy, rows);
-                }
+                W value = along(wy, by - before, [&](int64_t py) {
+                    const int64_t row = std::clamp<int64_t>(py, top, bottom) - top;
+                    return along(wx, bx - before, [&](int64_t px) {
+                        return W(c.get<T>(src, std::clamp<int64_t>(px, left, right) - left, row, ch));
+                    });
+                });
                 if (!inside) {
                     const W ax = x < left ? left - x : x > right ? x - right : W(0);
                     const W ay = y < top ? top - y : y > bottom ? y - bottom : W(0);
-                    const W source = ax > 0 && ay > 0 ? (1 - ax) * (1 - ay) : ax > 0 ? 1 - ax : 1 - ay;
-                    const W old = ax > 0 && ay > 0 ? 1 - source : ax > 0 ? ax : ay;
-                    value = sumOf(value * source, W(c.get<T>(dst, i, j, ch)) * old);
+                    value = blended(value, W(c.get<T>(dst, i, j, ch)), ax, ay);
                 }
-                if constexpr (std::is_integral_v<T>) {
-                    using Limits = std::numeric_limits<T>;
-                    c.set(dst, i, j, ch, T(std::clamp(std::nearbyint(value), W(Limits::min()), W(Limits::max()))));
-                } else {
-                    c.set(dst, i, j, ch, value);
-                }
+                c.set(dst, i, j, ch, rounded<T>(value));
             }
         }
 }

@@ -13,11 +13,6 @@ struct Tile {
     int64_t x, y, w, h;  // inside the destination
     int word;
 } tile;
-int64_t outside(int64_t i, int64_t n, int word) {
-    if (n == 1 || (word & 15) != BORDER_MIRROR) return std::clamp<int64_t>(i, 0, n - 1);
-    while (i < 0 || i >= n) i = i < 0 ? -i : 2 * n - 2 - i;
-    return i;
-}
 
 void arrangeTile(Case& c) {
     Resizing& m = arrangedResizing = {};
@@ -116,8 +111,8 @@ void resize(Case& c) {
                                             (column >= m.src.width && !(tile.word & BORDER_IN_MEM_RIGHT));
                         const bool down = (row < 0 && !(tile.word & BORDER_IN_MEM_TOP)) ||
                                           (row >= m.src.height && !(tile.word & BORDER_IN_MEM_BOTTOM));
-                        if (across) column = outside(column, m.src.width, tile.word);
-                        if (down) row = outside(row, m.src.height, tile.word);
+                        if (across) column = standsFor(column, m.src.width, tile.word);
+                        if (down) row = standsFor(row, m.src.height, tile.word);
                         return c.get<T>(src, column - left, row - top, k);
                     };
                     c.set(dst, x, y, k, pixel<T>(m, size_t(tile.x + x), size_t(tile.y + y), at));
@@ -127,6 +122,6 @@ void resize(Case& c) {
 
 }  // namespace
 
-#define TESTED(name) \
+#define TESTED(name)                                                                                                   \
     extern const Family test_zmviResize##name = {.arrange = arrangeTile, .oracle = resize, .more = {noResizing}};
 TESTED(Nearest) TESTED(Linear) TESTED(Cubic) TESTED(Lanczos) TESTED(Super) TESTED(Antialiasing)

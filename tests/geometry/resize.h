@@ -1,12 +1,10 @@
 // What resizing must give: a spec object as plain numbers, formed again from the sizes, and its pixels.
 #pragma once
 
-#include <algorithm>
 #include <climits>
-#include <cmath>
 #include <numeric>
 
-#include "harness/case.h"
+#include "geometry/taps.h"
 
 namespace test {
 
@@ -208,39 +206,9 @@ inline int methodOf(const std::string& name) {
 // ---- The arithmetic of pixels ----
 
 template <class R>
-R quiet(R x) {  // as every operation leaves a NaN
-    return x + R(0) == x ? x : x + x;
+std::vector<R> weightsOf(const ResizeAxis& a, size_t i) {
+    return a.kind == a.pixel ? std::vector<R>() : std::vector<R>(a.w[i].begin(), a.w[i].end());
 }
-inline __int128 sum(__int128 a, __int128 b) { return a + b; }
-inline __int128 product(__int128 a, __int128 b) { return a * b; }
-template <class R>
-R sum(R a, R b) {  // of NaNs the first
-    return std::isnan(a) ? quiet(a) : std::isnan(b) ? quiet(b) : a + b;
-}
-template <class R>
-R product(R a, R b) {
-    return std::isnan(a) ? quiet(a) : a * b;
-}
-template <class R, class At>
-R filtered(const ResizeAxis& axis, size_t i, At at) {
-    const int64_t j = axis.first[i];
-    if (axis.kind == axis.pixel) return at(j);
-    const auto weight = [&](size_t k) { return R(axis.w[i][k]); };
-    if (axis.kind == axis.between) {
-        const R a = at(j), b = at(j + 1);
-        return sum(a, product(sum(b, -a), weight(0)));
-    }
-    R total = product(at(j), weight(0));
-    for (size_t k = 1; k < axis.w[i].size(); ++k) total = sum(total, product(at(j + int64_t(k)), weight(k)));
-    return total;
-}
-template <class T, class R>
-T rounded(R x) {
-    if constexpr (std::is_floating_point_v<T>) return T(x);
-    return T(std::clamp(std::nearbyint(double(x)), double(std::numeric_limits<T>::min()),
-                        double(std::numeric_limits<T>::max())));
-}
-
 template <class T>
 T meanOf(double total, int64_t area) {
     return T(total / double(area));
@@ -300,8 +268,9 @@ T pixel(const Resizing& m, size_t i, size_t j, At at) {
         }
     }
     using R = std::conditional_t<sizeof(T) == 8, double, float>;
-    return rounded<T>(
-        filtered<R>(m.y, j, [&](int64_t r) { return filtered<R>(m.x, i, [&](int64_t c) { return R(at(c, r)); }); }));
+    const auto wx = weightsOf<R>(m.x, i), wy = weightsOf<R>(m.y, j);
+    const auto row = [&](int64_t r) { return along(wx, m.x.first[i], [&](int64_t c) { return R(at(c, r)); }); };
+    return rounded<T>(along(wy, m.y.first[j], row));
 }
 
 }  // namespace test

@@ -1,6 +1,4 @@
 // Resizing of YUV images: every plane by the formulas of plain resizing, colours moved to where they are sited.
-#include <gtest/gtest.h>
-
 #include "geometry/resize_object.h"
 
 namespace {
@@ -135,40 +133,13 @@ void judgeFrame(Case& c) {
         const Image &src = c.image("src" + plane), &dst = c.image("dst" + plane);
         const Resizing& m = p ? frame.colour : frame.luma;
         const int64_t left = frame.x / (p ? 2 : 1), top = frame.y / (p && frame.rows() ? 2 : 1);
-        for (int64_t y = 0; y < dst.height; ++y)
-            for (int64_t x = 0; x < dst.width; ++x)
-                for (int k = 0; k < dst.channels; ++k) {
-                    const auto at = [&](int64_t i, int64_t j) {
-                        return c.get<uint8_t>(src, std::clamp<int64_t>(i, 0, src.width - 1),
-                                              std::clamp<int64_t>(j, 0, src.height - 1), k);
-                    };
-                    c.set(dst, x, y, k, pixel<uint8_t>(m, size_t(left + x), size_t(top + y), at));
-                }
-    }
-}
-
-// A colour that rises evenly in the plane of luma still does so after resizing, wherever its samples are.
-TEST(ResizeYUV, ColoursStayInRegister) {
-    Frame f;
-    f.luma.interpolation = INTERP_LINEAR, f.luma.src = {24, 16}, f.luma.dst = {72, 40};
-    for (f.site = CHROMA_CENTER; f.site <= CHROMA_TOP_LEFT; ++f.site) {
-        const auto lumaAt = [&](int k, bool row) { return 2 * k + (f.site > row ? 0 : 0.5); };
-        const auto colour = [](double x, double y) { return 20 + 4 * x + 6 * y; };
-        uint8_t spec[8192], buffer[16384], luma[24 * 16] = {}, from[12 * 8], to[3][72 * 40];
-        for (int i = 0; i < 12 * 8; ++i) from[i] = uint8_t(colour(lumaAt(i % 12, false), lumaAt(i / 12, true)));
-        ASSERT_EQ(makeFrame(underTest(), f, spec), STATUS_OK);
-        const uint8_t* const src[] = {luma, from, from};
-        uint8_t* const dst[] = {to[0], to[1], to[2]};
-        const int srcStep[] = {24, 12, 12}, dstStep[] = {72, 36, 36};
-        const auto run =
-            reinterpret_cast<StatusCode (*)(const void*, const void*, const void*, const void*, ImagePoint, ImageSize,
-                                            void*, void*)>(underTest().find("zmviResizeYUV420Linear_8u_P3R"));
-        ASSERT_EQ(run(src, srcStep, dst, dstStep, {0, 0}, {72, 40}, spec, buffer), STATUS_OK);
-        for (int y = 3; y < 17; ++y)
-            for (int x = 3; x < 33; ++x) {
-                const double u = (lumaAt(x, false) + 0.5) / 3 - 0.5, v = (lumaAt(y, true) + 0.5) / 2.5 - 0.5;
-                EXPECT_NEAR(to[1][36 * y + x], colour(u, v), 0.6) << f.site << ": " << x << ", " << y;
-            }
+        change(c, dst, [&](auto, int64_t x, int64_t y, int k) {
+            const auto at = [&](int64_t i, int64_t j) {
+                return c.get<uint8_t>(src, standsFor(i, src.width, BORDER_REPL), standsFor(j, src.height, BORDER_REPL),
+                                      k);
+            };
+            return pixel<uint8_t>(m, size_t(left + x), size_t(top + y), at);
+        });
     }
 }
 
@@ -181,5 +152,6 @@ const Check noFrame = notOne("spec", STATUS_CONTEXT_MISMATCH, anyFrame);
 #define MADE(name) extern const Family test_zmviResizeYUV##name = {.arrange = arrangeFrame, .oracle = judgeFrame};
 MADE(GetSize)
 MADE(LinearInit)
-MADE(CubicInit) MADE(LanczosInit) MADE(SuperInit) TESTED(GetBufferSize) TESTED(420Linear) TESTED(420Cubic)
-    TESTED(420Lanczos) TESTED(420Super) TESTED(422Linear) TESTED(422Cubic) TESTED(422Lanczos) TESTED(422Super)
+MADE(CubicInit)
+MADE(LanczosInit) MADE(SuperInit) TESTED(GetBufferSize) TESTED(420Linear) TESTED(420Cubic) TESTED(420Lanczos)
+    TESTED(420Super) TESTED(422Linear) TESTED(422Cubic) TESTED(422Lanczos) TESTED(422Super)

@@ -228,28 +228,6 @@ void arrangeWarp(Case& c) {
     placeObject(c, "spec", warpSpecBytes, [&](uint8_t* block) { return makeWarp(c.library, made, block); });
 }
 
-template <class W>
-W sumOf(W a, W b) {  // of two NaNs the first
-    return a != a ? a + W(0) : b != b ? b + W(0) : a + b;
-}
-template <class W>
-W along(const Warp& w, W f, const std::vector<W>& p) {
-    if (w.interpolation == INTERP_LINEAR) return sumOf(p[0], W((p[1] - p[0]) * f));
-    const auto weights = w.weights(f);
-    const auto term = [&](size_t i) { return p[i] != p[i] ? p[i] + W(0) : p[i] * weights[i]; };
-    W sum = term(0);
-    for (size_t i = 1; i < 4; ++i) sum = sumOf(sum, term(i));
-    return sum;
-}
-// The pixel that stands for one, along an axis of n; -1 for the constant.
-int64_t tapOf(int64_t i, int64_t n, int64_t word) {
-    if (i >= 0 && i < n) return i;
-    if (word == BORDER_CONST) return -1;
-    if (word != BORDER_MIRROR || n == 1) return std::clamp<int64_t>(i, 0, n - 1);
-    while (i < 0 || i >= n) i = i < 0 ? -i : 2 * n - 2 - i;
-    return i;
-}
-
 template <class T, class W>
 void judgeWarp(Case& c) {
     const Warp& w = arrangedWarp;
@@ -290,42 +268,23 @@ void judgeWarp(Case& c) {
                 if (taps == 1 && fraction >= 0.5 && (inside || !w.smooth)) ++base[k];
                 alone = alone || (word == BORDER_CONST && (base[k] >= n[k] || base[k] + taps <= 0));
             }
+            const auto wx = w.weights(f[0]), wy = w.weights(f[1]);
             for (int ch = 0; ch < dst.channels; ++ch) {
                 const auto pixel = [&](int64_t x, int64_t y) {
-                    const int64_t tx = tapOf(x, n[0], word), ty = tapOf(y, n[1], word);
+                    const int64_t tx = standsFor(x, n[0], word), ty = standsFor(y, n[1], word);
                     return tx < 0 || ty < 0 ? c.get<T>(c.image("borderValue"), 0, 0, ch) : c.get<T>(src, tx, ty, ch);
                 };
-                if (taps == 1 && inside | !w.smooth) {
-                    c.set(dst, i, j, ch, pixel(base[0], base[1]));
+                const bool copied = taps == 1 && (inside || !w.smooth);
+                if (copied || alone) {
+                    c.set(dst, i, j, ch, alone ? pixel(-9, -9) : pixel(base[0], base[1]));
                     continue;
                 }
-                if (alone) {
-                    c.set(dst, i, j, ch, pixel(-9, -9));
-                    continue;
-                }
-                W value = W(pixel(base[0], base[1]));
-                if (taps > 1) {
-                    std::vector<W> column;
-                    for (int r = 0; r < taps; ++r) {
-                        std::vector<W> row;
-                        for (int k = 0; k < taps; ++k) row.push_back(W(pixel(base[0] + k, base[1] + r)));
-                        column.push_back(along(w, f[0], row));
-                    }
-                    value = along(w, f[1], column);
-                }
-                if (word == BORDER_TRANSPARENT && !inside) {
-                    const bool both = away[0] > 0 && away[1] > 0;
-                    const W share = both ? (1 - away[0]) * (1 - away[1]) : 1 - (away[0] > 0 ? away[0] : away[1]);
-                    const W old = both ? 1 - share : away[0] > 0 ? away[0] : away[1];
-                    value = sumOf(W(value * share), W(W(c.get<T>(dst, i, j, ch)) * old));
-                }
-                if constexpr (std::is_integral_v<T>) {
-                    using Limits = std::numeric_limits<T>;
-                    const W whole = value == value ? std::nearbyint(value) : 0;
-                    c.set(dst, i, j, ch, T(std::clamp(whole, W(Limits::min()), W(Limits::max()))));
-                } else {
-                    c.set(dst, i, j, ch, value);
-                }
+                W value = along(wy, base[1], [&](int64_t y) {
+                    return along(wx, base[0], [&](int64_t x) { return W(pixel(x, y)); });
+                });
+                if (word == BORDER_TRANSPARENT && !inside)
+                    value = blended(value, W(c.get<T>(dst, i, j, ch)), away[0], away[1]);
+                c.set(dst, i, j, ch, rounded<T>(value));
             }
         }
 }

@@ -2,9 +2,7 @@
 // of the banners, one at a time.
 #pragma once
 
-#include <cmath>
-#include <vector>
-
+#include "geometry/taps.h"
 #include "harness/spec.h"
 
 namespace test {
@@ -32,12 +30,14 @@ struct Warp {
     double b[3][3] = {};                  // of a matrix from destination to source
     double p0[4], p1[4], K, A, G, s = 0;  // of a bilinear map seen from the region's first pixel, and its Jacobian
 
+    double determinant = 0;
+    bool finite = true;  // all coefficients
+
     double jacobian(double x, double y) const { return (K + G * x) + A * y; }
     // Whether it is a map.
     bool form() {
-        for (int i = 0; i < rows(); ++i)
-            for (int j = 0; j < columns(); ++j)
-                if (!std::isfinite(c[i][j])) return false;
+        finite = true;
+        for (int i = 0; i < numbers(); ++i) finite &= std::isfinite(c[i / columns()][i % columns()]);
         double all = 0, d = 0;  // zero where all is finite
         if (map == affine) {
             d = c[0][0] * c[1][1] - c[0][1] * c[1][0];
@@ -76,13 +76,15 @@ struct Warp {
         }
         if (map == affine && forward())
             for (int i = 0; i < 6; ++i) all += b[i / 3][i % 3] * 0;
-        return all == 0 && d != 0 && std::isfinite(d);
+        determinant = d;
+        return finite && all == 0 && d != 0 && std::isfinite(d);
     }
 
+    double line(int i, double X, double Y) const { return b[i][0] * X + (b[i][1] * Y + b[i][2]); }
     WarpPoint at(double X, double Y) const {
-        const auto line = [&](const double* k) { return k[0] * X + (k[1] * Y + k[2]); };
-        if (map == affine) return {line(b[0]), line(b[1])};
-        if (map == perspective) return {line(b[0]) / line(b[2]), line(b[1]) / line(b[2])};
+        const double x1 = line(0, X, Y), y1 = line(1, X, Y), d1 = line(2, X, Y);
+        if (map == affine) return {x1, y1};
+        if (map == perspective) return {x1 / d1, y1 / d1};
         if (!forward()) {
             const auto one = [&](const double* k) { return (k[0] * Y + k[1]) * X + (k[2] * Y + k[3]); };
             return {one(c[0]), one(c[1])};
@@ -96,9 +98,11 @@ struct Warp {
         return {x + double(roi.x), y + double(roi.y)};
     }
 
-    // What a fraction makes the taps from -1 to 2 count.
+    // What a fraction makes the taps of the method count.
     template <class W>
     std::vector<W> weights(W f) const {
+        if (interpolation == INTERP_NEAREST) return {};
+        if (interpolation == INTERP_LINEAR) return {f};
         const double b3 = B, c3 = C;
         const double polynomials[4][4] = {{-b3 / 6 - c3, b3 / 2 + 2 * c3, -b3 / 2 - c3, b3 / 6},
                                           {2 - 1.5 * b3 - c3, -3 + 2 * b3 + c3, 0, 1 - b3 / 3},
@@ -113,14 +117,17 @@ inline Warp arrangedWarp;  // for the oracle of the same case
 
 inline constexpr const char* warpMaps[] = {"Affine", "Perspective", "Bilinear"};
 inline constexpr int64_t warpSpecBytes = 512;
+inline std::string nameOf(const Warp& w) {
+    const std::string map = warpMaps[w.map];
+    return map + (w.interpolation == INTERP_NEAREST  ? "Nearest"
+                  : w.interpolation == INTERP_LINEAR ? "Linear"
+                                                     : "Cubic");
+}
 inline StatusCode makeWarp(const Library& library, const Warp& w, void* block) {
-    const std::string method = w.interpolation == INTERP_NEAREST  ? "Nearest"
-                               : w.interpolation == INTERP_LINEAR ? "Linear"
-                                                                  : "Cubic";
     const bool wide = w.map != Warp::bilinear;
     double k[12];
     for (int i = 0; i < w.numbers(); ++i) k[i] = w.c[i / w.columns()][i % w.columns()];
-    void* const init = library.find("zmviWarp" + (warpMaps[w.map] + method) + "Init" + (wide ? "_L" : ""));
+    void* const init = library.find("zmviWarp" + nameOf(w) + "Init" + (wide ? "_L" : ""));
     const auto call = [&](auto src, auto roi, auto dst) {
         using Size = decltype(src);
         using Rect = decltype(roi);

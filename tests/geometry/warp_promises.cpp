@@ -43,12 +43,9 @@ void warp(const Warp& w, const uint8_t* src, Step srcStep, uint8_t* dst, Step ds
     alignas(64) static uint8_t spec[512];
     static uint8_t buffer[64 + 32 * side + 16384];
     ASSERT_EQ(makeWarp(underTest(), w, spec), STATUS_OK);
-    const std::string method = w.interpolation == INTERP_NEAREST  ? "Nearest"
-                               : w.interpolation == INTERP_LINEAR ? "Linear"
-                                                                  : "Cubic";
     const uint8_t value = 99;
-    ASSERT_EQ(callOf("zmviWarp" + (warpMaps[w.map] + method) + (sizeof(Step) == 8 ? "_8u_C1R_L" : "_8u_C1R"), src,
-                     srcStep, dst, dstStep, at, size, uint32_t(word), &value, static_cast<const void*>(spec), buffer),
+    ASSERT_EQ(callOf("zmviWarp" + nameOf(w) + (sizeof(Step) == 8 ? "_8u_C1R_L" : "_8u_C1R"), src, srcStep, dst, dstStep,
+                     at, size, uint32_t(word), &value, static_cast<const void*>(spec), buffer),
               STATUS_OK);
 }
 // The whole destination in tiles of a size.

@@ -262,17 +262,13 @@ void Case::acceptRows() {
     }
 }
 
-namespace {
-// The oracle's word on what the first build gave is what the others have to give, bit for bit.
-std::string runIn(std::span<const Library> libraries, const Member& m, uint64_t seed, Mode mode) {
-    Case c(m, libraries.front(), seed, mode);
-    m.family->arrange(c);
+std::string judge(Case& c, std::span<const Library> libraries) {
     if (libraries.size() > 1) c.keepOperands();
     c.call();
-    Case::returns[m.family].insert(c.returned);
+    Case::returns[c.member.family].insert(c.returned);
     // Only a call that came back can be judged by the oracle.
     if (const std::string bad = c.trapped() ? c.verdict() : std::string(); !bad.empty()) return bad;
-    if (mode == Mode::shared) {
+    if (c.mode == Mode::shared) {
         // What bytes hold that are of several rows is left open, and may be seen by whatever reads them.
         if (c.returned >= STATUS_OK) c.acceptRows();
         c.expected = c.returned;
@@ -287,13 +283,18 @@ std::string runIn(std::span<const Library> libraries, const Member& m, uint64_t 
     }
     return bad;
 }
-}  // namespace
 
-std::string runCase(const Member& m, uint64_t seed, Mode mode) {
+std::string runCase(const Member& m, uint64_t seed, Mode mode, int misalignment) {
+    const auto runIn = [&](std::span<const Library> libraries) {
+        Case c(m, libraries.front(), seed, mode);
+        if (misalignment >= 0) c.misalign(misalignment);
+        m.family->arrange(c);
+        return judge(c, libraries);
+    };
     // What the others return, and what rows that share bytes hold, is each build's own.
-    if (m.result == "StatusCode" && mode != Mode::shared) return runIn(builds(), m, seed, mode);
+    if (m.result == "StatusCode" && mode != Mode::shared) return runIn(builds());
     for (const Library& l : builds())
-        if (const std::string bad = runIn({&l, 1}, m, seed, mode); !bad.empty()) return bad;
+        if (const std::string bad = runIn({&l, 1}); !bad.empty()) return bad;
     return {};
 }
 

@@ -53,7 +53,7 @@ Case::Case(const Member& m, const Library& l, uint64_t number, Mode how)
     flushEnd_ = rng.oneIn(2);
     width = widthOf(seed);
     height = rng.between(1, 5);
-    misalignment = int(seed % 64);
+    misalignment_ = int(seed % 64);
     if (mode == Mode::bulk) {
         const int pixel = std::max(m.from.channels, m.to.channels) * std::max(1, bytesOf(m.destination));
         width = rng.between(300, 3000);
@@ -289,12 +289,11 @@ void Case::placeBuffer(const std::string& name, int64_t bytes) {
     // Only what lies round the buffer is compared; flush at its end, its size decides how it is aligned.
     const size_t n = blocks_.size();
     Arena& a = arena(n, size_t(bytes) + 2 * margin);
-    uint8_t* start = flushEnd_ ? a.end - bytes : a.begin + misalignment;
-    misalignment = int(reinterpret_cast<uintptr_t>(start) % 64);
+    uint8_t* start = flushEnd_ ? a.end - bytes : a.begin + misalignment_;
     buffers_.emplace_back(start, size_t(std::min<int64_t>(bytes, 1 << 16)));
     for (size_t i = 0; i < buffers_.back().second; ++i) start[i] = uint8_t(rng.next());
     const auto watch = [&](uint8_t* from, size_t size) { blocks_.push_back({from, std::vector<uint8_t>(size, 0xA5)}); };
-    watch(a.begin, flushEnd_ ? 0 : size_t(misalignment));
+    watch(a.begin, flushEnd_ ? 0 : size_t(misalignment_));
     flushEnd_ ? watch(start - margin, margin) : watch(start + bytes, margin);
     arg(name) = start;
 }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <set>
+#include <span>
 #include <string>
 
 #include "harness/family.h"
@@ -44,8 +45,8 @@ class Case {
     bool allChannels = false;  // of two layouts of different channel counts: every channel takes part, not one
     bool rowsApart = false;    // images placed from now on have rows that do not overlap
     Slot mask;                 // that results depend on, where no argument tells
-    int misalignment = 0;      // of the work buffer, to 64 bytes
 
+    void misalign(int bytes) { misalignment_ = bytes, flushEnd_ = false; }  // the work buffer
     Slot& arg(const std::string& name);
     bool has(const std::string& name) const { return member.find(name) != nullptr; }
     bool hasImage(const std::string& name) const { return images.count(name) != 0; }
@@ -128,10 +129,22 @@ class Case {
     std::vector<Slot> args_;
     std::string replay_;  // the builds that show the failure
     bool extreme_, packed_, flushEnd_;
+    int misalignment_;
     unsigned mxcsr_ = 0x1f80;
     uint16_t x87_ = 0x37f;
     std::string failure_;
 };
+
+// Makes every element of an image what f says of the one that was there.
+template <class F>
+void change(Case& c, const Image& image, F f) {
+    withElement(image.element, [&]<class T>(T) {
+        for (int64_t y = 0; y < image.height; ++y)
+            for (int64_t x = 0; x < image.width; ++x)
+                for (int k = 0; k < (image.planes ? image.planes : image.own); ++k)
+                    c.set<T>(image, x, y, k, f(c.get<T>(image, x, y, k), x, y, k));
+    });
+}
 
 // Does what calls the library.  A fault in it ends it, not the tests; returns what the fault was, or nothing.
 std::string faultOf(const std::function<void()>& calls, std::function<std::string(const void*)> where = nullptr);
@@ -139,8 +152,11 @@ std::string faultOf(const std::function<void()>& calls, std::function<std::strin
 // Whether the C library's memcpy was called for operands that overlap.
 extern volatile bool copiedOverlapping;
 
-// Runs one case in all builds, from arrangement to verdict.
-std::string runCase(const Member& m, uint64_t seed, Mode mode);
+// Calls an arranged case in all builds: the oracle's word on what the first one gave is what the others have to give,
+// bit for bit.  Says what is wrong.
+std::string judge(Case& c, std::span<const Library> libraries = builds());
+// Runs one case in all builds, from arrangement to verdict; its work buffer at a misalignment to 64 bytes.
+std::string runCase(const Member& m, uint64_t seed, Mode mode, int misalignment = -1);
 // Whether parts of a call make the whole, and the call in parts.
 bool hasTiles(const Member& m);
 std::string runTiles(const Member& m, uint64_t seed);

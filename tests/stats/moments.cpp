@@ -263,28 +263,6 @@ TEST(Moments, BeyondAnyWord) {
         for (int k = 0; k + q < 4; ++k) EXPECT_EQ(state.get("Spatial", k, q), due[i++]) << k << q;
     EXPECT_DOUBLE_EQ(state.get("Central", 2, 0), 0x1.201f9d3d26a22p+57);
 }
-// A disc, and a letter that is turned and mirrored.
-TEST(Moments, OfShapes) {
-    Picture disc{{}, 201, 201, {-1000000, 2000000}}, letter{{Element::s16, 1}, 60, 60}, turned(letter),
-        mirrored(letter);
-    for (int i = 0; i < 201 * 201; ++i)
-        disc.of(i % 201, i / 201) = std::hypot(i % 201 - 90, i / 201 - 110) <= 80 ? 9 : 0;
-    const Gathered round(disc);
-    EXPECT_DOUBLE_EQ(round.get("Spatial", 1, 0) / round.get("Spatial", 0, 0), -1000000 + 90);
-    EXPECT_DOUBLE_EQ(round.get("Spatial", 0, 1) / round.get("Spatial", 0, 0), 2000000 + 110);
-    EXPECT_NEAR(round.get("NormalizedCentral", 2, 0) * 9 * 4 * M_PI, 1, 1e-3);
-    for (int i = 0; i < 3600; ++i) {
-        const int x = i % 60, y = i / 60;
-        const bool inside = x > 9 && x < 40 && y > 4 && y < 55, ink = x < 20 || y < 14 || (y > 25 && y < 33 && x < 34);
-        letter.of(x, y) = turned.of(59 - y, x) = mirrored.of(59 - x, y) = inside ? ink ? 100 : -3 : 0;
-    }
-    double hu[3][7];
-    for (int i = 0; i < 3; ++i)
-        call(underTest(), "zmviMomentsGetHu", Gathered(i == 0 ? letter : i == 1 ? turned : mirrored).block, 0, hu[i]);
-    for (int i = 0; i < 14; ++i)
-        EXPECT_NEAR(i == 13 ? -hu[2][6] : hu[1 + i / 7][i % 7], hu[0][i % 7], 1e-9 * std::fabs(hu[0][i % 7]));
-}
-
 // Objects of moments, but of no type that there is.
 alignas(64) const int32_t otherTypes[3][16] = {{0x4d4f4d54, 99, 1}, {0x4d4f4d54, 99, 3}, {0x4d4f4d54, 99, 4}};
 Check noState(const char* argument, bool ofOtherTypes = false) {

@@ -29,13 +29,8 @@ void arrangeNorm(Case& c) {
             const Image& image = c.place(name, c.width, c.height);
             const bool nothing = c.rng.oneIn(8), equal = std::string(name) == "src2" && c.rng.oneIn(8);
             if (image.element == Element::f32) fillFloats<float>(c, image);
-            withElement(image.element, [&]<class T>(T) {
-                for (int64_t y = 0; y < c.height; ++y)
-                    for (int64_t x = 0; x < c.width; ++x)
-                        for (int k = 0; k < image.channels; ++k) {
-                            if (nothing) c.set(image, x, y, k, T(0));
-                            if (equal) c.set(image, x, y, k, c.get<T>(c.image("src1"), x, y, k));
-                        }
+            change(c, image, [&]<class T>(T v, int64_t x, int64_t y, int k) {
+                return equal ? c.get<T>(c.image("src1"), x, y, k) : nothing ? T(0) : v;
             });
         }
     c.place(resultOf(c), c.member.from.used(), 1);

@@ -18,15 +18,10 @@ void arrangeQuality(Case& c) {
     for (const char* name : {"src1", "src2"}) {
         const Image& image = c.place(name, width, height);
         if (image.element == Element::f32) fillFloats<float>(c, image);
-        withElement(image.element, [&]<class T>(T) {
-            for (int64_t y = 0; y < height; ++y)
-                for (int64_t x = 0; x < width; ++x)
-                    for (int k = 0; k < image.channels; ++k) {
-                        if (kind == 1 && name[3] == '2') c.set(image, x, y, k, c.get<T>(c.image("src1"), x, y, k));
-                        if (kind == 2 || (kind == 3 && x > width / 2))  // of floats nearly one value
-                            c.set(image, x, y, k, T(c.rng.oneIn(2) ? 7.3 : 7.3000005));
-                        if (kind == 4 && (x > width / 2 || name[3] == '2')) c.set(image, x, y, k, T(0));
-                    }
+        change(c, image, [&]<class T>(T v, int64_t x, int64_t y, int k) {
+            if (kind == 1 && name[3] == '2') return c.get<T>(c.image("src1"), x, y, k);
+            if (kind == 2 || (kind == 3 && x > width / 2)) return T(c.rng.oneIn(2) ? 7.3 : 7.3000005);  // nearly one
+            return kind == 4 && (x > width / 2 || name[3] == '2') ? T(0) : v;
         });
     }
     c.place("pQuality", c.member.from.channels, 1);
