@@ -1,10 +1,10 @@
 #!/bin/bash
-# installed.sh BUILD CC HERE STEP: installs BUILD to a scratch prefix and uses it as a stranger would.
-# Exit status 77 means skipped.
+# installed.sh BUILD CC CXX HERE STEP: installs BUILD to a scratch prefix, or takes what is in ZMV_PREFIX, and uses it as
+# a stranger would.  Exit status 77 means skipped.
 set -eu
-build=$1 cc=$2 here=$3 step=$4
+build=$1 cc=$2 cxx=$3 here=$4 step=$5
 scratch=$build/installed
-prefix=$scratch/prefix
+prefix=${ZMV_PREFIX-$scratch/prefix}
 loader=/lib64/ld-linux-x86-64.so.2
 
 # Which build must run here when nothing is masked: the best whose folder the loader itself says it searches.
@@ -50,9 +50,7 @@ case $step in
 ./include/zmvip_types.h
 ./lib/cmake/zmvip/zmvip-config-version.cmake
 ./lib/cmake/zmvip/zmvip-config.cmake
-./lib/glibc-hwcaps/x86-64-v3/libzmvip.so
 ./lib/glibc-hwcaps/x86-64-v3/libzmvip.so.1
-./lib/glibc-hwcaps/x86-64-v4/libzmvip.so
 ./lib/glibc-hwcaps/x86-64-v4/libzmvip.so.1
 ./lib/libzmvcore.so
 ./lib/libzmvcore.so.1
@@ -80,17 +78,21 @@ case $step in
 TREE
         ;;
     pkg_config)
-        flags=$(PKG_CONFIG_PATH=$prefix/lib/pkgconfig pkg-config --cflags --libs zmvip)
-        # Here and below the flags are a list of words.
+        flags="$(PKG_CONFIG_PATH=$prefix/lib/pkgconfig pkg-config --cflags --libs zmvip) -Wall -Wextra -pedantic -Werror"
+        # The flags are a list of words.
         # shellcheck disable=SC2086
-        $cc -std=c99 -Wall -Wextra -pedantic -Werror "$here/consumer/program.c" $flags -o "$scratch/by_pkg_config"
+        $cc -std=c99 "$here/consumer/program.c" $flags -o "$scratch/by_pkg_config"
+        # shellcheck disable=SC2086
+        $cxx -std=c++17 "$here/consumer/program.cpp" $flags -o "$scratch/by_pkg_config_cxx"
         LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config"
+        LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config_cxx"
         ;;
     find_package)
         cmake -G Ninja -S "$here/consumer" -B "$scratch/stranger" -DCMAKE_PREFIX_PATH="$prefix" \
-              -DCMAKE_C_COMPILER="$cc" >/dev/null
+              -DCMAKE_C_COMPILER="$cc" -DCMAKE_CXX_COMPILER="$cxx" >/dev/null
         cmake --build "$scratch/stranger" >/dev/null
         "$scratch/stranger/program"
+        "$scratch/stranger/program_cxx"
         ;;
     absolute_path)
         # Preloaded by its path, as dlopen would: the loader does not look for better builds, and the baseline is right.
