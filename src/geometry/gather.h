@@ -29,10 +29,10 @@ struct ReadableColumns {
 struct Run {
     Len from = 0, to = 0;
     Reading reading = Reading::elements;
-    int copy = -1;   // which copy of a part of the row it reads, if not the row
-    Len origin = 0;  // the column at the start of the copy, or 0
+    bool copied = false;  // whether it reads a copy of a part of the row, not the row
+    Len origin = 0;       // the column at the start of the copy, or 0
     Len* offsets = nullptr;
-    uint8_t* controls = nullptr;
+    uint8_t *controls = nullptr, *copy = nullptr;
 };
 
 // U: a lane's bytes; it holds taps of T, q of them.  Vectors come by so many together.
@@ -52,9 +52,12 @@ struct Gather {
     template <class Axis>
     Reading readingFor(const Axis& axis, Len from, Len to) const {
         if constexpr (!hasByteShuffle) return Reading::elements;
+        const Len behind = std::min(pixelsBehind(), to - from - 1);
         Len most = 0;
-        for (Len x = from; x < to; ++x)
-            most = std::max(most, axis.first(std::min(x + pixelsBehind(), to - 1)) - axis.first(x));
+        if constexpr (requires { axis.mostApart(behind); })
+            most = axis.mostApart(behind);
+        else
+            for (Len x = from; x < to - behind; ++x) most = std::max(most, axis.first(x + behind) - axis.first(x));
         const Len span = (most + q) * pixelBytes();
         // Of 8-byte elements a lane has but two: two windows cost more than they do.
         return span <= 16 ? Reading::oneWindow : span <= 32 && perLane > 2 ? Reading::twoWindows : Reading::elements;
@@ -80,66 +83,88 @@ struct Gather {
     }
     // Cuts pixels into those whose taps are in memory with all that is loaded beside them, and those at either end.
     template <class Axis>
-    int cut(const Axis& axis, Len from, Len to, Run* runs) const {
-        const Reading reading = readingFor(axis, from, to);
+    int cut(const Axis& axis, Reading reading, Len from, Len to, Run* runs) const {
         if (movable(axis, reading, from, to)) return runs[0] = {from, to, reading}, 1;
         const Len bytes = bytesRead(reading);
         Len a = from, b;
         while (a < to && axis.first(a) < columns.from) ++a;
         for (b = to; b > a && axis.first(b - 1) * pixelBytes() + bytes > columns.to * pixelBytes();) --b;
         int count = 0;
-        const auto add = [&](Len first, Len end, int copy) {
+        const auto add = [&](Len first, Len end, bool atEnd) {
             if (first >= end) return;
-            const bool small = reading != Reading::elements && copiedBytes(axis, first, end, bytes) <= mostCopied;
-            runs[count++] = copy < 0 ? Run{first, end, reading}
-                            : small  ? Run{first, end, reading, copy, axis.first(first)}
-                                     : Run{first, end, Reading::mapped};
+            const Run copied{first, end, reading, true, axis.first(first)};
+            const bool small = reading != Reading::elements && copiedBytes(axis, copied) <= mostCopied;
+            runs[count++] = !atEnd ? Run{first, end, reading} : small ? copied : Run{first, end, Reading::mapped};
         };
-        add(from, a, 0), add(a, b, -1), add(b, to, 1);
+        add(from, a, true), add(a, b, false), add(b, to, true);
         return count;
     }
     template <class Axis>
-    Len copiedBytes(const Axis& axis, Len from, Len to, Len bytes) const {
-        return (axis.first(to - 1) - axis.first(from)) * pixelBytes() + bytes;
+    Len copiedBytes(const Axis& axis, const Run& run) const {
+        return (axis.first(run.to - 1) - run.origin) * pixelBytes() + bytesRead(run.reading);
     }
 
     static Len vectors(const Run& run, int channels) {
         constexpr int step = perVector * together;
         return ((run.to - run.from) * channels + step - 1) / step * together;
     }
-    // Of one vector, at most where a longer stretch is read so.
-    static constexpr Len tableBytes(Reading reading) {
-        constexpr Len windows = vectorBytes / 16 * Len(sizeof(Len)) + vectorBytes;
-        return reading == Reading::elements ? std::max<Len>(windows, perVector * Len(sizeof(Len))) : windows;
-    }
-
+    // The memory of a run, and what stands in its tables.
     template <class Axis>
-    void form(const Axis& axis, Run& run, Scratch& scratch) const {
-        const Len elements = (run.to - run.from) * n, count = vectors(run, n);
+    void take(const Axis& axis, Run& run, Scratch& scratch) const {
+        const Len count = vectors(run, n);
         run.offsets = scratch.take<Len, 8>(count * (isWindow(run) ? vectorBytes / 16 : perVector));
         if (isWindow(run)) run.controls = scratch.take<uint8_t, 64>(count * vectorBytes);
-        Len x = run.from, c = 0, start = 0;
-        for (Len e = 0; e < count * perVector; ++e) {
-            const Len first = axis.first(x) - run.origin;
-            if (run.reading == Reading::mapped) {
-                run.offsets[e] = axis.first(x) * 4 + c;
-            } else if (run.reading == Reading::elements) {
-                run.offsets[e] = first * pixelBytes() + c * Len(sizeof(T));
-            } else {
-                if (e % perLane == 0) run.offsets[e / perLane] = start = windowAt(run, first);
-                uint8_t* const control = run.controls + e * Len(sizeof(U));
-                for (int k = 0; k < q; ++k) {
-                    const Len column = run.copy < 0 ? columns.at(first + k) : first + k;
-                    const Len at = column * pixelBytes() - start + c * Len(sizeof(T));
-                    for (int i = 0; i < int(sizeof(T)); ++i) control[k * int(sizeof(T)) + i] = uint8_t(at + i);
-                }
-            }
+        if (run.copied) run.copy = scratch.take<uint8_t>(copiedBytes(axis, run));
+    }
+    template <class Axis>
+    void form(const Axis& axis, const Run& run) const {
+        if (run.copy) std::memset(run.copy, 0, size_t(copiedBytes(axis, run)));  // what no tap belongs to is read too
+        const Len elements = (run.to - run.from) * n, end = vectors(run, n) * perVector;
+        Len x = run.from;
+        int c = 0;
+        const auto next = [&](Len e) {
             if (e + 1 < elements && ++c == n) c = 0, ++x;  // lanes behind the last element repeat it
+        };
+        if (!isWindow(run)) {
+            const bool mapped = run.reading == Reading::mapped;
+            const Len apart = mapped ? 4 : pixelBytes(), size = mapped ? 1 : Len(sizeof(T));
+            for (Len e = 0; e < end; next(e++)) run.offsets[e] = (axis.first(x) - run.origin) * apart + c * size;
+            return;
+        }
+        // A control is the place of the element's first tap in every byte, and how far behind it each byte lies.
+        constexpr U everyByte = U(~U(0)) / 255;
+        U behind = 0;
+        for (int i = 0; i < int(sizeof(U)); ++i)
+            behind |= U(U(i / int(sizeof(T)) * pixelBytes() + i % int(sizeof(T))) << (8 * i));
+        for (Len e = 0; e < end; e += perLane) {
+            const Len left = axis.first(x) - run.origin, start = windowAt(run, left),
+                      right = axis.first(std::min(x + pixelsBehind(), run.to - 1)) - run.origin;
+            U* const controls = reinterpret_cast<U*>(run.controls) + e;
+            run.offsets[e / perLane] = start;
+            if (!run.copied && (left < columns.from || right + q > columns.to)) {
+                for (Len i = e; i < e + perLane; next(i++))
+                    for (int k = 0; k < int(sizeof(U)); ++k) {
+                        const Len column = columns.at(axis.first(x) + k / int(sizeof(T)));
+                        run.controls[i * Len(sizeof(U)) + k] =
+                            uint8_t(column * pixelBytes() - start + c * Len(sizeof(T)) + k % int(sizeof(T)));
+                    }
+                continue;
+            }
+            const auto control = [&, zero = uint32_t(run.origin * pixelBytes() + start)](Len pixel, int channel) {
+                const uint32_t place = uint32_t(axis.first(pixel)) * uint32_t(pixelBytes()) - zero;
+                return U((place + uint32_t(channel) * sizeof(T)) * everyByte + behind);
+            };
+            if (n == 1 && e + perLane < elements) {
+                for (int i = 0; i < perLane; ++i) controls[i] = control(x + i, 0);
+                x += perLane;
+            } else {
+                for (int i = 0; i < perLane; next(e + i++)) controls[i] = control(x, c);
+            }
         }
     }
     // Where the window of a lane starts whose first tap is this one.
     Len windowAt(const Run& run, Len first) const {
-        if (run.copy >= 0) return first * pixelBytes();
+        if (run.copied) return first * pixelBytes();
         const Len end = columns.to * pixelBytes() - windowBytes(run.reading);
         return std::min(std::max(first, columns.from) * pixelBytes(), end);
     }
@@ -149,19 +174,21 @@ struct Gather {
 
     // What a run at the row's end reads instead of the row.
     template <class Axis>
-    void copyEnd(const Axis& axis, const Run& run, const uint8_t* row, uint8_t* to) const {
+    const uint8_t* copyOf(const Axis& axis, const Run& run, const uint8_t* row) const {
         const Len size = pixelBytes();
         const Len first = run.origin, end = axis.end(run.to - 1);
         const Len inside = std::max(first, columns.from), outside = std::min(end, columns.to);
         const auto mapped = [&](Len j) {
-            std::memcpy(to + (j - first) * size, row + columns.at(j) * size, size_t(size));
+            std::memcpy(run.copy + (j - first) * size, row + columns.at(j) * size, size_t(size));
         };
         for (Len j = first; j < std::min(inside, end); ++j) mapped(j);
-        if (outside > inside) copyRow(to + (inside - first) * size, row + inside * size, (outside - inside) * size);
+        if (outside > inside)
+            copyRow(run.copy + (inside - first) * size, row + inside * size, (outside - inside) * size);
         for (Len j = std::max(outside, first); j < end; ++j) mapped(j);
+        return run.copy;
     }
 
-    // Group g of the taps of vector v of a run; base: the row at column 0, or the copy.
+    // Group g of the taps of vector v of a run; base: what it reads.
     template <Reading reading>
     ZMV_INLINE Vec<U> at(const Run& run, const uint8_t* base, Len v, Len g) const {
         base += g * q * pixelBytes();

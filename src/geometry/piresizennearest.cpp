@@ -13,10 +13,19 @@ struct NearestTile {
     Image<const T> src;
     Image<T> dst;
     const Lanes gather;
-    Run runs[3] = {};
-    int count = 0;
-    uint8_t copies[2][Lanes::mostCopied] = {};
 
+    struct Band {
+        Len from, to;
+        Run runs[3];
+        int count;
+        Band(Scratch& scratch, const NearestTile& tile, Len begin, Len end)
+            : from(begin),
+              to(end),
+              count(tile.gather.cut(tile.columns, tile.gather.readingFor(tile.columns, from, to), from, to, runs)) {
+            for (int i = 0; i < count; ++i)
+                if (Lanes::isWindow(runs[i])) tile.gather.take(tile.columns, runs[i], scratch);
+        }
+    };
     template <Reading reading>
     void lookUp(const Run& run, const uint8_t* base, T* row, T* end) const {
         for (Len v = 0; v < Lanes::vectors(run, gather.n); ++v, row += lanes<T>)
@@ -33,14 +42,13 @@ struct NearestTile {
         if (gather.n == 4) copy(std::integral_constant<int, 4>{});
     }
     // Runs may write behind themselves what later ones write again.
-    void fillBand(const T* from, T* to, Len first, Len end) {
+    void fillBand(const Band& band, const T* from, T* to) const {
         const auto row = reinterpret_cast<const uint8_t*>(from);
-        for (int i = 0; i < count; ++i) {
-            const Run& run = runs[i];
-            if (run.copy >= 0) gather.copyEnd(columns, run, row, copies[run.copy]);
-            const uint8_t* const base = run.copy >= 0 ? copies[run.copy] : row;
-            T* const start = to + (run.from - first) * gather.n;
-            T* const stop = to + (end - first) * gather.n;
+        for (int i = 0; i < band.count; ++i) {
+            const Run& run = band.runs[i];
+            const uint8_t* const base = run.copied ? gather.copyOf(columns, run, row) : row;
+            T* const start = to + (run.from - band.from) * gather.n;
+            T* const stop = to + (band.to - band.from) * gather.n;
             if constexpr (hasByteShuffle) {
                 if (run.reading == Reading::oneWindow) lookUp<Reading::oneWindow>(run, base, start, stop);
                 if (run.reading == Reading::twoWindows) lookUp<Reading::twoWindows>(run, base, start, stop);
@@ -48,28 +56,21 @@ struct NearestTile {
             if (!gather.isWindow(run)) copyPixels(from, start, run);
         }
     }
-    void run() {
-        uint8_t tables[tableRoom];
-        const Len vectors = tableRoom / (Lanes::tableBytes(Reading::oneWindow) + 8) - 3,
-                  width = std::max<Len>(vectors * lanes<T> / gather.n, 1);
-        const Len end = tile.offset.x + tile.size.width;
-        for (Len x = tile.offset.x; x < end; x += width) {
-            const Len to = std::min(x + width, end);
-            Scratch scratch(tables);
-            count = gather.cut(columns, x, to, runs);
-            for (int i = 0; i < count; ++i)
-                if (gather.isWindow(runs[i])) gather.form(columns, runs[i], scratch);
-            for (Len y = 0; y < tile.size.height; ++y) {
-                const Len from = rows.first(tile.offset.y + y);
-                T* const row = dst.row(y) + (x - tile.offset.x) * gather.n;
-                if (y > 0 && from == rows.first(tile.offset.y + y - 1))
-                    copyRow(row, dst.row(y - 1) + (x - tile.offset.x) * gather.n, (to - x) * gather.pixelBytes());
-                else
-                    fillBand(src.row(from), row, x, to);
-            }
+    void work(const Band& band) const {
+        for (int i = 0; i < band.count; ++i)
+            if (gather.isWindow(band.runs[i])) gather.form(columns, band.runs[i]);
+        for (Len y = 0; y < tile.size.height; ++y) {
+            const Len from = rows.first(tile.offset.y + y), left = (band.from - tile.offset.x) * gather.n;
+            T* const row = dst.row(y) + left;
+            if (y > 0 && from == rows.first(tile.offset.y + y - 1))
+                copyRow(row, dst.row(y - 1) + left, (band.to - band.from) * gather.pixelBytes());
+            else
+                fillBand(band, src.row(from), row);
         }
     }
-    static constexpr Len tableRoom = 8192;
+    void run() const {
+        inBands<Band>(*this, tile, INT64_MAX, [&](const Band& band) { work(band); });
+    }
 };
 
 }  // namespace

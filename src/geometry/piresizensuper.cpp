@@ -62,47 +62,50 @@ class AreaTile {
         return !bytes || (rows.whole() <= 128 && columns.whole() <= 128 && columns.whole() * rows.whole() <= 1 << 14);
     }
     void run() {
-        alignas(64) uint8_t local[least];
-        const WideLen given = resizeBufferBytes(tile_.header, tile_.size, n_);
-        const Len room = given > least ? Len(std::min<WideLen>(given, most)) : least;
-        Len width = tile_.size.width;
-        while (width > 1 && bytesFor(width) > room) width = (width + 1) / 2;
-        for (Len x = 0; x < tile_.size.width; x += width)
-            band(x, std::min(x + width, tile_.size.width), Scratch(room > least ? tile_.buffer : local));
+        constexpr Len near = 32768;  // bytes
+        inBands<Band>(*this, tile_, near, [&](Band& band) { work(band); });
     }
 
   private:
-    static constexpr Len least = 8192, most = 32768;  // bytes, of a narrow tile's memory and of what stays near
+    // Columns whose sums stay near, and their memory.
+    struct Band {
+        Len from, elements, first, count, vectors;  // the sums' first column and their number; vectors of results
+        Lanes gather;
+        Run run;
+        Len lineBytes;
+        Line* line;
+        Weight* weights;
+
+        Band(Scratch& scratch, const AreaTile& tile, Len begin, Len end)
+            : from(begin),
+              elements((end - begin) * tile.n_),
+              first(tile.columns_.first(begin)),
+              count((tile.columns_.end(end - 1) - first) * tile.n_),
+              vectors((elements + lanes<U> - 1) / lanes<U>),
+              gather{tile.n_,
+                     tile.groups_,
+                     {first, first + count / tile.n_ + mostColumns, INT64_MAX, INT64_MAX, BORDER_REPL}},
+              run{begin, end, gather.readingFor(tile.columns_, begin, end)},
+              lineBytes((count + mostColumns * tile.n_) * Len(sizeof(Line)) + 2 * vectorBytes),
+              line(reinterpret_cast<Line*>(scratch.take<uint8_t, 64>(lineBytes))),
+              weights(scratch.take<Weight, 64>(vectors * lanes<U> * tile.weightRows())) {
+            gather.take(tile.columns_, run, scratch);
+            run.copied = true, run.origin = first;  // the line stands for a row
+        }
+    };
     Len weightRows() const { return bytes ? groups_ : columns_.most() + 1; }
-    Len bytesFor(Len width) const {
-        const Len elements = width * n_, whole = (elements / lanes<U> + 1) * lanes<U>;
-        return ((width + 1) * columns_.whole() / columns_.parts() + mostColumns + 2) * n_ * Len(sizeof(Line)) +
-               whole * weightRows() * Len(sizeof(Weight)) +
-               (elements / lanes<U> + 1) * Lanes::tableBytes(Reading::elements) + 4 * vectorBytes + 256;
-    }
-    void band(Len from, Len to, Scratch scratch) {
-        const Len left = tile_.offset.x + from, right = tile_.offset.x + to, elements = (to - from) * n_;
-        const Len first = columns_.first(left), count = (columns_.end(right - 1) - first) * n_;
-        const Len vectors = (elements + lanes<U> - 1) / lanes<U>;
-        Line* const line = scratch.take<Line, 64>(count + mostColumns * n_ + 2 * lanes<Line>);
-        Weight* const weights = scratch.take<Weight, 64>(vectors * lanes<U> * weightRows());
-        std::memset(line, 0, size_t((count + mostColumns * n_) * Len(sizeof(Line)) + 2 * vectorBytes));
-        const Lanes gather{n_, groups_, {first, first + count / n_ + mostColumns, INT64_MAX, INT64_MAX, BORDER_REPL}};
-        Run run{left, right, gather.readingFor(columns_, left, right)};
-        run.copy = 0, run.origin = first;  // the line starts with its first column
-        gather.form(columns_, run, scratch);
-        formWeights(weights, left, elements, vectors);
+    void work(const Band& band) const {
+        std::memset(band.line, 0, size_t(band.lineBytes));
+        band.gather.form(columns_, band.run);
+        formWeights(band.weights, band.from, band.elements, band.vectors);
         for (Len y = 0; y < tile_.size.height; ++y) {
-            sumColumns(line, tile_.offset.y + y, first * n_, count);
-            T* const row = dst_.row(y) + from * n_;
-            const auto base = reinterpret_cast<const uint8_t*>(line);
+            sumColumns(band.line, tile_.offset.y + y, band.first * n_, band.count);
+            T* const row = dst_.row(y) + (band.from - tile_.offset.x) * n_;
             if constexpr (hasByteShuffle) {
-                if (run.reading == Reading::oneWindow)
-                    along<Reading::oneWindow>(gather, run, base, weights, row, elements);
-                if (run.reading == Reading::twoWindows)
-                    along<Reading::twoWindows>(gather, run, base, weights, row, elements);
+                if (band.run.reading == Reading::oneWindow) along<Reading::oneWindow>(band, row);
+                if (band.run.reading == Reading::twoWindows) along<Reading::twoWindows>(band, row);
             }
-            if (run.reading == Reading::elements) along<Reading::elements>(gather, run, base, weights, row, elements);
+            if (band.run.reading == Reading::elements) along<Reading::elements>(band, row);
         }
     }
     void formWeights(Weight* weights, Len x, Len elements, Len vectors) const {
@@ -150,10 +153,12 @@ class AreaTile {
             return addInOrder(a, b);
     }
     template <Reading reading>
-    void along(const Lanes& lanesOfLine, const Run& theRun, const uint8_t* base, const Weight* weights, T* row,
-               Len elements) const {
-        const auto gather = lanesOfLine;
-        const auto run = theRun;
+    void along(const Band& band, T* row) const {
+        const auto gather = band.gather;
+        const auto run = band.run;
+        const auto base = reinterpret_cast<const uint8_t*>(band.line);
+        const Weight* const weights = band.weights;
+        const Len elements = band.elements;
         const Len next = lanes<U> * weightRows(), fewest = columns_.fewest(), columns = columns_.most(),
                   groups = groups_;
         const auto factor = fill(float(factor_)), area = fill(float(area_));
@@ -181,7 +186,7 @@ class AreaTile {
             }
         };
         constexpr int together = int(sizeof(U) / sizeof(T));
-        const Len last = (elements + lanes<U> - 1) / lanes<U> - 1;
+        const Len last = band.vectors - 1;
         for (Len e = 0, v = 0; e < elements; e += lanes<T>, v += together) {
             std::array<Vec<Sum>, together> means;
             unrolled<together>([&](auto i)

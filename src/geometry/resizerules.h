@@ -22,7 +22,7 @@ template <int first, int... more>
 struct Counts {
     static bool has(Len n) { return n == first || (... || (n == more)); }
     template <class F>
-    static void with(Len n, F f) {
+    ZMV_INLINE static void with(Len n, const F& f) {
         if constexpr (sizeof...(more) > 0)
             if (n != first) return Counts<more...>::with(n, f);
         f(std::integral_constant<int, first>{});
@@ -54,6 +54,13 @@ struct BytesLinear {
     void putWeights(Len x, Weight* to, Len step) const {
         const int f = fraction(columns, x);
         to[0] = int16_t(4 * f), to[step] = int16_t(f < 8192 ? 64 : 64 << 8);
+    }
+    // The same of a vector of pixels.
+    void putVectors(Len x, Weight* to) const {
+        const float* const at = columns.weights + x;
+        const auto whole = joined<A>(std::array{load(at) * 16384, load(at + lanes<float>) * 16384});
+        const auto f = columns.shape.kind == Taps::one ? Vec<A>{} : whole < 16383 ? whole : fill<A>(16383);
+        store(to, (Vec<U>)f << 2), store(to + lanes<A>, f < 8192 ? fill<A>(64) : fill<A>(64 << 8));
     }
     // Within 16 bits, but for what stands in lanes that nobody asked for.
     static ZMV_INLINE Vec<A> mix(Vec<A> a, Vec<A> b) { return (Vec<A>)((Vec<U>)a + (Vec<U>)b); }

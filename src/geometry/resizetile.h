@@ -8,12 +8,6 @@
 
 namespace zmv {
 
-// Memory for what a narrow tile needs, whose work buffer may not hold the tables of a whole vector.
-struct LocalMemory {
-    static constexpr Len bytes = 8192;
-    alignas(64) uint8_t memory[bytes];
-};
-
 template <class Rule, class Axis>
 class TileFilter {
     using T = typename Rule::T;
@@ -34,15 +28,7 @@ class TileFilter {
         reading_ = gather_.readingFor(columns, tile.offset.x, tile.offset.x + tile.size.width);
     }
     void run() {
-        LocalMemory local;
-        const Len given = Len(resizeBufferBytes(tile_.header, tile_.size, n_));
-        const bool inLocal = given <= LocalMemory::bytes;
-        const Len room = inLocal ? LocalMemory::bytes : given;
-        Len width = tile_.size.width;
-        while (width > 1 && bytesFor(width) > room) width = (width + 1) / 2;
-        const Len end = tile_.offset.x + tile_.size.width;
-        for (Len x = tile_.offset.x; x < end; x += width)
-            band(x, std::min(x + width, end), Scratch(inLocal ? local.memory : tile_.buffer));
+        inBands<Band>(*this, tile_, INT64_MAX, [&](Band& band) { work(band); });
     }
 
   private:
@@ -57,15 +43,12 @@ class TileFilter {
         if (elements > lanes<A>) return (elements + 2 * lanes<A> - 1) / lanes<A> * lanes<A>;
         return (elements * Len(sizeof(A)) + 31) / 32 * 32 / Len(sizeof(A));
     }
-    static constexpr Len slack = 768;  // for alignment, and for vectors read beyond the last row and the last weight
-    // What band() takes at most.
-    Len bytesFor(Len width) const {
-        const Len elements = width * n_, vectors = elements / lanes<A> + 3;
-        const Len weighed = elements <= lanes<A> ? elements : vectors * lanes<A>;
-        return rows_.shape.most * (strideFor(elements) * Len(sizeof(A)) + Len(sizeof(A*))) +
-               weighed * rule_.weightRows() * Len(sizeof(Weight)) +
-               vectors * vectorsOfTaps * Lanes::tableBytes(reading_) +
-               (gather_.bytesRead(Reading::twoWindows) <= Lanes::mostCopied ? 2 * Lanes::mostCopied : 0) + slack;
+    // Rows of a ring: so many as a destination row takes; of narrow bands all, if none is in vain.
+    Len ringRows(Len stride) const {
+        const Len bottom = tile_.offset.y + tile_.size.height,
+                  all = rows_.end(bottom - 1) - rows_.first(tile_.offset.y), most = rows_.shape.most;
+        const Len near = std::min(all, 4096 / (stride * Len(sizeof(A))));
+        return all <= tile_.size.height * most ? std::max(most, near) : most;
     }
 
     struct Part {
@@ -73,57 +56,86 @@ class TileFilter {
         Weight* weights;
         Len step;  // from weight to weight of an element
     };
-    void band(Len from, Len to, Scratch scratch) {
-        const Len elements = (to - from) * n_;
-        stride_ = strideFor(elements), from_ = from;
-        ring_ = scratch.take<A, 64>(rows_.shape.most * stride_);
-        scratch.take<uint8_t>(vectorBytes);  // vectors are read beyond the last row
-        const A** const rowAt = scratch.take<const A*, 8>(rows_.shape.most + 1);
+    // Columns that are worked off together, and their memory.
+    struct Band {
+        Len from, to, stride, ringRows;
+        A* ring;
+        const A** rowAt;
         Run runs[3];
-        parts_ = gather_.cut(columns_, from, to, runs);
-        for (int i = 0; i < parts_; ++i) form(part_[i], runs[i], scratch);
-        for (uint8_t*& copy : copies_) copy = nullptr;
-        for (int i = 0; i < parts_; ++i)
-            if (const int copy = part_[i].run.copy; copy >= 0) {
-                const Run& run = part_[i].run;
-                const Len bytes = gather_.copiedBytes(columns_, run.from, run.to, gather_.bytesRead(run.reading));
-                copies_[copy] = scratch.take<uint8_t>(bytes);
-                std::memset(copies_[copy], 0, size_t(bytes));
-            }
+        int count;
+        Part parts[3];
+        Len free = 0;  // where in the ring the next row goes
 
-        Len filtered = INT64_MIN, free = 0;  // rows before this one have been; where it goes
-        const Len most = rows_.shape.most, bottom = tile_.offset.y + tile_.size.height;
-        for (Len y = tile_.offset.y; y < bottom; ++y) {
-            const Len first = rows_.first(y), end = rows_.end(y);
-            for (filtered = std::max(filtered, first); filtered < end;
-                 ++filtered, free = free + 1 < most ? free + 1 : 0)
-                filterRow(src_.row(readableRows_.at(filtered)), ring_ + free * stride_);
-            Len slot = free - (filtered - first);
-            if (slot < 0) slot += most;
-            for (Len k = 0; k < end - first; ++k, slot = slot + 1 < most ? slot + 1 : 0)
-                rowAt[k] = ring_ + slot * stride_;
+        Band(Scratch& scratch, const TileFilter& tile, Len begin, Len end)
+            : from(begin),
+              to(end),
+              stride(strideFor((to - from) * tile.n_)),
+              ringRows(tile.ringRows(stride)),
+              ring(scratch.take<A, 64>(ringRows * stride + lanes<T>)),  // results are made of more than there is
+              rowAt(scratch.take<const A*, 8>(tile.rows_.shape.most + 1)) {
+            const Lanes& gather = tile.gather_;
+            count = gather.cut(tile.columns_, tile.reading_, from, to, runs);
+            for (int i = 0; i < count; ++i) {
+                Part& part = parts[i];
+                part.run = runs[i];
+                gather.take(tile.columns_, part.run, scratch);
+                const Len elements = (part.run.to - part.run.from) * tile.n_;
+                part.step = std::min<Len>(elements, lanes<A>);
+                part.weights = scratch.take<Weight, 64>((elements + lanes<A> - 1) / lanes<A> * part.step *
+                                                            tile.rule_.weightRows() +
+                                                        lanes<A> - part.step);  // read as vectors all the same
+            }
+        }
+    };
+    void work(Band& band) {
+        for (int i = 0; i < band.count; ++i) form(band.parts[i]);
+        // Copies of all that the loop reads: where stores cannot reach them.
+        const Axis rows = rows_;
+        const Image<T> dst = dst_;
+        const Len elements = (band.to - band.from) * n_, left = (band.from - tile_.offset.x) * n_, stride = band.stride,
+                  ringRows = band.ringRows, most = rows.shape.most, top = tile_.offset.y,
+                  bottom = top + tile_.size.height;
+        A* const ring = band.ring;
+        const A** const rowAt = band.rowAt;
+        Rule rule = rule_;
+        Len filtered = INT64_MIN;  // rows before this one have been
+        for (Len y = top; y < bottom; ++y) {
+            const Len first = rows.first(y), end = rows.end(y);
+            if (filtered < end) {
+                const Len next = std::max(filtered, first);
+                // As many rows as the ring holds; where it holds more than a row of results takes, all are wanted.
+                filtered = std::min(first + ringRows, ringRows > most ? rows.end(bottom - 1) : end);
+                filterRows(band, next, filtered);
+            }
+            Len slot = band.free - (filtered - first);
+            if (slot < 0) slot += ringRows;
+            for (Len k = 0; k < end - first; ++k, slot = slot + 1 < ringRows ? slot + 1 : 0)
+                rowAt[k] = ring + slot * stride;
             for (Len k = end - first; k <= most; ++k) rowAt[k] = rowAt[0];
-            rule_.setRow(y);
-            T* const to = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
+            rule.setRow(y);
+            T* const to = dst.row(y - top) + left;
             // Rows of an enlargement may take the same rows again.
             if constexpr (requires { typename Rule::TwiceCounts; })
-                if (y + 1 < bottom && Rule::TwiceCounts::has(rule_.rowCount()) && rows_.first(y + 1) == first &&
-                    rows_.end(y + 1) == end) {
-                    Rule next = rule_;
+                if (y + 1 < bottom && Rule::TwiceCounts::has(rule.rowCount()) && rows.first(y + 1) == first &&
+                    rows.end(y + 1) == end) {
+                    Rule next = rule;
                     next.setRow(++y);
-                    T* const second = dst_.row(y - tile_.offset.y) + (from - tile_.offset.x) * n_;
-                    Rule::TwiceCounts::with(rule_.rowCount(), [&](auto count) {
-                        write(elements, std::array{to, second}, rule_.down(rowAt, count), next.down(rowAt, count));
-                    });
+                    T* const second = dst.row(y - top) + left;
+                    Rule::TwiceCounts::with(
+                        rule.rowCount(), [&](auto count) __attribute__((always_inline)) {
+                            write(elements, std::array{to, second}, rule.down(rowAt, count), next.down(rowAt, count));
+                        });
                     continue;
                 }
-            Rule::RowCounts::with(rule_.rowCount(),
-                                  [&](auto count) { write(elements, std::array{to}, rule_.down(rowAt, count)); });
+            Rule::RowCounts::with(
+                rule.rowCount(), [&](auto count) __attribute__((always_inline)) {
+                    write(elements, std::array{to}, rule.down(rowAt, count));
+                });
         }
     }
     // Rows of results, vector by vector.
     template <size_t n, class... Results>
-    static void write(Len elements, std::array<T*, n> to, Results... results) {
+    ZMV_INLINE static void write(Len elements, std::array<T*, n> to, Results... results) {
         Len e = 0;
         for (; e + lanes<T> <= elements; e += lanes<T>) {
             const std::array values{results(e)...};
@@ -133,32 +145,34 @@ class TileFilter {
         const std::array values{results(e)...};
         for (size_t i = 0; i < n; ++i) storePart(to[i] + e, values[i], int(elements - e));
     }
-    void form(Part& part, const Run& run, Scratch& scratch) {
-        part.run = run;
-        gather_.form(columns_, part.run, scratch);
-        const Len elements = (run.to - run.from) * n_, vectors = (elements + lanes<A> - 1) / lanes<A>;
-        part.step = std::min<Len>(elements, lanes<A>);
-        part.weights = scratch.take<Weight, 64>(vectors * part.step * rule_.weightRows());
-        Len x = run.from, c = 0, e = 0;
-        Weight* to = part.weights;
-        for (Len v = 0; v < vectors; ++v, to += part.step * rule_.weightRows())
-            for (Len lane = 0; lane < part.step; ++lane) {
-                rule_.putWeights(x, to + lane, part.step);
-                if (++e < elements && ++c == n_) c = 0, ++x;
-            }
+    void form(const Part& part) const {
+        gather_.form(columns_, part.run);
+        const Len elements = (part.run.to - part.run.from) * n_, numbers = rule_.weightRows();
+        Len x = part.run.from;
+        int c = 0;
+        const Weight* last = nullptr;  // of an element of the same pixel
+        Len e = 0;
+        if constexpr (requires { rule_.putVectors(x, part.weights); })
+            for (; n_ == 1 && e + lanes<A> <= elements; e += lanes<A>, x += lanes<A>)
+                rule_.putVectors(x, part.weights + e * numbers);
+        for (Len lane = 0; e < (elements + part.step - 1) / part.step * part.step; ++e) {
+            Weight* const to = part.weights + (e - lane) * numbers + lane;
+            if (c > 0 || e >= elements)
+                for (Len k = 0; k < numbers * part.step; k += part.step) to[k] = last[k];
+            else
+                rule_.putWeights(x, to, part.step);
+            last = to;
+            if (++lane == part.step) lane = 0;
+            if (++c == n_) c = 0, ++x;
+        }
     }
 
-    void filterRow(const T* row, A* to) const {
-        const auto base = reinterpret_cast<const uint8_t*>(row);
-        for (int i = 0; i < parts_; ++i) {
-            const Part& part = part_[i];
-            const uint8_t* from = base;
-            if (part.run.copy >= 0) {
-                gather_.copyEnd(columns_, part.run, base, copies_[part.run.copy]);
-                from = copies_[part.run.copy];
-            }
+    // Rows from .. to of the source, into the ring.
+    void filterRows(Band& band, Len from, Len to) const {
+        for (int i = 0; i < band.count; ++i) {
+            const Part& part = band.parts[i];
             const auto along = [&]<Reading reading>(std::integral_constant<Reading, reading>) {
-                filterPart<reading>(part, from, to);
+                filterPart<reading>(band, part, from, to);
             };
             if constexpr (hasByteShuffle) {
                 if (part.run.reading == Reading::oneWindow)
@@ -169,10 +183,11 @@ class TileFilter {
             if (part.run.reading == Reading::elements) along(std::integral_constant<Reading, Reading::elements>{});
             if (part.run.reading == Reading::mapped) along(std::integral_constant<Reading, Reading::mapped>{});
         }
+        band.free = (band.free + to - from) % band.ringRows;
     }
     template <Reading reading>
-    void filterPart(const Part& part, const uint8_t* base, A* row) const {
-        const Len begin = (part.run.from - from_) * n_, elements = (part.run.to - part.run.from) * n_;
+    void filterPart(const Band& band, const Part& part, Len fromRow, Len toRow) const {
+        const Len begin = (part.run.from - band.from) * n_, elements = (part.run.to - part.run.from) * n_;
         const Len step = part.step, next = step * rule_.weightRows();
         // Taps looked up one by one are few: one loop will do.
         using Known = std::conditional_t<reading == Reading::mapped, Counts<0>, typename Rule::ColumnCounts>;
@@ -181,22 +196,26 @@ class TileFilter {
             const auto rule = rule_;
             const auto gather = gather_;
             const auto run = part.run;
-            const auto from = base;
             const Len apart = step, further = next, all = elements;
-            const Weight* weights = part.weights;
-            A* const to = row + begin;
-            Len v = 0, e = 0;
-            const auto sums = [&](int ahead) __attribute__((always_inline)) {
-                const auto at = [&](Len g, int p) __attribute__((always_inline)) {
-                    return gather.template at<reading>(run, from, (v + ahead) * vectorsOfTaps + p, g);
+            const Len whole = std::min(all, band.stride - begin - lanes<A> + 1);  // vectors that may end behind the run
+            Len slot = band.free;
+            for (Len r = fromRow; r < toRow; ++r, slot = slot + 1 < band.ringRows ? slot + 1 : 0) {
+                auto from = reinterpret_cast<const uint8_t*>(src_.row(readableRows_.at(r)));
+                if (run.copied) from = gather_.copyOf(columns_, part.run, from);
+                const Weight* weights = part.weights;
+                A* const to = band.ring + slot * band.stride + begin;
+                Len v = 0, e = 0;
+                const auto sums = [&](int ahead) __attribute__((always_inline)) {
+                    const auto at = [&](Len g, int p) __attribute__((always_inline)) {
+                        return gather.template at<reading>(run, from, (v + ahead) * vectorsOfTaps + p, g);
+                    };
+                    return rule.along(at, weights + ahead * further, apart, count);
                 };
-                return rule.along(at, weights + ahead * further, apart, count);
-            };
-            const Len whole = std::min(all, stride_ - begin - lanes<A> + 1);  // vectors that may end behind the run
-            for (; e + lanes<A> < whole; v += 2, e += 2 * lanes<A>, weights += 2 * further)
-                store(to + e, sums(0)), store(to + e + lanes<A>, sums(1));
-            for (; e < whole; ++v, e += lanes<A>, weights += further) store(to + e, sums(0));
-            if (e < all) storePart(to + e, sums(0), int(all - e));
+                for (; e + lanes<A> < whole; v += 2, e += 2 * lanes<A>, weights += 2 * further)
+                    store(to + e, sums(0)), store(to + e + lanes<A>, sums(1));
+                for (; e < whole; ++v, e += lanes<A>, weights += further) store(to + e, sums(0));
+                if (e < all) storePart(to + e, sums(0), int(all - e));
+            }
         });
     }
 
@@ -209,11 +228,6 @@ class TileFilter {
     ReadableColumns readableColumns_{}, readableRows_{};
     Lanes gather_{};
     Reading reading_;  // of the whole tile
-    Len stride_ = 0, from_ = 0;
-    A* ring_ = nullptr;
-    int parts_ = 0;
-    Part part_[3];
-    uint8_t* copies_[2];
 };
 
 // Which rule the bytes of an object are filtered by, and which numbers those of other types.
