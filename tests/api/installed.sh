@@ -46,8 +46,13 @@ case $step in
         diff - <(cd "$prefix" && find . ! -type d | LC_ALL=C sort) <<'TREE'
 ./include/zmvcore.h
 ./include/zmvip.h
+./include/zmvip.hpp
+./include/zmvip_call.hpp
+./include/zmvip_roles.hpp
 ./include/zmvip_status.h
 ./include/zmvip_types.h
+./include/zmvip_values.hpp
+./include/zmvip_view.hpp
 ./lib/cmake/zmvip/zmvip-config-version.cmake
 ./lib/cmake/zmvip/zmvip-config.cmake
 ./lib/glibc-hwcaps/x86-64-v3/libzmvip.so.1
@@ -86,6 +91,8 @@ TREE
         $cxx -std=c++17 "$here/consumer/program.cpp" $flags -o "$scratch/by_pkg_config_cxx"
         LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config"
         LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config_cxx"
+        # shellcheck disable=SC2086
+        echo '#include <zmvip.hpp>' | $cxx -x c++ -std=c++17 -fsyntax-only $flags -
         ;;
     find_package)
         cmake -G Ninja -S "$here/consumer" -B "$scratch/stranger" -DCMAKE_PREFIX_PATH="$prefix" \
