@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <stdexcept>
 
 #include "wall.h"
@@ -49,6 +50,7 @@ std::vector<Build> loadBuilds(const std::string& directory) {
 
     std::vector<Build> builds;
     for (const auto& place : places) {
+        if (!std::strstr(ZMV_BUILDS, place.code)) continue;
         if (!place.runs) {
             std::printf("skipped: the %s build, which this processor cannot run\n", place.code);
             continue;

@@ -121,7 +121,7 @@ int main(int argc, char** argv) {
     if (!table) fail("no table can be written");
     for (int i = 0; i < 7; ++i) {
         if (std::fabs(hu[0][i] - hu[1][i]) > 1e-9 * std::fabs(hu[0][i])) fail("a number of Hu's has turned");
-        std::fprintf(table, "invariant %d of the page, and of the page turned\t%.6e\t%.6e\n", i + 1, hu[0][i],
+        std::fprintf(table, "invariant %d of the page, and of the page turned\t%.4e\t%.4e\n", i + 1, hu[0][i],
                      hu[1][i]);
     }
 

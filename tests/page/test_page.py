@@ -1,0 +1,101 @@
+"""test_page.py INDEX.html [SITE/index.html]: opens the page that ./try makes, and the pages of the site, in headless Chromium:
+on a telephone and on a desk, light and dark, no picture or link leads nowhere, nothing is complained of, nothing is wider
+than the screen, no text smaller than 14 px.  The site's search finds a function.  77: no Chromium, or no page."""
+import os
+import sys
+import unittest
+from urllib.parse import unquote, urldefrag, urlparse
+
+try:
+    from selenium import webdriver
+    from selenium.webdriver.common.by import By
+    from selenium.webdriver.support.ui import WebDriverWait
+except ImportError as missing:
+    print(f"skipped: {missing}")
+    sys.exit(77)
+
+PAGES = [p for p in sys.argv[1:] if os.path.exists(p)]
+if not PAGES or not os.path.exists("/usr/bin/chromedriver"):
+    print("skipped: there is no page, or no Chromium")
+    sys.exit(77)
+# What stands on a page and can be seen, of the elements that have text of their own; small print of symbols aside.
+LOOK = """
+const small = [], wide = [], room = document.documentElement.clientWidth;
+const scrolls = e => e && (['auto', 'scroll', 'hidden'].includes(getComputedStyle(e).overflowX) || scrolls(e.parentElement));
+for (const e of document.querySelectorAll('body *')) {
+    const box = e.getBoundingClientRect();
+    if (!box.width || !box.height || !e.checkVisibility() || e.closest('svg')) continue;
+    if (box.right > room + 1 && box.left < room && !scrolls(e)) wide.push(e.outerHTML.slice(0, 120));
+    const own = [...e.childNodes].some(n => n.nodeType == 3 && /[\\p{L}\\p{N}]/u.test(n.data));
+    if (own && parseFloat(getComputedStyle(e).fontSize) < 14) small.push(e.outerHTML.slice(0, 120));
+}
+return {small, wide, over: document.documentElement.scrollWidth - room,
+        broken: [...document.images].filter(i => i.complete && !i.naturalWidth).map(i => i.src),
+        links: [...document.querySelectorAll('a[href], link[href]')].map(a => a.href),
+        ids: [...document.querySelectorAll('[id], a[name]')].map(e => e.id || e.name)};"""
+
+
+class Page(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        options = webdriver.ChromeOptions()
+        options.binary_location = "/usr/bin/chromium"
+        for option in ("--headless=new", "--no-sandbox", "--disable-gpu", "--hide-scrollbars", "--allow-file-access-from-files"):
+            options.add_argument(option)
+        options.set_capability("goog:loggingPrefs", {"browser": "ALL"})
+        cls.browser = webdriver.Chrome(service=webdriver.chrome.service.Service("/usr/bin/chromedriver"), options=options)
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.browser.quit()
+
+    def look(self, address, width, scheme):
+        """What LOOK says of a page, and what the console says."""
+        command = self.browser.execute_cdp_cmd
+        command("Emulation.setDeviceMetricsOverride", {"width": width, "height": 900, "deviceScaleFactor": 1, "mobile": False})
+        command("Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": scheme}]})
+        self.browser.get(address)
+        for y in range(0, self.browser.execute_script("return document.documentElement.scrollHeight"), 3000):
+            self.browser.execute_script(f"scrollTo(0, {y})")
+        return {**self.browser.execute_script(LOOK), "console": [e["message"] for e in self.browser.get_log("browser")]}
+
+    def test_pages(self):
+        for first in PAGES:
+            root = "file://" + os.path.realpath(os.path.dirname(first))
+            todo, seen, ids, links = ["file://" + os.path.realpath(first)], set(), {}, []
+            while todo and len(seen) < 25:  # the site has a page a family: those that the first pages name
+                address = todo.pop(0)
+                if address in seen:
+                    continue
+                seen.add(address)
+                for width, scheme in ((360, "light"), (360, "dark"), (1280, "dark"), (1280, "light")):
+                    with self.subTest(address, width=width, scheme=scheme):
+                        said = self.look(address, width, scheme)
+                        for fault in ("small", "wide", "broken", "console"):
+                            self.assertEqual(said[fault][:5], [], fault)
+                        self.assertLessEqual(said["over"], 0)
+                ids[address] = set(said["ids"])
+                for link in said["links"]:
+                    page, part = urldefrag(link)
+                    links.append((address, page, part))
+                    if page.startswith(root) and page.endswith(".html"):
+                        todo.append(page)
+            for address, page, part in links:
+                if page.startswith("file:"):
+                    path = unquote(urlparse(page).path)
+                    self.assertTrue(os.path.exists(path), f"{address} links to {page}")
+                    self.assertTrue(not part or page not in ids or unquote(part) in ids[page], f"{address}: {page}#{part}")
+
+    @unittest.skipIf(len(PAGES) < 2, "there is no site")
+    def test_search(self):
+        site = "file://" + os.path.realpath(os.path.dirname(PAGES[-1]))
+        for width in 360, 1280:
+            self.look(f"{site}/search.html?q=zmviAdd_8u_C1RSfs", width, "light")
+            found = WebDriverWait(self.browser, 10).until(
+                lambda b: [a.get_attribute("href") for a in b.find_elements(By.CSS_SELECTOR, "#search-results a")])
+            self.browser.get(found[0])
+            self.assertIn("zmviAdd_8u_C1RSfs", self.browser.find_element(By.TAG_NAME, "body").text)
+
+
+if __name__ == "__main__":
+    unittest.main(argv=sys.argv[:1])
