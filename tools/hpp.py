@@ -1,7 +1,7 @@
 #!/usr/bin/python3
-"""Prints zmvip.hpp, what C++17 has of the library: tools/hpp.py api.json > zmvip.hpp.  For every member there is a line of a
-table, with its query and the shape of its arguments; for every name and list of arguments a function.  With --calls it
-prints a program that calls every function, and with -DEVERY_MEMBER for all images that it takes.  Nothing here knows a family."""
+"""Prints zmvip.hpp, what C++17 has of the library: tools/hpp.py api.json > zmvip.hpp.  For every member there is a line
+of a table, with its query and the shape of its arguments, for every name and list of arguments a function.  Nothing
+here knows a family."""
 import re
 import sys
 
@@ -30,7 +30,7 @@ class Form:
             self.families.append(shape.family)
 
     def number_of(self, users):
-        """The number of the list with these arguments; where types may be written in several ways, what is common stays."""
+        """The number of the list with these arguments; of several ways to write a type those in common stay."""
         said = lambda u: [(c, r[1], r[2]) for c, r in u.rows.items()]
         for i, other in enumerate(self.lists):
             both = {c: [k for k in r[0] if k in users.rows[c][0]] for c, r in other.rows.items() if c in users.rows}
@@ -47,7 +47,8 @@ class Form:
         reads, writes = ([i for i, d in enumerate(shape.directions) if (d == "in") == which] for which in (True, False))
         for i, d in enumerate(shape.directions):
             if d == "in":
-                kind, name = "S" if i == shape.source else f"S{i + 1}", "src" if len(reads) == 1 else "abcd"[reads.index(i)]
+                kind = "S" if i == shape.source else f"S{i + 1}"
+                name = "src" if len(reads) == 1 else "abcd"[reads.index(i)]
             else:
                 kind = "D" if i == shape.target else f"D{i + 1}"
                 name = "image" if d == "inout" else "dst" if len(writes) == 1 else f"dst{writes.index(i) + 1}"
@@ -59,15 +60,21 @@ class Form:
         texts, images = list(texts), list(images)
         if self.constant:
             images.insert(1, texts.pop(users.at("value")))
-        return ", ".join(images + texts)
+        return images + texts
 
 
 def called(layout):
-    return re.sub(r"one_of<(\d)>", r"a channel of \1", layout.replace("AC4", "keep_alpha").replace("planes_of", "planes"))
+    layout = layout.replace("AC4", "keep_alpha").replace("planes_of", "planes")
+    return re.sub(r"one_of<(\d)>", r"a channel of \1", layout)
 
 
 def declared(kind, name, default=None):
-    return (kind.replace("@", " " + name) if "@" in kind else f"{kind} {name}".rstrip()) + (f" = {default}" if default else "")
+    text = kind.replace("@", " " + name) if "@" in kind else f"{kind} {name}".rstrip()
+    return text + (f" = {default}" if default else "")
+
+
+def returned(value):
+    return f"result<{value}>" if value else "status"
 
 
 class Printer:
@@ -99,10 +106,11 @@ class Printer:
         else:
             typed = m.source if not any(a.get("enumeration") == "DATATYPE_" for a in m.arguments) else ""
             key, pattern = (TYPES[typed], "0"), tuple((c, *map(str, r)) for c, r in shape.users.rows.items())
-        form = forms.setdefault(pattern, Form(f"{name.rstrip('_')}_{len(forms) + 1}", shape, constant, pattern.count("all")))
+        if pattern not in forms:
+            forms[pattern] = Form(f"{name.rstrip('_')}_{len(forms) + 1}", shape, constant, pattern.count("all"))
         large = self.library.large(m)
         query = large and self.library.large(self.library.members[shape.query]) if shape.query else None
-        form.add(key, shape, [large, query])
+        forms[pattern].add(key, shape, [large, query])
         if family.facts["extent"] and "inout" not in directions:
             self.extents.setdefault(family.name, shape.extent())
 
@@ -125,7 +133,7 @@ class Printer:
 
     @staticmethod
     def key(m, parts, shape):
-        """Element types and layouts, as users have them: the fourth channel is left alone where the destination says so."""
+        """Element types and layouts, as users have them: the destination says whether the fourth channel is meant."""
         members = [x for f, _ in parts for x in f.members]
         of_channel = any(x.letters.startswith("C") for x in members)
         alpha = any(set(x.layouts) & {"AC1", "AP4"} for x in members)  # where it is alpha, there may be no other kind
@@ -157,32 +165,36 @@ class Printer:
     # ---- Tables ----
 
     def enumerations(self):
-        borders = {a["enumeration"] for f in self.library.families for m in f.members for a in m.arguments if a["role"] == "border"}
-        lines = []
+        lines, members = [], self.library.members.values()
+        borders = {a["enumeration"] for m in members for a in m.arguments if a["role"] == "border"}
         for prefix, enum in self.library.enums.items():
             values = [(self.library.enumerator(prefix, word(prefix, v["name"])), v["name"])
                       for e in self.library.api["enumerations"] if e["prefix"] == prefix for v in e["values"]]
-            values = [(w, c) for w, c in values if not w.startswith("in_mem")]  # which sides those are follows from views
+            values = [(w, c) for w, c in values if not w.startswith("in_mem")]  # that follows from views
             lines += [f"enum class {enum} : int {{ {', '.join(f'{w} = {c}' for w, c in values)} }};",
                       "template <>", f"inline constexpr bool is_word<{enum}> = true;"]
             if squares(prefix):
-                cases = [f"w == {enum}::{self.library.enumerator(prefix, w)} ? size{{{n}, {n}}} : " for w, n in squares(prefix).items()]
+                cases = [f"w == {enum}::{self.library.enumerator(prefix, w)} ? size{{{n}, {n}}} : "
+                         for w, n in squares(prefix).items()]
                 lines.append(f"constexpr size sides_of({enum} w) {{ return {''.join(cases)}size{{}}; }}")
             if prefix in borders:
-                lines += [f"inline constexpr {enum} {w} = {enum}::{w};" for w, _ in values if w not in self.library.functions]
+                free = [w for w, _ in values if w not in self.library.functions]
+                lines += [f"inline constexpr {enum} {w} = {enum}::{w};" for w in free]
         return lines
 
     @staticmethod
     def table(form):
         s = form.shape
-        lines = [f"struct {form.name}" + (f" : form<{s.source}, {s.target}, {s.written}>" if s.directions else "") + " {"]
+        places = f" : form<{s.source}, {s.target}, {s.written}>" if s.directions else ""
+        lines, args = [f"struct {form.name}{places} {{"], lambda roles: f"args<{', '.join(roles)}>"
         for (number, takes, checks, asks, finds), name in form.shapes.items():
-            args = lambda roles: roles[0] if roles and roles[0].startswith("remembered") else f"args<{', '.join(roles)}>"
-            texts = [args(takes), f"checks<{', '.join(checks)}>", args(asks), args(finds)]
+            kept = asks and asks[0].startswith("remembered")  # no query, but what an object remembers of it
+            texts = [args(takes), f"checks<{', '.join(checks)}>", asks[0] if kept else args(asks), args(finds)]
             while texts[-1].endswith("<>"):
                 texts.pop()
             lines.append(f"    using {name} = shape<{number}, {', '.join(texts)}>;")
-        return lines + [f"    static row<{', '.join(row)}> at(key<{', '.join(key)}>);" for key, row in form.rows.items()] + ["};"]
+        rows = [f"    static row<{', '.join(row)}> at(key<{', '.join(key)}>);" for key, row in form.rows.items()]
+        return lines + rows + ["};"]
 
     # ---- Functions ----
 
@@ -207,56 +219,79 @@ class Printer:
         return "; ".join(f"{', '.join(types)}: {layouts}" for layouts, types in same.items())
 
     def function(self, name, form, place):
-        users, number = form.lists[place], form.first + place
+        users = form.lists[place]
         rows = [users.rows[c] for c in users.ordered()]
-        said, passed = [declared(k[0], n, d) for k, n, d in rows], [n for _, n, _ in rows]
+        said, passed = [declared(k[0], n, d) for k, n, d in rows], "".join(", " + n for _, n, _ in rows)
         value, body, outs = self.value(name, users), [], "nullptr"
         if value:
             members = [f"&v.{safe(snake(c))}" for c in users.results] if len(users.results) > 1 else ["&v"]
             body, outs = [f"{value} v{{}};", f"void* const outs[] = {{{', '.join(members)}}};"], "outs"
         if form.shape.directions:
-            images = form.pictures()
-            kinds, names = ", ".join(k for k, _ in images), ", ".join(n for _, n in images)
-            works = any("work" in shape[1] for shape in form.shapes if shape[0] == number)
-            template = ", ".join(f"class {k}" for k, _ in images)
-            template += f", detail::if_members_take_these<detail::{form.name}, {number}, {kinds}> = 0"
-            body.insert(0, f'static_assert(detail::taken<detail::{form.name}, {kinds}>, "zmvip::{name}: no member takes these '
-                           f'images together; there are {self.there_are(form)}");')
-            call = f'call<detail::{form.name}>("{name}", detail::images({names}), {"&work" if works else "nullptr"}, {outs}'
-            said = form.spread([f"const {k}& {n}" for k, n in images], users, said) + (", scratch work = {}" if works else "")
+            template, said, call = self.with_images(name, form, place, said, outs)
+            body.insert(0, f'static_assert({self.taken(form)}, "zmvip::{name}: no member takes these images together; '
+                           f'there are {self.there_are(form)}");')
+        elif form.shape.makes:
+            template, call, value = self.maker(name, form)
         else:
-            typed, channels = self.library.told(form.shape.family) if form.shape.makes else (any("T>" in k[0] for k, _, _ in rows), False)
-            template, T = ", ".join(["class T"] * typed + ["int C"] * channels), "T" if typed else "void"
-            key, C = "T" if "void" not in next(iter(form.rows)) else "void", "C" if channels else "1"
-            call, said = f'serve<detail::{form.name}, {key}, {T}, {C}>("{name}", {outs}', ", ".join(said)
-            if form.shape.makes:
-                value = self.library.spec(form.shape.family, T)
-                sizes = [users.rows[c][1] if c in users.rows else "{}" for c in ("srcSize", "dstSize", "kernelSize", "largest")]
-                call = f'maker::make<detail::{form.name}, {value}, {key}, {T}, {C}>("{name}", {{{", ".join(sizes)}, 0}}'
-        call = f"detail::{call}{''.join(', ' + n for n in passed)})"
+            generic = any("T>" in k[0] for k, _, _ in rows)
+            template, T, key = ["class T"] * generic, "T" if generic else "void", self.typed(form)
+            call = f'serve<detail::{form.name}, {key}, {T}, 1>("{name}", {outs}'
+        call = f"detail::{call}{passed})"
         body += [f"const status s = {call};", "return {s, v};"] if outs != "nullptr" else [f"return {call};"]
         banner = form.families[0].banner.replace("\n", " ")
         return [f"// {', '.join(f.name for f in form.families)}: {re.split('[.;:]( |$)|  ', banner)[0]}.",
-                f"template <{template}>" if template else "inline",
-                f"{f'result<{value}>' if value else 'status'} {name}({said}) {{", *("    " + b for b in body), "}"]
+                f"template <{', '.join(template)}>" if template else "inline",
+                f"{returned(value)} {name}({', '.join(said)}) {{", *("    " + b for b in body), "}"]
+
+    @staticmethod
+    def taken(form):
+        return f"detail::taken<detail::{form.name}, {', '.join(k for k, _ in form.pictures())}>"
+
+    @staticmethod
+    def template(form, place):
+        kinds = [k for k, _ in form.pictures()]
+        number = form.first + place
+        return [*(f"class {k}" for k in kinds),
+                f"detail::if_members_take_these<detail::{form.name}, {number}, {', '.join(kinds)}> = 0"]
+
+    def with_images(self, name, form, place, said, outs):
+        users, images = form.lists[place], form.pictures()
+        works = any("work" in shape[1] for shape in form.shapes if shape[0] == form.first + place)
+        said = form.spread([f"const {k}& {n}" for k, n in images], users, said) + ["scratch work = {}"] * works
+        call = f'call<detail::{form.name}>("{name}", detail::images({", ".join(n for _, n in images)}), ' \
+               f'{"&work" if works else "nullptr"}, {outs}'
+        return self.template(form, place), said, call
+
+    def maker(self, name, form):
+        rows, (typed, channels) = form.lists[0].rows, self.library.told(form.shape.family)
+        T, C = "T" if typed else "void", "C" if channels else "1"
+        spec = self.library.spec(form.shape.family, T)
+        sizes = [rows[c][1] if c in rows else "{}" for c in ("srcSize", "dstSize", "kernelSize", "largest")]
+        call = f'maker::make<detail::{form.name}, {spec}, {self.typed(form)}, {T}, {C}>' \
+               f'("{name}", {{{", ".join(sizes)}, 0}}'
+        return ["class T"] * typed + ["int C"] * channels, call, spec
+
+    @staticmethod
+    def typed(form):
+        """What the rows of a service are found by: a type, or nothing."""
+        return "void" if "void" in next(iter(form.rows)) else "T"
 
     def refusal(self, name, form, place):
         """For members without the last arguments of a longer list an overload with them, to say that they take none."""
         users, images = form.lists[place], form.pictures()
-        here, kinds = users.ordered(), ", ".join(k for k, _ in images)
+        here = users.ordered()
         longer = max((o for o in form.lists if o.ordered()[:len(here)] == here), key=lambda o: len(o.rows))
         extra = longer.ordered()[len(here):]
         if not extra or longer.rows[extra[0]][2] is None:
             return []
         said = [declared(users.rows[c][0][0], users.rows[c][1]) for c in here]
         said += [declared(longer.rows[c][0][0], "", longer.rows[c][2] if c != extra[0] else None) for c in extra]
-        value = self.value(name, users)
-        return [f"template <{', '.join('class ' + k for k, _ in images)}, "
-                f"detail::if_members_take_these<detail::{form.name}, {form.first + place}, {kinds}> = 0>",
-                f"{f'result<{value}>' if value else 'status'} {name}({form.spread([f'const {k}& {n}' for k, n in images], users, said)}) {{",
-                f'    static_assert(!detail::taken<detail::{form.name}, {kinds}>, "zmvip::{name}: for images like these there is no '
-                f'{longer.rows[extra[0]][1]}");',
-                f"    return {name}({form.spread([n for _, n in images], users, [users.rows[c][1] for c in here])});", "}"]
+        said = form.spread([f"const {k}& {n}" for k, n in images], users, said)
+        passed = form.spread([n for _, n in images], users, [users.rows[c][1] for c in here])
+        return [f"template <{', '.join(self.template(form, place))}>",
+                f"{returned(self.value(name, users))} {name}({', '.join(said)}) {{",
+                f'    static_assert(!{self.taken(form)}, "zmvip::{name}: for images like these there is no '
+                f'{longer.rows[extra[0]][1]}");', f"    return {name}({', '.join(passed)});", "}"]
 
     def text(self):
         functions = []
@@ -267,51 +302,17 @@ class Printer:
                     functions += self.function(name, f, place)
                     functions += self.refusal(name, f, place) if f.shape.directions and not told_all else []
         return [
-            "// zmvIP for C++17: one name for the members of a family, which is chosen by the images.  docs/cpp.md tells how.",
-            "// Printed by tools/hpp.py.  SPDX-License-Identifier: Apache-2.0", "#ifndef ZMVIP_HPP", "#define ZMVIP_HPP", "",
-            "#include <cstdlib>", "", '#include "zmvip_roles.hpp"', "", "namespace zmvip {", "", *self.enumerations(), "",
-            *(f"struct {t};" for t in self.objects), "", "namespace detail {", "",
+            "// zmvIP for C++17: a name for the members of a family; images say which is meant.  See docs/cpp.md.",
+            "// Printed by tools/hpp.py.  SPDX-License-Identifier: Apache-2.0",
+            "#ifndef ZMVIP_HPP", "#define ZMVIP_HPP", "",
+            "#include <cstdlib>", "", '#include "zmvip_roles.hpp"', "", "namespace zmvip {", "",
+            *self.enumerations(), "", *(f"struct {t};" for t in self.objects), "", "namespace detail {", "",
             *(line for lines in self.extents.values() for line in lines),
             *(line for forms in self.forms.values() for f in forms.values() for line in self.table(f)),
-            "", "}  // namespace detail", "", *(line for lines in self.structs.values() for line in lines), *functions, "",
-            "}  // namespace zmvip", "", "// What is left to zmvip.h:",
+            "", "}  // namespace detail", "", *(line for lines in self.structs.values() for line in lines),
+            *functions, "", "}  // namespace zmvip", "", "// What is left to zmvip.h:",
             *(f"//   {why}: {', '.join(names)}" for why, names in self.left.items()), "", "#endif"]
-
-    # ---- Every overload ----
-
-    def calls(self):
-        lines = ["// Printed by tools/hpp.py.", "#include <zmvip.hpp>", "namespace zmvip::calls {", "template <class T>",
-                 "std::conditional_t<std::is_array_v<T>, std::decay_t<T>, T> any();"]
-        for name, forms in self.forms.items():
-            for form in forms.values():
-                for place, users in enumerate(form.lists):
-                    lines += self.attempt(name, form, place, users)
-        return lines + ["}  // namespace zmvip::calls"]
-
-    def attempt(self, name, form, place, users):
-        """A function that calls one of zmvip.hpp, for all images that it takes."""
-        said = [f"any<{declared(users.rows[c][0][0], '').replace('@', '')}>()" for c in users.ordered()]
-        shapes = {s for shape, s in form.shapes.items() if shape[0] == form.first + place}
-        function = f"{form.name}_{place}"
-        if not form.shape.directions:
-            typed, channels = self.library.told(form.shape.family) if form.shape.makes else (False, False)
-            given = ", ".join(["T"] * typed + ["3"] * channels)
-            return ["template <class T>", f"void {function}() {{ static_cast<void>({name}{f'<{given}>' * bool(given)}({', '.join(said)})); }}",
-                    *(f"template void {function}<{key[0] if key[0] != 'void' else 'uint8_t'}>();" for key in form.rows)]
-        images = form.pictures()
-        lines = [f"template <{', '.join('class ' + k for k, _ in images)}>",
-                 f"void {function}({', '.join(f'{k} {n}' for k, n in images)}) {{",
-                 f"    static_cast<void>({name}({form.spread([n for _, n in images], users, said)}));", "}"]
-        some, rest = {}, []
-        for key, row in form.rows.items():
-            kinds = [(key[:2], "const ") if d == "in" else (key[-2:], "") for d in form.shape.directions]
-            views = [f"planes<{const}{t}, {l[10:-1]}>" if "planes" in l else f"view<{const}{t}, {l}>" for (t, l), const in kinds]
-            call = f"template void {function}({', '.join(views)});"
-            if row[0] in shapes and some.setdefault(row[0], call) != call:
-                rest.append(call)
-        return lines + list(some.values()) + (["#ifdef EVERY_MEMBER", *rest, "#endif"] if rest else [])
 
 
 if __name__ == "__main__":
-    printer = Printer(sys.argv[1])
-    print("\n".join(printer.calls() if "--calls" in sys.argv else printer.text()))
+    print("\n".join(Printer(sys.argv[1]).text()))

@@ -5,10 +5,10 @@ import re
 from apijson import ENUMERATIONS, argument_name, groups, load, snake, word, word_of
 
 TYPES = {"8u": "uint8_t", "8s": "int8_t", "16u": "uint16_t", "16s": "int16_t", "32u": "uint32_t", "32s": "int32_t",
-         "64s": "int64_t", "64u": "uint64_t", "32f": "float", "64f": "double", "16sc": "Complex16s", "32sc": "Complex32s",
-         "32fc": "Complex32f", "": "void"}
-RESERVED = {"and", "auto", "bool", "char", "default", "delete", "double", "float", "int", "long", "new", "not", "or", "short",
-            "switch", "this", "union", "xor"}
+         "64s": "int64_t", "64u": "uint64_t", "32f": "float", "64f": "double", "16sc": "Complex16s",
+         "32sc": "Complex32s", "32fc": "Complex32f", "": "void"}
+RESERVED = {"and", "auto", "bool", "char", "default", "delete", "double", "float", "int", "long", "new", "not", "or",
+            "short", "switch", "this", "union", "xor"}
 WIDE = {"ImageSize": "size", "ImagePoint": "point", "ImageRect": "rect"}
 
 
@@ -53,7 +53,9 @@ class Library:
         refused = any(a["name"] in r["arguments"] for r in family.facts["refusals"])
         if a["role"] not in ("option", "border", "scale") or (enum and usual == 0 and refused):
             return None
-        return f"{enum}::{self.enumerator(a['enumeration'], usual)}" if isinstance(usual, str) else "{}" if enum else str(usual)
+        if isinstance(usual, str):
+            return f"{enum}::{self.enumerator(a['enumeration'], usual)}"
+        return "{}" if enum else str(usual)
 
     # Objects.
 
@@ -66,7 +68,8 @@ class Library:
         """What tells the objects of different families apart."""
         kind = base(next(a["type"] for m in family.members for a in m.arguments if a["role"] == "spec object"))
         init = self.named.get(family.facts["init"], family)
-        return kind if kind != "uint8_t" else snake(re.sub(r"^zmvi|_?Get(Buf(fer)?)?Size$", "", init.facts["query"])) + "_object"
+        stem = re.sub(r"^zmvi|_?Get(Buf(fer)?)?Size$", "", init.facts["query"])
+        return kind if kind != "uint8_t" else snake(stem) + "_object"
 
     def told(self, f):
         """What a maker has to be told of images: whether the type, whether the number of channels."""
@@ -106,7 +109,7 @@ def squares(prefix):
 
 
 class List:
-    """The arguments of an overload that follow its images: the ways to write the type, name and default, by name in C."""
+    """The arguments of an overload that follow its images: ways to write the type, name and default, by name in C."""
 
     def __init__(self):
         self.rows, self.results = {}, {}
@@ -133,9 +136,11 @@ class Shape:
         self.object = next((a for a in m.arguments if a["role"] == "spec object"), None)
         written = [i for i, d in enumerate(directions) if d != "in"]
         read = [i for i, d in enumerate(directions) if d == "in"] or written
-        self.source, self.target, self.written = (read or [0])[0], (written or read or [0])[0], sum(1 << i for i in written)
+        self.source, self.target = (read or [0])[0], (written or read or [0])[0]
+        self.written = sum(1 << i for i in written)
         # The names of their types as the templates have them.
-        self.S, self.D = (None, None) if not directions else ("S", "D") if self.source != self.target else ("DS"[not written],) * 2
+        self.S = None if not directions else "D" if written and self.source == self.target else "S"
+        self.D = None if not directions else "D" if written else "S"
         self.makes = not directions and library.makes(family)
         self.arguments()
         if directions:
@@ -164,7 +169,8 @@ class Shape:
             c, role = a["name"], a["role"]
             if role in ("image", "planes"):
                 last = f"step<{self.order.index(c)}>"
-                self.takes.append(f"pixels{'_of_tile' if finder and c == self.order[self.source] else ''}<{self.order.index(c)}>")
+                tile = finder and c == self.order[self.source]
+                self.takes.append(f"{'pixels_of_tile' if tile else 'pixels'}<{self.order.index(c)}>")
                 self.checks += [f"planes_alike<{self.order.index(c)}>"] if role == "planes" else []
             elif role == "step":
                 self.takes.append(last)
@@ -209,7 +215,7 @@ class Shape:
         if enum:
             self.users.add(c, enum, name, default)
             return of("border<{}>", c) if role == "border" and self.window() else of("value<{}>", c)
-        if S and role in ("constant", "border value", "table") and not bounds and not a.get("count") and "* const*" not in kind:
+        if S and role in ("constant", "border value", "table") and not (bounds or a.get("count") or "* const*" in kind):
             self.users.add(c, self.numbers(a), name, "{}" if role == "border value" else None)
             return of("value<{}>", c)
         if role == "rectangle":
@@ -251,9 +257,9 @@ class Shape:
         sizes, extent = {a["name"] for a in self.m.arguments if a["role"] == "size"}, self.family.facts["extent"]
         if extent and "inout" not in self.directions:
             names = self.extent_names()
-            roles = [f"size_of<{self.image_of(n)}>" if self.image_of(n) is not None else of("value<{}>", n) for n in names]
+            role = lambda n, at: f"value<{at(n)}>" if self.image_of(n) is None else f"size_of<{self.image_of(n)}>"
             struct = snake(self.family.name[4:]) + "_extent"
-            self.checks += [lambda at, i=i: f"sized<{i}, {struct}<{', '.join(r(at) if callable(r) else r for r in roles)}>>"
+            self.checks += [lambda at, i=i: f"sized<{i}, {struct}<{', '.join(role(n, at) for n in names)}>>"
                             for i, d in enumerate(self.directions) if d == "out"]
         elif len(self.order) > 1 and not sizes & {"srcSize", "srcRoiSize", "dstTileSize"}:
             self.checks.append(f"of_one_size<{', '.join(map(str, range(len(self.order))))}>")
@@ -268,12 +274,13 @@ class Shape:
 
     def extent(self):
         """The struct that computes the extent of a destination, of the expression in C."""
-        names = self.extent_names()
-        lines = [f"template <{', '.join(f'class {n[0].upper() + n[1:]}' for n in names)}>",
-                 f"struct {snake(self.family.name[4:])}_extent {{", "    template <class C>", "    static size get(const C& c) {"]
-        for n in names:
-            number = self.named[n]["role"] != "size"
-            lines.append(f"        const {'int' if number else 'size'} {n} = {'int' if number else ''}({n[0].upper() + n[1:]}::get(c));")
+        names = {n: n[0].upper() + n[1:] for n in self.extent_names()}
+        lines = [f"template <{', '.join(f'class {role}' for role in names.values())}>",
+                 f"struct {snake(self.family.name[4:])}_extent {{", "    template <class C>",
+                 "    static size get(const C& c) {"]
+        for n, role in names.items():
+            number = f"int {n} = int({role}::get(c))"
+            lines.append(f"        const {number if self.named[n]['role'] != 'size' else f'size {n} = {role}::get(c)'};")
         return lines + [f"        return {{{self.family.facts['extent']}}};", "    }", "};"]
 
     def window(self):
@@ -284,7 +291,8 @@ class Shape:
         words = [n for n, a in named.items() if squares(a.get("enumeration"))]
         digits = re.search(r"(\d)x\1", self.family.name)
         if "maskSize" in named and named["maskSize"]["type"] == "int":
-            return of("in_row<{}, {}>" if self.family.name.endswith("Row") else "in_column<{}, {}>", "anchor", "maskSize")
+            line = "in_row<{}, {}>" if self.family.name.endswith("Row") else "in_column<{}, {}>"
+            return of(line, "anchor", "maskSize")
         if "maskSize" in named or "kernelSize" in named:
             mask, names = "value<{0}>", ["maskSize" if "maskSize" in named else "kernelSize"]
         elif self.object or words:
