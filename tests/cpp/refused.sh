@@ -1,10 +1,18 @@
 #!/bin/bash
-# refused.sh CXX HERE INCLUDE...: compiles every case of refused.cpp; all but the first have to fail and say why.
+# refused.sh CXX HERE INCLUDE...: compiles every case of refused.cpp; all but the first have to fail and say why.  What
+# docs/cpp.md shows has to compile.
 set -u
 cxx=$1 here=$2
 shift 2
 bad=0
 try() { "$cxx" -std=c++17 -fsyntax-only -Wall -Wextra -Werror "${@/#/-I}" -DCASE="$number" "$here/refused.cpp" 2>&1; }
+{
+    echo '#include <zmvip.hpp>
+          struct { template <class F> void run(F f) { f(); } } pool;
+          void shown(zmvip::image<uint8_t, 3>& small) {'
+    sed -n '/^```cpp/,/^```$/{/^```\|#include/!p}' "$here/../../docs/cpp.md"
+    echo '}'
+} | "$cxx" -std=c++17 -fsyntax-only "${@/#/-I}" -x c++ - || exit 1
 number=0
 try "$@" || { echo "case 0 does not compile" && exit 1; }
 tried=0

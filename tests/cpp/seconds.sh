@@ -1,6 +1,6 @@
 #!/bin/bash
-# seconds.sh CXX MOST INCLUDE...: how much longer a compiler reads zmvip.hpp than zmvip.h, in seconds of its own time, the
-# least of three; fails above MOST.
+# seconds.sh CXX MOST INCLUDE...: how much longer a compiler reads zmvip.hpp than zmvip.h, in seconds of its own time,
+# the least of three; fails above MOST.
 set -eu
 cxx=$1 most=$2
 shift 2
