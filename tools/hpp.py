@@ -305,7 +305,7 @@ class Printer:
             "// zmvIP for C++17: a name for the members of a family; images say which is meant.  See docs/cpp.md.",
             "// Printed by tools/hpp.py.  SPDX-License-Identifier: Apache-2.0",
             "#ifndef ZMVIP_HPP", "#define ZMVIP_HPP", "",
-            "#include <cstdlib>", "", '#include "zmvip_roles.hpp"', "", "namespace zmvip {", "",
+            "#include <stdlib.h>", "", '#include "zmvip_roles.hpp"', "", "namespace zmvip {", "",
             *self.enumerations(), "", *(f"struct {t};" for t in self.objects), "", "namespace detail {", "",
             *(line for lines in self.extents.values() for line in lines),
             *(line for forms in self.forms.values() for f in forms.values() for line in self.table(f)),

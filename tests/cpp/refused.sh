@@ -10,6 +10,7 @@ try() { "$cxx" -std=c++17 -fsyntax-only -Wall -Wextra -Werror "${@/#/-I}" -DCASE
     echo '#include <zmvip.hpp>
           struct { template <class F> void run(F f) { f(); } } pool;
           void shown(zmvip::image<uint8_t, 3>& small) {'
+    # shellcheck disable=SC2016
     sed -n '/^```cpp/,/^```$/{/^```\|#include/!p}' "$here/../../docs/cpp.md"
     echo '}'
 } | "$cxx" -std=c++17 -fsyntax-only "${@/#/-I}" -x c++ - || exit 1
