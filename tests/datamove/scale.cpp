@@ -113,28 +113,6 @@ TEST(Scale, EveryValue) {
     }
 }
 
-void comeBack(const Library& library) {
-    using Up = StatusCode(const uint8_t*, int, float*, int, ImageSize, float, float);
-    using Down = StatusCode(const float*, int, uint8_t*, int, ImageSize, float, float);
-    const auto up = reinterpret_cast<Up*>(library.find("zmviScale_8u32f_C1R"));
-    const auto down = reinterpret_cast<Down*>(library.find("zmviScale_32f8u_C1R"));
-    uint8_t bytes[256], back[256];
-    for (int i = 0; i < 256; ++i) bytes[i] = uint8_t(i);
-    Rng rng(1);
-    for (int i = 0; i < 2000; ++i) {
-        const float range = std::ldexp(float(rng.between(1 << 10, 1 << 11)), rng.between(-130, 90));
-        const float low = range * float(rng.between(-16384, 16383)), high = low + range;
-        if (std::max(std::abs(low), std::abs(high)) > 16384 * (double(high) - low)) continue;
-        float floats[256];
-        ASSERT_EQ(up(bytes, 256, floats, 1024, {256, 1}, low, high), STATUS_OK);
-        ASSERT_EQ(down(floats, 1024, back, 256, {256, 1}, low, high), STATUS_OK);
-        ASSERT_EQ(std::memcmp(bytes, back, 256), 0) << low << " .. " << high;
-    }
-}
-TEST(Scale, BytesComeBackFromFloats) {
-    for (const Library& library : builds()) comeBack(library);
-}
-
 }  // namespace
 
 extern const Family test_zmviScale = {.arrange = arrangeScale, .oracle = scaleRange, .more = {badRange()}};

@@ -9,21 +9,12 @@ namespace {
 
 using namespace test;
 
-struct Type {
-    Element element;
-    int code;
-    const char* name;
-};
-constexpr Type types[] = {{Element::u8, DATATYPE_8U, "8u"},
-                          {Element::u16, DATATYPE_16U, "16u"},
-                          {Element::s16, DATATYPE_16S, "16s"},
-                          {Element::f32, DATATYPE_32F, "32f"}};
 constexpr int interpolations[] = {INTERP_NEAREST, INTERP_LINEAR, INTERP_CUBIC};
 struct Curves {
-    Type type = types[0];
+    Element element = Element::u8;
     int interpolation = 0, channels = 0;
     std::vector<double> levels[4], values[4] = {};  // a double holds both kinds of them
-    bool real() const { return type.element == Element::f32; }
+    bool real() const { return isReal(element); }
 };
 Curves arranged;  // for the oracle of the same case
 
@@ -34,10 +25,7 @@ double number(Rng& rng, const Curves& of, int range, double scale) {
 }
 // Levels in and round the type, evenly spaced or not, two of them or many; floats of every magnitude.
 Curves anyCurves(Rng& rng, Element element, int channels) {
-    Curves curves{*std::find_if(types, types + 4, [&](const Type& t) { return t.element == element; }),
-                  interpolations[rng.below(3)],
-                  channels,
-                  {}};
+    Curves curves{element, interpolations[rng.below(3)], channels, {}};
     for (int c = 0; c < channels; ++c) {
         const int n = rng.oneIn(4) ? 2 : rng.between(3, rng.oneIn(3) ? 300 : 9),
                   range = bytesOf(element) == 1 ? 255 : 65535;
@@ -67,31 +55,32 @@ struct Arrays {
     explicit Arrays(const Curves& curves) {
         for (int i = 0; i < 8; ++i) {
             const auto& from = i < 4 ? curves.levels[i] : curves.values[i - 4];
-            for (const double x : from) numbers[i].push_back(L(x));
+            numbers[i].assign(from.begin(), from.end());
             pointers[i] = numbers[i].data();
             counts[i % 4] = int(from.size());
         }
     }
 };
-int sizeOf(const Curves& curves) {
-    using F = StatusCode(int, int, int, const int*, int*);
+int sizeOf(const Curves& of) {
     int size = 0;
-    const auto ask = reinterpret_cast<F*>(builds().front().find("zmviLUT_GetSize"));
-    ask(curves.interpolation, curves.type.code, curves.channels, Arrays<double>(curves).counts, &size);
+    FIND(builds().front(), zmviLUT_GetSize)
+    (of.interpolation, dataTypeOf(of.element), of.channels, Arrays<double>(of).counts, &size);
     return size;
 }
 template <class L>
-StatusCode initAs(const Library& library, const Curves& curves, uint8_t* spec) {
+StatusCode initAs(const Library& library, const Curves& of, uint8_t* spec) {
     using F = StatusCode(int, const L* const*, const L* const*, const int*, int, uint8_t*);
-    const Arrays<L> arrays(curves);
-    return reinterpret_cast<F*>(library.find(std::string("zmviLUT_Init_") + curves.type.name))(
-        curves.interpolation, arrays.pointers, arrays.pointers + 4, arrays.counts, curves.channels, spec);
+    const Arrays<L> arrays(of);
+    const auto ours = [&](const Member& m) { return m.name.starts_with("zmviLUT_Init_") && m.source == of.element; };
+    const Member& made = *std::find_if(members().begin(), members().end(), ours);
+    return reinterpret_cast<F*>(library.find(made.name))(of.interpolation, arrays.pointers, arrays.pointers + 4,
+                                                         arrays.counts, of.channels, spec);
 }
 StatusCode init(const Library& library, const Curves& curves, uint8_t* spec) {
     return curves.real() ? initAs<float>(library, curves, spec) : initAs<int32_t>(library, curves, spec);
 }
 const ObjectKind tableObject([](uint8_t* block) {
-    return init(builds().front(), {types[0], INTERP_LINEAR, 1, {{0, 255}}, {{255, 0}}}, block);
+    return init(builds().front(), {Element::u8, INTERP_LINEAR, 1, {{0, 255}}, {{255, 0}}}, block);
 });
 
 double slope(const std::vector<double>& l, const std::vector<double>& y, size_t k) {
@@ -214,7 +203,8 @@ void acceptObject(Case& c) {
 void arrangeSize(Case& c) {
     const int counts[] = {1, 3, 4}, channels = c.mode == Mode::controls ? 4 : counts[c.rng.below(3)];
     c.arg("interpolation") = interpolations[c.rng.below(3)];
-    c.arg("dataType") = types[c.rng.below(4)].code;
+    const int types[] = {DATATYPE_8U, DATATYPE_16U, DATATYPE_16S, DATATYPE_32F};
+    c.arg("dataType") = types[c.rng.below(4)];
     c.arg("numChannels") = channels;
     const Image& nLevels = c.placeValue("nLevels", channels);
     const bool huge = c.mode == Mode::usual && c.rng.oneIn(3);
