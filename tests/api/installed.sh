@@ -91,8 +91,6 @@ TREE
         $cxx -std=c++17 "$here/consumer/program.cpp" $flags -o "$scratch/by_pkg_config_cxx"
         LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config"
         LD_LIBRARY_PATH=$prefix/lib "$scratch/by_pkg_config_cxx"
-        # shellcheck disable=SC2086
-        echo '#include <zmvip.hpp>' | $cxx -x c++ -std=c++17 -fsyntax-only $flags -
         ;;
     find_package)
         cmake -G Ninja -S "$here/consumer" -B "$scratch/stranger" -DCMAKE_PREFIX_PATH="$prefix" \

@@ -22,7 +22,7 @@ fresh() {
 
 echo "== build"
 fresh buildd 'apt-get build-dep -qq --no-install-recommends . >/dev/null && dpkg-buildpackage -us -uc && debian/rules clean' \
-    >build.log 2>&1 || { tail -n 50 build.log; exit 1; }
+    >../package.log 2>&1 || { tail -n 50 ../package.log; exit 1; }
 ls -l ./*.deb
 
 echo "== code"
@@ -39,4 +39,4 @@ echo "== lintian"
 lintian --fail-on error,warning ./*.changes
 
 echo "== use"
-fresh apt 'bash tests/packages/use.sh' 2>&1 | tee use.log
+fresh apt 'bash tests/packages/use.sh'

@@ -25,7 +25,7 @@ flags=$(sed -n 's/.*dh_auto_configure -- //p' debian/rules)
 # shellcheck disable=SC2086
 cmake -G Ninja -S . -B "$scratch/build" $flags -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_LIBDIR=lib/x86_64-linux-gnu \
     -DCMAKE_C_COMPILER="$cc" >/dev/null
-for made in api.json include lib python; do [ ! -e "$build/$made" ] || cp -a "$build/$made" "$scratch/build"; done
+cp -a "$build"/{api.json,include,lib,python} "$scratch/build"
 DESTDIR=$root cmake --install "$scratch/build" >/dev/null
 packed=$(cat debian/*.install | (cd "$root" && while read -r pattern; do
     for path in $(compgen -G "$pattern" || echo "$pattern"); do find "$path" ! -type d; done
