@@ -16,7 +16,7 @@ fail() {
 
 # One version, CMake's.
 version=$(sed -n 's/^project(zmvip VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
-[[ $(head -n1 debian/changelog) == "zmvip ($version-"* ]] || fail "debian/changelog does not begin with version $version"
+[[ $(head -n1 debian/changelog) == "zmvip ($version) "* ]] || fail "debian/changelog does not begin with version $version"
 [[ $(grep -m1 '^## ' CHANGELOG.md) == "## $version"* ]] || fail "CHANGELOG.md does not begin with version $version"
 
 # Installed as for the packages, with what BUILD has: each file goes to one package.
