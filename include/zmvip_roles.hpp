@@ -33,6 +33,14 @@ struct pixels_of_tile {
         return moved(v.data(), c.moved.y * v.step() + c.moved.x * v.pixel);
     }
 };
+template <int top, int left>  // where the old part of an image begins that grows in place
+struct pixels_inside {
+    template <class C>
+    static auto get(const C& c) {
+        const auto& v = picture<0>(c);
+        return moved(v.data(), param<top>(c) * v.step() + param<left>(c) * v.pixel);
+    }
+};
 template <int i>
 struct step {
     template <class C>

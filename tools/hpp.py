@@ -123,8 +123,6 @@ class Printer:
             raise Left("planes of different sizes")
         if "1u" in (m.source, m.destination):
             raise Left("images of bits")
-        if changes and any(a["name"] == "dstRoiSize" for a in m.arguments):
-            raise Left("an image that grows in place")
         if changes and m.source != m.destination:
             raise Left("an image that becomes another type in place")
         order = reads + changes

@@ -142,6 +142,8 @@ class Shape:
         self.S = None if not directions else "D" if written and self.source == self.target else "S"
         self.D = None if not directions else "D" if written else "S"
         self.makes = not directions and library.makes(family)
+        # An image that grows in place: C is told where its old part begins, which users see as a part of the whole.
+        self.grows = "inout" in directions and {"srcRoiSize", "dstRoiSize", "top", "left"} <= set(self.named)
         self.arguments()
         if directions:
             self.look()
@@ -158,6 +160,8 @@ class Shape:
         digits = re.match(r"src(\d)Size$", c)
         if digits:
             return self.order.index("src" + digits[1])
+        if self.grows and c == "srcRoiSize":
+            return None
         return {"dstRoiSize": self.target, "dstTileSize": self.target, "dstSize": self.target, "roiSize": self.source,
                 "srcRoiSize": self.source, "srcSize": self.source}.get(c)
 
@@ -170,7 +174,8 @@ class Shape:
             if role in ("image", "planes"):
                 last = f"step<{self.order.index(c)}>"
                 tile = finder and c == self.order[self.source]
-                self.takes.append(f"{'pixels_of_tile' if tile else 'pixels'}<{self.order.index(c)}>")
+                self.takes.append(of("pixels_inside<{}, {}>", "top", "left") if self.grows else
+                                  f"{'pixels_of_tile' if tile else 'pixels'}<{self.order.index(c)}>")
                 self.checks += [f"planes_alike<{self.order.index(c)}>"] if role == "planes" else []
             elif role == "step":
                 self.takes.append(last)

@@ -77,6 +77,14 @@ TEST(Hpp, OperandsConstantsAndScales) {
             return zmvip::mul(d, {3, 2, 1}, 1);
         },
         [&](auto& d) { return zmviMulC_8u_C3IRSfs(d.data(), step(d), value, all, 1); });
+    equal(
+        start,
+        [&](auto& d) {
+            return zmvip::copy_replicate_border(d, {50, 40}, 5, 4);
+        },
+        [&](auto& d) {
+            return zmviCopyReplicateBorder_8u_C3IR(d.row(5) + 4 * 3, step(d), {50, 40}, all, 5, 4);
+        });
     const auto f = random<float>();
     equal(
         random<uint8_t>(), [&](auto& d) { return zmvip::convert(f, d, zmvip::round::zero); },
