@@ -71,13 +71,15 @@ class PointWriter {
         std::array<Mask, parts> masks;
         unrolled<parts>([&](auto part) {
             const int at = first + part * lanes<W>;
-            V channels[n] = {};
             masks[part] = Mask{};
             if (at < count) {
+                V channels[n];
                 if (chosen) masks[part] = load(chosen + at);
                 values(at, dst + part * lanes<W> * n, channels);
+                for (int c = 0; c < n; ++c) all[size_t(c)][part] = c < used ? channels[c] : V{};
+            } else {
+                for (int c = 0; c < n; ++c) all[size_t(c)][part] = V{};
             }
-            for (int c = 0; c < n; ++c) all[size_t(c)][part] = channels[c];
         });
         const auto pixels = [&] {
             Block<Vec<Bits<T>>, n> planes;

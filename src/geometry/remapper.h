@@ -141,12 +141,20 @@ class Remapper {
         if (allZero(any)) return;
         if (Kernel::taps == 1 && !smooth_) return copy(dst, count, allZero(~all));
         pixels_.fetch(ready);
-        Writer::write(dst, count, chosen_, [&](int first, const T* old, V* channels) {
+        const auto values = [&](int first, const T* old, V* channels) __attribute__((always_inline)) {
             pixels_.values(first, used, channels);
             if (!smooth_) return;
-            const int some = std::min(lanes<W>, count - first);
-            fade(loadUpTo(xs + first, some), loadUpTo(ys + first, some), load(chosen_ + first), old, channels);
-        });
+            V faded[used];  // what others are told the place of leaves its registers
+            for (int c = 0; c < used; ++c) faded[c] = channels[c];
+            fade(xs + first, ys + first, std::min(lanes<W>, count - first), load(chosen_ + first), old, faded);
+            for (int c = 0; c < used; ++c) channels[c] = faded[c];
+        };
+        // The values of few pixels stay in registers.
+        if constexpr (Kernel::taps <= 2)
+            Writer::write(dst, count, chosen_, values);
+        else
+            Writer::write(dst, count, chosen_,
+                          [&](int first, const T* old, V* channels) { values(first, old, channels); });
     }
 
   private:
@@ -159,7 +167,9 @@ class Remapper {
         for (int i = 0; i < count; ++i)
             if (all || chosen_[i]) copyPixel<bytes>(dst + i * n, pixels_.pixelOf(i));
     }
-    void fade(V x, V y, Mask chosen, const T* old, V* values) const {
+    __attribute__((noinline)) void fade(const W* xs, const W* ys, int some, Mask chosen, const T* old,
+                                        V* values) const {
+        const V x = loadUpTo(xs, some), y = loadUpTo(ys, some);
         const Mask band = chosen & ~within(x, y, 0);
         if (allZero(band)) return;
         const auto outside = [](V v, V first, V last) { return larger(larger(first - v, v - last), V{}); };
