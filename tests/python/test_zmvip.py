@@ -12,6 +12,7 @@ import unittest
 import warnings
 
 import numpy as np
+import usual
 import zmvip
 from zmvip import _api, raw
 from zmvip._arrays import C_DTYPES, DTYPES
@@ -25,13 +26,6 @@ except ImportError:
 W, H = 23, 17
 PAGE = mmap.PAGESIZE
 LIBC = ctypes.CDLL(None)
-# Everyday values of parameters that may be anything, but not what they are of their kind.
-USUAL = {"mask_size": 3, "block_size": 4, "window_size": 3, "kernel": np.arange(9).reshape(3, 3), "levels": [0, 60, 200, 256],
-         "values": [250, 10, 90, 30], "lower_level": 0, "upper_level": 256, "n_levels": 9, "n_bit_size": 8, "table": None,
-         "tables": None, "lower_bound": 50, "upper_bound": 200, "v_min": 0, "v_max": 255, "num_lobes": 3, "size": (30, 19), "dst_order": None,
-         "coeffs": {"[2][3]": [[.9, .2, 2], [-.1, .8, 3]], "[3][3]": [[.9, .2, 2], [-.1, .8, 3], [.001, .002, 1]],
-                    "[2][4]": [[.001, .9, .2, 2], [.002, -.1, .8, 3]]}}
-BY_ROLE = {"constant": 5, "number": 1, "size": 3, "option": 0}
 
 
 def guarded(array, at_end=True):
@@ -65,14 +59,7 @@ def views(image):
 
 
 def pixels(code, layout, w=W, h=H, seed=0):
-    rng, dtype = np.random.default_rng(seed), DTYPES[code]
-    n = int(layout[-1])
-    shape = (n, h, w) if "P" in layout else (h, w) if n == 1 else (h, w, n)
-    if dtype.kind in "iu":
-        values = rng.integers(0 if dtype.kind == "u" else -100, 250 if dtype.itemsize > 1 else 100, shape).astype(dtype)
-    else:
-        values = (rng.random(shape) * 250 + 1).astype(dtype)
-    return tuple(values) if "P" in layout else values
+    return usual.pixels(code, layout, w, h, seed)
 
 
 def each(f, image):
@@ -96,50 +83,10 @@ class Case:
     def __init__(self, name, part, m):
         self.function, self.engine, self.m = getattr(zmvip, name), getattr(zmvip, name).engine, m
         self.family, self.constant, self.makers, _ = part
-        names = m.reads + m.changes
-        self.images = {n: pixels(m.source, m.from_, seed=i) for i, n in enumerate(names)}
-        if self.engine.images == 2 and len(names) == 2 and m.facts["place"] == "second" and any(p[1] for p in self.engine.parts):
-            self.images = dict(reversed(self.images.items()))
-        self.keywords, roles = {}, {}
-        makers = [x for f in self.makers[:1] for x in ([y for y in members(f) if y.source == m.source] or members(f))[:1]]
-        for x in [m, *makers]:
-            roles.update({a.name: a for a in x.arguments})
-        for python, c, default in self.engine.rows[self.engine.images:]:
-            if python == "dtype" and m.source != m.destination:
-                self.keywords["dtype"] = DTYPES[m.destination].name
-            if c not in roles:
-                continue
-            a = roles[c]
-            if a.role == "scale":
-                self.keywords[python] = 1
-            if python == "size" or default == "None" or default is None:
-                self.keywords[python] = self.usual(python, a)
-        self.keywords = {n: v for n, v in self.keywords.items() if v is not None}
+        self.images = usual.images(self.engine, part, m, W, H)
+        self.keywords = usual.keywords(self.engine, part, m, W, H)
         if self.constant:
             self.images["b"] = 5
-        if "keep_alpha" in self.engine.keywords and "A" in m.to:
-            self.keywords["keep_alpha"] = True
-        if "layout" in self.engine.keywords and m.to != m.from_:
-            self.keywords["layout"] = m.to.lstrip("A")
-        if m.of_channel:
-            self.keywords["channel"] = 0
-        if "M" in m.letters:
-            self.keywords["mask"] = pixels("8u", "C1", seed=9) > 40
-
-    def usual(self, python, a):
-        if a.role == "map":
-            return np.add.outer(np.arange(19), np.arange(30)).astype(DTYPES["64f" if "double" in a.type else "32f"]) / 3
-        if python in ("table", "tables"):
-            return np.arange(256 * (3 if "24u" in self.m.name else 1)) % 256
-        if python == "size" and "Super" in self.m.name:  # which only reduces
-            return 13, 9
-        if python == "dst_order":
-            return [2, 0, 1, 3][:int(self.m.to[-1]) if self.m.to != "AC4" else 3]
-        if python in USUAL:
-            return USUAL[python] if python != "coeffs" else USUAL[python][a.type[-6:]]
-        if a.role in ("rectangle", "border value"):
-            return None
-        return BY_ROLE.get(a.role, 1)
 
     def out(self):
         """Memory for the results, with something in it."""
