@@ -99,6 +99,8 @@ ZMV_API Complex32f* zmviMalloc_32fc_AC4_L(int64_t width, int64_t height, int64_t
 ZMV_API void zmviFree(void* ptr);
 
 /* zmviGetLibVersion: The version record of the loaded build; the same pointer on every call, never freed.
+   cpuTag names it: the loader picks the best one where the library is opened by its name, libzmvip.so.1; a full path
+   opens what lies there, in lib the build for SSE3.
    Beside it: the NaN and the infinity that relative norms give for a zero denominator.
    src/core/piver.cpp */
 ZMV_API const LibraryVersion* zmviGetLibVersion(void);
@@ -2900,6 +2902,7 @@ ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4R(const float* src, int srcStep, f
 ZMV_API StatusCode zmviThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float* threshold, const float* value);
 
 /* zmviThreshold_LTValGTVal: dst = valueLT where src < thresholdLT, valueGT where src > thresholdGT, elsewhere src.
+   Two values and no others: zmviLUTPalette with a table of them; one bit a pixel: zmviGrayToBin.
    A pixel equal to a threshold stays as it is, and so does NaN.  Small numbers of 32f are compared as what they are,
    whatever the caller's denormal setting.
    Thresholds and values are numbers for C1, pointers to three for C3 and AC4, to four for C4.
@@ -3020,6 +3023,8 @@ ZMV_API StatusCode zmviThresholdAdaptiveGauss_8u_C1IR(uint8_t* srcDst, int srcDs
      ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
    The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
    aB behind a colour, and at most 1.
+   Colours of the result come multiplied by its alpha: composite it further by the operations _PREMUL, to show it over
+   an opaque image.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
    rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
@@ -3065,6 +3070,8 @@ ZMV_API StatusCode zmviAlphaComp_16u_AP4IR(const uint16_t* const src1[4], int sr
      ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
    The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
    aB behind a colour, and at most 1.
+   Colours of the result come multiplied by its alpha: composite it further by the operations _PREMUL, to show it over
+   an opaque image.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
    rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
@@ -3181,6 +3188,8 @@ ZMV_API StatusCode zmviCompColorKey_16s_AC4R(const int16_t* src1, int src1Step, 
      ALPHA_PLUS    cA*aA + cB*aB, at most 1           aA + aB, at most 1
    The operations _PREMUL are the same for colours that come multiplied by their alpha: without the first factor aA or
    aB behind a colour, and at most 1.
+   Colours of the result come multiplied by its alpha: composite it further by the operations _PREMUL, to show it over
+   an opaque image.
    Integers: the exact result, rounded once to nearest (there are no ties); a negative colour of a signed type stays
    negative, down to the smallest of the type.  32f: in single precision, rounded to nearest even whatever the caller's
    rounding mode, weights too; a colour whose weight is zero has no influence, be it infinite or NaN.
@@ -3205,6 +3214,7 @@ ZMV_API StatusCode zmviAlphaCompColorKey_8u_AC4R(const uint8_t* src1, int src1St
    which then converts element by element from the first on.
    Except in Rs, RSfs and AC4, regions that read and write more than the largest cache holds are written past the
    caches.
+   Grey of colours: planes by zmviCopy, zmviMulC each by its weight of 256 with scaleFactor 8, zmviAdd.
    Checked in this order.  STATUS_NULL_POINTER: an image is null.  STATUS_BAD_SIZE: width or height below 1.
    STATUS_BAD_STEP: a step is not positive; Rs accepts any.
    src/datamove/piconvertca.cpp and piconvert_ort.cpp */

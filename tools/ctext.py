@@ -8,7 +8,7 @@ def declared(kind, name):
     return f"{base} {name}{bounds}"
 
 
-def wrapped(head, arguments, tail, indent=4, width=98):
+def wrapped(head, arguments, tail, indent=4, width=84):
     """A call or a prototype, in lines that end between arguments."""
     lines, line = [], head
     for i, a in enumerate(arguments):

@@ -19,27 +19,38 @@ ROLES = {"image": "first pixel", "planes": "first pixels of the planes", "mask":
          "buffer": "work memory", "spec object": "what its initialiser has made", "init buffer": "work memory, for this call",
          "kernel": "the weights, row by row", "result": "where the result goes"}
 STEPS = {"positive": "positive", "nonzero": "any but zero; rows go up where negative", "any": "any, zero and negative ones too"}
-PLACE = {"apart": "no: source and destination must not overlap", "same": "yes: the I forms, or the same image with the same step",
-         "second": "yes: the I forms overwrite the second image; elsewhere the destination may be one of the sources", "text": ""}
-REACH = {"none": "the pixel itself", "anchor": "the mask round it", "radius": "a radius round it", "fixed": "a fixed neighbourhood",
-         "query": "what the query says", "whole": "all of the source"}
+PLACE = {"apart": "no: source and destination must not overlap", "same": "yes: forms with I, or the same image with the same step",
+         "second": "yes: forms with I overwrite the second image; elsewhere the destination may be one of the sources", "text": ""}
+REACH = {"none": "the pixel itself", "anchor": "the mask round it", "radius": "a radius round it",
+         "fixed": "a fixed neighbourhood", "query": "what the query says", "whole": "all of the source"}
 PARTS = {"no": "", "add": "add up", "least": "the least counts", "greatest": "the greatest counts",
          "addIntegers": "add up, of integers", "extremes": "the least and the greatest count"}
 IMAGES = {"image", "planes"}
 
 
+def table(header, rows):
+    """A table in Markdown; header: its words, between bars."""
+    return "\n".join([f"| {header} |", "|---" * (header.count("|") + 1) + "|", *(f"| {' | '.join(row)} |" for row in rows)])
+
+
+def code(text, language):
+    return f"```{language}\n{text}\n```"
+
+
 class Page:
     def __init__(self, area, name, families, title):
-        self.area, self.name, self.families, self.title = area, name, families, title
-        self.path = f"{area}/{name}"
+        self.area, self.families, self.title, self.path = area, families, title, f"{area}/{name}"
 
 
 class Reference:
     def __init__(self, api, examples, sources):
         self.api, self.examples, self.sources = api, examples, sources
         self.families = {f["name"]: f for f in api["families"]}
-        grouped = {}
+        self.serves, grouped = {}, {}
         for f in api["families"]:
+            for service in {f["facts"]["query"], f["facts"]["init"]} - {""}:
+                self.serves.setdefault(service, []).append(f["name"])
+        for f in sorted(api["families"], key=lambda f: f["name"] in self.serves):  # services behind what they serve
             grouped.setdefault((f["area"], f["page"]), []).append(f)
         self.pages = [Page(a, p, found, self.title(a, p)) for (a, p), found in grouped.items()]
         self.at = {f["name"]: page for page in self.pages for f in page.families}
@@ -48,10 +59,6 @@ class Reference:
         self.words = {}
         for e in api["enumerations"]:
             self.words.setdefault(e["prefix"], []).extend(v["name"] for v in e["values"])
-        self.serves = {}
-        for f in api["families"]:
-            for service in {f["facts"]["query"], f["facts"]["init"]} - {""}:
-                self.serves.setdefault(service, []).append(f["name"])
 
     def title(self, area, page):
         first = (self.sources / "src" / area / f"{page}.families.def").read_text().splitlines()[0]
@@ -76,7 +83,8 @@ class Reference:
         f, roles = family["facts"], {a["role"] for m in family["members"] for a in m["arguments"]}
         free = f" ({f['freeSteps'].replace('*', 'all')}: any)" if f["freeSteps"] else ""
         rows = [("Steps", STEPS[f["steps"]] + free), ("In place", PLACE[f["place"]]), ("A pixel takes", REACH[f["reach"]]),
-                ("In tiles", "the bits of the whole" if f["tiles"] else "not the bits of the whole"), ("Results of parts", PARTS[f["combine"]]),
+                ("In tiles", "the bits of the whole" if f["tiles"] else "not the bits of the whole"),
+                ("Results of parts", PARTS[f["combine"]]),
                 ("Caller's rounding mode", "counts for 32f and 64f" if f["rounds"] == "floats" else "has no influence")]
         if not roles & IMAGES:
             rows = []
@@ -91,7 +99,7 @@ class Reference:
             for a in m["arguments"]:
                 found.setdefault(a["name"], (a, []))[1].append(a["type"])
         for name, (a, types) in found.items():
-            words = self.words.get(a.get("enumeration"), [])
+            words = self.words.get(a.get("enumeration"), []) if a["role"] == "option" else []  # of borders, few take all
             is_word = [v["name"] for e in self.api["enumerations"] for v in e["values"]
                        if e["prefix"] == a.get("enumeration") and v["value"] == a.get("usual")]
             about = ROLES[a["role"]] if not words else ", ".join(words)
@@ -101,7 +109,7 @@ class Reference:
         known = self.examples.get(family["name"], {}).get("member")
         return next((m for m in family["members"] if m["name"] == known), family["members"][0])
 
-    def prototype(self, m, width=98):
+    def prototype(self, m, width=84):
         return wrapped(f"{m['result']} {m['name']}(", [declared(a["type"], a["name"]) for a in m["arguments"]] or ["void"], ");",
                        width=width)
 
@@ -123,27 +131,28 @@ class Reference:
 
     def section(self, family, page):
         name, members = family["name"], family["members"]
+        say = lambda words: self.text(words, page)
         out = [f"## {name}", f"```{{index}} {', '.join(dict.fromkeys([name, *(m['name'] for m in members)]))}\n```"]
-        for kind, lines in self.blocks(family):
-            out.append("```text\n" + "\n".join(lines) + "\n```" if kind == "table" else self.text(" ".join(lines), page))
-        out.append(f"```c\n{self.prototype(self.plainest(family))}\n```")
-        out.append("| argument | type | |\n|---|---|---|\n" + "\n".join(
-            f"| `{n}` | {', '.join(f'`{t}`' for t in types)} | {self.text(about, page)} |" for n, types, about in self.arguments(family)))
-        by_types = {}
-        for m in members:
-            by_types.setdefault(" to ".join(m["types"]), []).append(f"`{m['name']}`")
-        out.append("**Functions**")
-        out.append("| types | functions |\n|---|---|\n" + "\n".join(f"| {t} | {' '.join(found)} |" for t, found in by_types.items()))
+        out += [code("\n".join(lines), "text") if kind == "table" else say(" ".join(lines))
+                for kind, lines in self.blocks(family)]
+        out.append(code(self.prototype(self.plainest(family)), "c"))
+        out.append(table("argument | type | ", ([f"`{n}`", ", ".join(f"`{t}`" for t in types), say(about)]
+                                                for n, types, about in self.arguments(family))))
+        if len(members) > 1:
+            by_types = {}
+            for m in members:
+                by_types.setdefault(" to ".join(m["types"]), []).append(f"`{m['name']}`")
+            out += ["**Functions**", table("types | functions", ([t, " ".join(found)] for t, found in by_types.items()))]
         if self.facts(family):
-            out.append("| | |\n|---|---|\n" + "\n".join(f"| {a} | {self.text(b, page)} |" for a, b in self.facts(family)))
-        rows = [("refused", r) for r in family["facts"]["refusals"]] + [("warned of", w) for w in family["facts"]["warnings"]]
-        if rows:
-            out.append("**Checks**, in this order: the first that fails is the status, and nothing is written.")
-            out.append("| status | when | its sentence |\n|---|---|---|\n" + "\n".join(
-                f"| `{r['status']}` | {self.text(r['condition'], page)} | {self.text(self.sentences[r['status']], page)} |" for _, r in rows))
+            out.append(table(" | ", ([about, say(words)] for about, words in self.facts(family))))
+        checks = family["facts"]["refusals"] + family["facts"]["warnings"]
+        if checks:
+            out += ["**Checks**, in this order: the first that fails is the status. After a warning (WARN) the work is done.",
+                    table("status | when | its sentence", ([f"`{r['status']}`", say(r["condition"]),
+                                                            say(self.sentences[r["status"]])] for r in checks))]
         example = self.examples.get(name)
         if example:
-            out.append(f"**Example** in Python:\n\n```python\n{example['python']}\n```\n\nThe same in C:\n\n```c\n{example['c']}\n```")
+            out += ["**Example** in Python:", code(example["python"], "python"), "The same in C:", code(example["c"], "c")]
         return "\n\n".join(out)
 
     def write_site(self, out, pictures):
@@ -151,7 +160,8 @@ class Reference:
         programs = self.write_programs(out, pictures)
         for page in self.pages:
             names = {f["name"] for f in page.families}
-            used = sorted((p for p in programs if names & p["families"]), key=lambda p: (len(p["families"] - names), p["name"]))
+            used = [p for p in programs if names & p["families"]]
+            used.sort(key=lambda p: (len(p["families"] - names), p["name"]))  # those that are about little else come first
             parts = [f"# {page.title}", ", ".join(self.link(f["name"], page.path) for f in page.families)]
             shown = [r for p in used[:3] for r in p["pictures"]][:6]
             if shown:
@@ -160,7 +170,7 @@ class Reference:
                 parts.append("Programs: " + ", ".join(f"[{p['name']}](../programs/{Path(p['name']).stem}.md)" for p in used))
             parts += [self.section(f, page.path) for f in page.families]
             if used and not names & set(self.examples):
-                parts.append(f"## A program\n\n```{used[0]['language']}\n{used[0]['text']}\n```")
+                parts += ["## A program", code(used[0]["text"], used[0]["language"])]
             self.write(out / f"{page.path}.md", "\n\n".join(parts))
         self.write_types(out)
         self.write_texts(out, programs)
@@ -187,57 +197,60 @@ class Reference:
             found.append({"name": file.name, "pictures": rows, "text": text, "language": language,
                           "families": {n for n in names if n in self.families}})
             listed = "\n".join(f"- *{title}*: {sentence}" for _, _, title, sentence in rows)
-            body = [f"# {file.name}", *([self.figures(rows, "../"), listed] if rows else []), f"```{language}\n{text}\n```"]
+            body = [f"# {file.name}", *([self.figures(rows, "../"), listed] if rows else []), code(text, language)]
             self.write(out / f"programs/{file.stem}.md", "\n\n".join(body))
         return found
 
     def write_types(self, out):
-        rows = "\n".join(f"| `{s['name']}` | {s['value']} | {self.text(s['sentence'], '')} |" for s in self.api["statuses"])
-        self.write(out / "statuses.md", "# Statuses\n\nNegative values are errors: nothing has been written. Positive ones are warnings: "
-                   "the work is done. `zmvStatusText` gives the sentence. What a family checks, and in which order, is on its page: "
-                   "the first check that fails is the status.\n\n"
-                   f"| name | value | |\n|---|---|---|\n{rows}\n")
-        structs = "\n".join(f"| `{s['name']}` | {', '.join('`' + x['type'] + ' ' + x['name'] + '`' for x in s['fields'])} |"
-                            for s in self.api["structs"])
-        words = "\n".join(f"| {'`' + v['name'] + '`'} | {v['value']} |" for e in self.api["enumerations"] for v in e["values"])
-        self.write(out / "types.md", f"# Types and words\n\n| struct | fields |\n|---|---|\n{structs}\n\n| word | value |\n|---|---|\n{words}\n")
+        self.write(out / "statuses.md", "\n\n".join([
+            "# Statuses", "Negative values are errors: nothing has been written. Positive ones are warnings: the work is done. "
+            "`zmvStatusText` gives the sentence. What a family checks, and which sizes or steps it means, is on its page: the "
+            "first check that fails is the status.",
+            table("name | value | ", ([f"`{s['name']}`", str(s["value"]), self.text(s["sentence"], "")]
+                                      for s in self.api["statuses"]))]))
+        self.write(out / "types.md", "\n\n".join([
+            "# Types and words",
+            table("struct | fields", ([f"`{s['name']}`", ", ".join(f"`{x['type']} {x['name']}`" for x in s["fields"])]
+                                      for s in self.api["structs"])),
+            table("word | value", ([f"`{v['name']}`", str(v["value"])] for e in self.api["enumerations"] for v in e["values"]))]))
 
     def write_texts(self, out, programs):
         """The texts of the project: links among them go to their pages, those to sources lose the link."""
-        def link(match, here):
-            words, target = match.groups()
+        texts = [Path(t) for t in ("README.md", "CONTRIBUTING.md", "CHANGELOG.md")]
+        texts += sorted(p.relative_to(self.sources) for p in (self.sources / "docs").glob("*.md"))
+        names = {p["name"] for p in programs}
+
+        def link(here, words, target):
             path, _, anchor = target.partition("#")
             if re.match(r"\w+:", target) or not path:
-                return match[0]
-            path = os.path.normpath(here.parent / path)
-            if path == "docs/gallery.png":
+                return f"[{words}]({target})"
+            path = Path(os.path.normpath(here.parent / path))
+            if path.suffix == ".png":
                 shutil.copy(self.sources / path, out)
-                return f"[{words}](gallery.png)"
-            if Path(path).name in {p["name"] for p in programs}:
-                return f"[{words}](programs/{Path(path).stem}.md)"
-            if path in texts:
-                return f"[{words}]({Path(path).name}{'#' + anchor if anchor else ''})"
-            return words if words.startswith("`") else f"`{words}`" if "/" in words or "." in words else words
+            if path in texts or path.suffix == ".png":
+                return f"[{words}]({path.name}{'#' + anchor if anchor else ''})"
+            if path.name in names:
+                return f"[{words}](programs/{path.stem}.md)"
+            return f"`{words}`" if re.search("[./]", words) and "`" not in words else words
 
-        texts = ["README.md", "CONTRIBUTING.md", "CHANGELOG.md", *sorted(f"docs/{p.name}" for p in (self.sources / "docs").glob("*.md"))]
-        for text in texts:
-            here = Path(text)
-            words = re.sub(r"\[([^][]*)\]\(([^()\s]*)\)", lambda m: link(m, here), (self.sources / text).read_text())
-            words = re.sub(r"`(zmvi\w+)`", lambda m: self.link(m[1], here.name) if m[1] in self.families or m[1] in self.family_of else m[0], words) \
-                if here.name != "CHANGELOG.md" else words
-            self.write(out / here.name, words)
-        areas = {}
+        for here in texts:
+            words = re.sub(r"\[([^][]*)\]\(([^()\s]*)\)", lambda m: link(here, *m.groups()), (self.sources / here).read_text())
+            if here.name != "CHANGELOG.md":
+                words = re.sub(r"`(zmvi\w+)`", lambda m: self.link(m[1], here.name), words)
+            if here.name == "README.md":
+                words += self.contents([t.stem for t in texts if t != here], programs)
+            self.write(out / ("index.md" if here.name == "README.md" else here.name), words)
+
+    def contents(self, texts, programs):
+        """What the side of every page has."""
+        first = [t for t in ("which-function", "coming-from", "python", "threads", "scale") if t in texts]
+        trees = {"Using it": first}
         for page in self.pages:
-            areas.setdefault(page.area, []).append(page.path)
-        tree = lambda caption, paths: f"```{{toctree}}\n:caption: {caption}\n:hidden:\n:maxdepth: 1\n\n" + "\n".join(paths) + "\n```"
-        order = [p for p in ("which-function", "python", "threads", "scale", "coming-from") if f"docs/{p}.md" in texts]
-        inside = [Path(t).stem for t in texts if t not in ("README.md",) and Path(t).stem not in order]
-        front = (out / "README.md").read_text()
-        (out / "README.md").unlink()
-        self.write(out / "index.md", "\n\n".join([front, tree("Using it", order), *(tree(f"Reference, {a}", p) for a, p in areas.items()),
-                                                   tree("Reference, words", ["statuses", "types"]),
-                                                   tree("Programs", [f"programs/{Path(p['name']).stem}" for p in programs]),
-                                                   tree("The house", inside)]))
+            trees.setdefault(f"Reference, {page.area}", []).append(page.path)
+        trees |= {"Reference, words": ["statuses", "types"], "Programs": [f"programs/{Path(p['name']).stem}" for p in programs],
+                  "The house": [t for t in texts if t not in first]}
+        return "".join(f"\n```{{toctree}}\n:caption: {caption}\n:hidden:\n:maxdepth: 1\n\n" + "\n".join(paths) + "\n```\n"
+                       for caption, paths in trees.items())
 
     @staticmethod
     def write(path, text):
@@ -253,7 +266,8 @@ class Reference:
         name, facts = family["name"], family["facts"]
         first = re.split(r"[.;:](\s|$)", self.blocks(family)[0][1][0])[0]
         out = [f'.TH {name} 3 "{date}" "zmvIP" "Functions of zmvIP"', ".nh", ".SH NAME", f"{name} \\- {roff(first)}",
-               ".SH SYNOPSIS", ".nf", ".B #include <zmvip.h>", ".PP", roff(self.prototype(self.plainest(family), 72)), ".fi", ".SH DESCRIPTION"]
+               ".SH SYNOPSIS", ".nf", ".B #include <zmvip.h>", ".PP", roff(self.prototype(self.plainest(family), 72)), ".fi",
+               ".SH DESCRIPTION"]
         for i, (kind, lines) in enumerate(self.blocks(family)):
             out += [".PP"] * bool(i)
             out += [".nf", roff("\n".join(lines)), ".fi"] if kind == "table" else [para(" ".join(lines))]

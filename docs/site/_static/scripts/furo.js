@@ -1,7 +1,11 @@
-// Light, dark, or as the reader's system says: in place of the theme's own script, which a page in a file cannot load.
+// Light or dark, as the reader's system has it or as the button says: in place of the theme's own script, which is a module,
+// and those are not loaded by a page in a file.
+const dark = matchMedia("(prefers-color-scheme: dark)");
+const show = () => (document.body.dataset.theme = localStorage.getItem("theme") || (dark.matches ? "dark" : "light"));
+show();
+dark.addEventListener("change", show);
 for (const button of document.querySelectorAll(".theme-toggle"))
     button.addEventListener("click", () => {
-        const next = {auto: "dark", dark: "light", light: "auto"};
-        document.body.dataset.theme = next[document.body.dataset.theme] || "dark";
-        localStorage.setItem("theme", document.body.dataset.theme);
+        localStorage.setItem("theme", document.body.dataset.theme === "dark" ? "light" : "dark");
+        show();
     });
