@@ -243,7 +243,7 @@ class Reference:
 
     def contents(self, texts, programs):
         """What the side of every page has."""
-        first = [t for t in ("which-function", "coming-from", "python", "threads", "scale") if t in texts]
+        first = [t for t in ("which-function", "coming-from", "cpp", "python", "threads", "scale", "packaging") if t in texts]
         trees = {"Using it": first}
         for page in self.pages:
             trees.setdefault(f"Reference, {page.area}", []).append(page.path)
