@@ -1,6 +1,6 @@
 """test_page.py INDEX.html [SITE/index.html]: opens the page that ./try makes, and the pages of the site, in headless Chromium:
 on a telephone and on a desk, light and dark, no picture or link leads nowhere, nothing is complained of, nothing is wider
-than the screen, no text smaller than 14 px.  The site's search finds a function.  77: no Chromium, or no page."""
+than the screen, no text smaller than 14 px or hard to tell from its paper.  The site's search finds a function.  77: no Chromium, or no page."""
 import os
 import sys
 import unittest
@@ -24,9 +24,16 @@ SCREENS = [(360, "light"), (360, "dark"), (1280, "dark"), (1280, "light")]
 LOOK = """
 const images = [...document.images];
 for (const i of images) i.loading = 'eager';
-Promise.all(images.map(i => i.decode().then(() => null, () => i.src))).then(broken => arguments[0](look(broken.filter(b => b))));
+const time = new Promise(done => setTimeout(done, 200));  // for what hears that screen or scheme have changed
+Promise.all([time, ...images.map(i => i.decode().then(() => null, () => i.src))]).then(
+    broken => arguments[0](look(broken.filter(b => b))));
 function look(broken) {
-const small = [], wide = [], room = document.documentElement.clientWidth;
+const small = [], wide = [], faint = [], room = document.documentElement.clientWidth;
+const parts = c => { const [r, g, b, a = 1] = c.match(/[\\d.]+/g).map(Number); return [r, g, b, a]; };
+const under = e => { const c = e ? parts(getComputedStyle(e).backgroundColor) : [255, 255, 255, 1];
+                     return c[3] == 1 ? c : mixed(c, under(e.parentElement)); };
+const mixed = ([r, g, b, a], [x, y, z]) => [a * r + (1 - a) * x, a * g + (1 - a) * y, a * b + (1 - a) * z, 1];
+const light = c => [.2126, .7152, .0722].reduce((sum, w, i) => sum + w * (c[i] / 255) ** 2.2, .05);
 const scrolls = e => e && (['auto', 'scroll', 'hidden'].includes(getComputedStyle(e).overflowX) || scrolls(e.parentElement));
 for (const e of document.querySelectorAll('body *')) {
     const box = e.getBoundingClientRect();
@@ -34,8 +41,12 @@ for (const e of document.querySelectorAll('body *')) {
     if (box.right > room + 1 && box.left < room && !scrolls(e)) wide.push(e.outerHTML.slice(0, 120));
     const own = [...e.childNodes].some(n => n.nodeType == 3 && /[\\p{L}\\p{N}]/u.test(n.data));
     if (own && parseFloat(getComputedStyle(e).fontSize) < 14) small.push(e.outerHTML.slice(0, 120));
+    if (own) {
+        const paper = light(under(e)), ink = light(mixed(parts(getComputedStyle(e).color), under(e)));
+        if (Math.max(paper, ink) / Math.min(paper, ink) < 3) faint.push(e.outerHTML.slice(0, 120));
+    }
 }
-return {small, wide, broken, over: document.documentElement.scrollWidth - room,
+return {small, wide, faint, broken, dark: light(under(document.body)) < .5, over: document.documentElement.scrollWidth - room,
         links: [...document.querySelectorAll('a[href], link[href]')].map(a => a.href),
         ids: [...document.querySelectorAll('[id]')].map(e => e.id)};
 }"""
@@ -64,7 +75,7 @@ class Page(unittest.TestCase):
         for first in PAGES:
             root = "file://" + os.path.realpath(os.path.dirname(first))
             todo, seen, ids, links = ["file://" + os.path.realpath(first)], set(), {}, []
-            while todo and len(seen) < 25:  # the site has a page a family: those that the first pages name
+            while todo and len(seen) < 20:  # the site has a page a family: those that the first pages name
                 address = todo.pop(0)
                 if address in seen:
                     continue
@@ -74,9 +85,10 @@ class Page(unittest.TestCase):
                     with self.subTest(address, width=width, scheme=scheme):
                         self.screen(width, scheme)
                         said = self.browser.execute_async_script(LOOK)
-                        for fault in ("small", "wide", "broken"):
+                        for fault in ("small", "wide", "faint", "broken"):
                             self.assertEqual(said[fault][:5], [], fault)
                         self.assertLessEqual(said["over"], 0)
+                        self.assertEqual(said["dark"], scheme == "dark")
                 self.assertEqual(self.browser.get_log("browser"), [], address)
                 ids[address] = set(said["ids"])
                 for link in said["links"]:
