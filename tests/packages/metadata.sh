@@ -19,15 +19,15 @@ version=$(sed -n 's/^project(zmvip VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 [[ $(head -n1 debian/changelog) == "zmvip ($version) "* ]] || fail "debian/changelog does not begin with version $version"
 [[ $(grep -m1 '^## ' CHANGELOG.md) == "## $version"* ]] || fail "CHANGELOG.md does not begin with version $version"
 
-# Installed as for the packages, with what BUILD has: each file goes to one package.
+# Installed as for the packages, with what BUILD has, which is all but the reference: each file goes to one package.
 flags=$(sed -n 's/.*dh_auto_configure -- //p' debian/rules)
 # The flags are a list of words.
 # shellcheck disable=SC2086
 cmake -G Ninja -S . -B "$scratch/build" $flags -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_LIBDIR=lib/x86_64-linux-gnu \
-    -DCMAKE_C_COMPILER="$cc" >/dev/null
+    -DCMAKE_C_COMPILER="$cc" -DZMV_DOCS=OFF -DZMV_EXAMPLES=OFF >/dev/null
 cp -a "$build"/{api.json,include,lib,python} "$scratch/build"
 DESTDIR=$root cmake --install "$scratch/build" >/dev/null
-packed=$(cat debian/*.install | (cd "$root" && while read -r pattern; do
+packed=$(cat debian/{libzmvip1,libzmvip-dev,python3-zmvip}.install | (cd "$root" && while read -r pattern; do
     for path in $(compgen -G "$pattern" || echo "$pattern"); do find "$path" ! -type d; done
 done) | LC_ALL=C sort)
 installed=$(cd "$root" && find usr ! -type d | LC_ALL=C sort)

@@ -20,6 +20,9 @@ for step in pkg_config find_package loader.{s3,v3,v4,best}; do
     echo "$step:"
     ZMV_PREFIX=/usr bash tests/api/installed.sh /tmp/use cc c++ "$PWD/tests/api" "$step" || [ $? = 77 ]
 done
+man zmviAdd_8u_C1RSfs | grep -q zmviAdd_8u_C1RSfs
+broken=$(find -L /usr/share/doc/libzmvip-dev/ /usr/share/man/man3/zmv* -type l)
+[ -z "$broken" ] || { echo "links to nowhere: $broken"; exit 1; }
 
 apt-get purge -qq libzmvip1 libzmvip-dev libzmvip-doc python3-zmvip >/dev/null
 left=$(find / \( -path /proc -o -path /tmp -o -path /var/cache/man \) -prune -o -name '*zmv*' -print)
