@@ -70,12 +70,41 @@ struct BytesArea {
     }
 };
 
+// Two by two pixels of one channel lie as sums want them.
+bool halves(const ResizeTile& tile) {
+    const auto half = [](const SuperAxis& axis) { return axis.whole() == 2 && axis.parts() == 1; };
+    return tile.channels == 1 && half(SuperAxis(tile.header.horizontal)) && half(SuperAxis(tile.header.vertical));
+}
+void halve(Roi size, Image<const uint8_t> src, Image<uint8_t> dst) {
+    for (Len y = 0; y < size.height; ++y) {
+        const uint8_t *const top = src.row(2 * y), *const bottom = src.row(2 * y + 1);
+        const auto means = [&](Len x, auto read) __attribute__((always_inline)) {
+            const auto mean = [&](Len i) __attribute__((always_inline)) {
+                const auto sum = pairSums(read(top, i)) + pairSums(read(bottom, i));
+                return (Vec<int16_t>)((sum + 1 + (sum >> 2 & 1)) >> 2);  // ties to even
+            };
+            return joined<uint8_t>(std::array{mean(2 * x), mean(2 * x + lanes<uint8_t>)});
+        };
+        uint8_t* const to = dst.row(y);
+        Len x = 0;
+        for (; x + lanes<uint8_t> <= size.width; x += lanes<uint8_t>)
+            store(to + x, means(x, [](const uint8_t* row, Len i) { return load(row + i); }));
+        const auto end = [&](const uint8_t* row, Len i) {
+            const Len left = 2 * size.width - i;
+            return left > 0 ? loadUpTo(row + i, int(std::min<Len>(left, lanes<uint8_t>))) : Vec<uint8_t>{};
+        };
+        if (x < size.width) storePart(to + x, means(x, end), int(size.width - x));
+    }
+}
+
 }  // namespace
 
 bool hasSmallAreas(const ResizeTile& tile) {
-    return BytesArea::fits(SuperAxis(tile.header.horizontal), SuperAxis(tile.header.vertical), tile.channels);
+    return halves(tile) ||
+           BytesArea::fits(SuperAxis(tile.header.horizontal), SuperAxis(tile.header.vertical), tile.channels);
 }
 void ownpi_ResizeSmallAreas(const ResizeTile& tile, Image<const uint8_t> src, Image<uint8_t> dst) {
+    if (halves(tile)) return halve(tile.size, src, dst);
     const SuperAxis columns(tile.header.horizontal), rows(tile.header.vertical);
     TileFilter<BytesArea, SuperAxis>(tile, columns, rows, src, dst).run();
 }

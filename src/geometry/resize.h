@@ -19,9 +19,10 @@ struct ResizeTile {
 // A tile in bands of columns, as wide as the work buffer has room, or `most` bytes of it.  A Band is made of what takes
 // its memory, the driver, and its columns.  What narrow tiles need has room in no case to spare in their work buffers,
 // which may not hold the tables of a whole vector: it is local.
+constexpr Len localBytes = 8192;
 template <class Band, class Driver, class Work>
 void inBands(const Driver& driver, const ResizeTile& tile, WideLen most, Work work) {
-    alignas(64) uint8_t local[8192];
+    alignas(64) uint8_t local[localBytes];
     uint8_t* memory = local;
     WideLen room = sizeof local;
     const Len begin = tile.offset.x, end = begin + tile.size.width;

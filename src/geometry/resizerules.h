@@ -5,8 +5,9 @@
 // the taps, p counting the vectors of U that a vector of A takes.  down() gives what makes a vector of results from
 // element x on of the rows at rowAt, for which setRow() has chosen weights; behind the last row there is one more.
 // Both come with a count, a constant where it is one of ColumnCounts or RowCounts, that columnCount() and rowCount()
-// have chosen; 0 stands for whatever the rule makes of it.  Where rows are made by twos, TwiceCounts are the counts of
-// rows whose weights registers hold twice.
+// have chosen; 0 stands for whatever the rule makes of it.  across() makes a filtered element of lanes<A> rows at once,
+// where a rule has it: `at` has a vector for each of its taps.  Where rows are made by twos, TwiceCounts are the counts
+// of rows whose weights registers hold twice.
 #pragma once
 
 #include <array>
@@ -34,7 +35,7 @@ struct BytesLinear {
     using T = uint8_t;
     using U = uint16_t;
     using A = int16_t;
-    using Weight = int16_t;
+    using Weight = std::conditional_t<hasByteShuffle, int16_t, uint32_t>;  // of two taps, else two kinds of numbers
     using ColumnCounts = Counts<1>;
     using RowCounts = Counts<1, 2>;
     using TwiceCounts = Counts<1, 2>;
@@ -42,7 +43,7 @@ struct BytesLinear {
     int16_t rowFactor = 0;
 
     Len groups() const { return 1; }
-    Len weightRows() const { return 2; }
+    Len weightRows() const { return hasByteShuffle ? 2 : 1; }
     Len columnCount() const { return 1; }
     Len rowCount() const { return rows.shape.most; }
     // The fraction in 2^-14.
@@ -50,17 +51,25 @@ struct BytesLinear {
         return axis.shape.kind == Taps::one ? 0 : int(std::min(toWhole(16384 * double(*axis.group(i))), 16383.0));
     }
     // a + (b - a) f, from the nearer of both on: the difference of the bytes, 64 times, and four times the fraction, or
-    // what it lacks to one, fit 16 bits, and a rounded high product takes 2^15 back.
+    // what it lacks to one, fit 16 bits, and a rounded high product takes 2^15 back.  Without that product as an
+    // instruction, a (1 - f) + b f in 32 bits.
     void putWeights(Len x, Weight* to, Len step) const {
         const int f = fraction(columns, x);
-        to[0] = int16_t(4 * f), to[step] = int16_t(f < 8192 ? 64 : 64 << 8);
+        if constexpr (hasByteShuffle)
+            to[0] = int16_t(4 * f), to[step] = int16_t(f < 8192 ? 64 : 64 << 8);
+        else
+            to[0] = Weight(16384 - f) | Weight(f) << 16;
     }
     // The same of a vector of pixels.
     void putVectors(Len x, Weight* to) const {
         const float* const at = columns.weights + x;
         const auto whole = joined<A>(std::array{load(at) * 16384, load(at + lanes<float>) * 16384});
         const auto f = columns.shape.kind == Taps::one ? Vec<A>{} : whole < 16383 ? whole : fill<A>(16383);
-        store(to, (Vec<U>)f << 2), store(to + lanes<A>, f < 8192 ? fill<A>(64) : fill<A>(64 << 8));
+        const auto lacks = fill<A>(16384) - f;
+        if constexpr (hasByteShuffle)
+            store(to, (Vec<U>)f << 2), store(to + lanes<A>, f < 8192 ? fill<A>(64) : fill<A>(64 << 8));
+        else
+            store(to, interleaveLow(lacks, f)), store(to + lanes<Weight>, interleaveHigh(lacks, f));
     }
     // Within 16 bits, but for what stands in lanes that nobody asked for.
     static ZMV_INLINE Vec<A> mix(Vec<A> a, Vec<A> b) { return (Vec<A>)((Vec<U>)a + (Vec<U>)b); }
@@ -73,9 +82,18 @@ struct BytesLinear {
     template <class At, class Count>
     ZMV_INLINE Vec<A> along(At at, const Weight* weights, Len step, Count) const {
         const auto taps = (Vec<uint8_t>)at(Len(0), 0);
-        const auto differences = bytePairProducts(taps, (Vec<int8_t>)fill<int16_t>(int16_t((64 << 8) - 64 + 256)));
-        const auto nearer = bytePairProducts(taps, (Vec<int8_t>)load(weights + step));
-        return mix(mix(nearer, nearer), mulRoundedSigned(differences, load(weights)));
+        if constexpr (hasByteShuffle) {
+            const auto differences = bytePairProducts(taps, (Vec<int8_t>)fill<int16_t>(int16_t((64 << 8) - 64 + 256)));
+            const auto nearer = bytePairProducts(taps, (Vec<int8_t>)load(weights + step));
+            return mix(mix(nearer, nearer), mulRoundedSigned(differences, (Vec<A>)load(weights)));
+        } else {
+            const auto sums = [](auto pairs, const Weight* w) {
+                return (pairProducts((Vec<A>)pairs, (Vec<A>)load(w)) + 64) >> 7;
+            };
+            const Vec<uint8_t> none{};
+            return narrow<A>(sums(interleaveLow(taps, none), weights),
+                             sums(interleaveHigh(taps, none), weights + lanes<Weight>));
+        }
     }
     void setRow(Len y) { rowFactor = int16_t(2 * fraction(rows, y)); }
     template <class Count>
@@ -252,6 +270,19 @@ struct Real {
         for (; 4 * block < most; ++block) rest(block);
         return total;
     }
+    // The taps of pixel x, so many numbers apart.
+    ZMV_INLINE V across(const A* at, Len step, Len x) const {
+        const R* const weights = columns.group(x);
+        const Len taps = columns.count(x);
+        V total = product(load(at), fill(weights[0]));
+        const auto add = [&](Len k) __attribute__((always_inline)) {
+            total = sum(total, product(load(at + k * step), fill(weights[k])));
+        };
+        Len k = 1;
+        for (; k + 4 <= taps; k += 4) unrolled<4>([&](auto i) __attribute__((always_inline)) { add(k + i); });
+        for (; k < taps; ++k) add(k);
+        return total;
+    }
     void setRow(Len y) { rowWeights = rows.group(y), rowTaps = rows.count(y); }
     template <class Count>
     ZMV_INLINE auto down(const A* const* rowAt, Count) const {
@@ -265,21 +296,27 @@ struct Real {
         [[maybe_unused]] const R* const weights = rowWeights;
         [[maybe_unused]] const Len taps = rowTaps;
         return [=](Len x) __attribute__((always_inline)) {
-            const auto mixed = [&](Len i) __attribute__((always_inline)) {
-                const V top = load(first[0] + i);
-                if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) return top;
-                if constexpr (Count::value == 2) return between(top, load(first[known - 1] + i), w[0]);
-                if (Count::value == 0 && kind == Taps::two) return between(top, load(rowAt[1] + i), w[0]);
-                V total = product(top, w[0]);
-                for (size_t k = 1; k < known; ++k) total = sum(total, product(load(first[k] + i), w[k]));
-                if constexpr (Count::value == 0)
-                    for (Len k = 1; k < taps; ++k) total = sum(total, product(load(rowAt[k] + i), fill(weights[k])));
-                return total;
-            };
             std::array<V, sizeof(R) / sizeof(T)> all;
-            unrolled<int(sizeof(R) / sizeof(T))>([&](auto i) __attribute__((always_inline)) {
-                all[i] = mixed(x + i * lanes<R>);
-            });
+            const auto each = [&](auto value) __attribute__((always_inline)) {
+                unrolled<int(sizeof(R) / sizeof(T))>([&](auto i) __attribute__((always_inline)) {
+                    all[i] = value(all[i], x + i * lanes<R>);
+                });
+            };
+            const auto tap = [&](const A* row, V weight) __attribute__((always_inline)) {
+                each([&](V total, Len i)
+                         __attribute__((always_inline)) { return sum(total, product(load(row + i), weight)); });
+            };
+            if (Count::value == 1 || (Count::value == 0 && kind == Taps::one)) {
+                each([&](V, Len i) __attribute__((always_inline)) { return load(first[0] + i); });
+            } else if (Count::value == 2 || (Count::value == 0 && kind == Taps::two)) {
+                each([&, second = Count::value ? first[known - 1] : rowAt[1] ](V, Len i) __attribute__((
+                    always_inline)) { return between(load(first[0] + i), load(second + i), w[0]); });
+            } else {
+                each([&](V, Len i) __attribute__((always_inline)) { return product(load(first[0] + i), w[0]); });
+                for (size_t k = 1; k < known; ++k) tap(first[k], w[k]);
+                if constexpr (Count::value == 0)
+                    for (Len k = 1; k < taps; ++k) tap(rowAt[k], fill(weights[k]));
+            }
             return joined<T>(all);
         };
     }

@@ -4,6 +4,7 @@
 
 #include "geometry/resize.h"
 #include "geometry/resizerules.h"
+#include "geometry/rowlanes.h"
 #include "kernels/rounding.h"
 
 namespace zmv {
@@ -16,6 +17,7 @@ class TileFilter {
     using Weight = typename Rule::Weight;
     static constexpr int vectorsOfTaps = int(sizeof(U) / sizeof(A));
     using Lanes = Gather<T, U, vectorsOfTaps>;
+    static constexpr bool hasAcross = requires(const Rule& rule, const A* at) { rule.across(at, 0, 0); };
 
   public:
     TileFilter(const ResizeTile& tile, const Axis& columns, const Axis& rows, Image<const T> src, Image<T> dst)
@@ -26,6 +28,16 @@ class TileFilter {
         readableRows_ = readable(rows, tile.offset.y, tile.size.height, BORDER_IN_MEM_TOP, BORDER_IN_MEM_BOTTOM);
         gather_ = Lanes{n_, rule_.groups(), readableColumns_};
         reading_ = gather_.readingFor(columns, tile.offset.x, tile.offset.x + tile.size.width);
+        const Len bottom = tile.offset.y + tile.size.height;
+        lastRow_ = rows.end(bottom - 1) - 1;
+        const Len all = lastRow_ + 1 - rows.first(tile.offset.y);
+        allWanted_ = all <= tile.size.height * rows.shape.most;
+        if constexpr (hasAcross) across_ = columns.shape.kind == Taps::counted && allWanted_ && all >= lanes<A>;
+        if (across_) {  // where memory has room for more than a pixel
+            const Len some = tile.offset.x + std::min<Len>(tile.size.width, 8);
+            across_ = scratchBytes<Band>(*this, tile.offset.x, some) <=
+                      std::max<WideLen>(localBytes, resizeBufferBytes(tile.header, tile.size, n_));
+        }
     }
     void run() {
         inBands<Band>(*this, tile_, INT64_MAX, [&](Band& band) { work(band); });
@@ -39,16 +51,18 @@ class TileFilter {
     }
 
     // Elements from row to row of the ring.  Vectors may end behind a band where there is room.
-    static Len strideFor(Len elements) {
+    Len strideFor(Len elements) const {
+        if (across_) return (elements + lanes<A> - 1) / lanes<A> * lanes<A>;
         if (elements > lanes<A>) return (elements + 2 * lanes<A> - 1) / lanes<A> * lanes<A>;
         return (elements * Len(sizeof(A)) + 31) / 32 * 32 / Len(sizeof(A));
     }
-    // Rows of a ring: so many as a destination row takes; of narrow bands all, if none is in vain.
+    // Rows of a ring: so many as a destination row takes; of narrow bands all, if none is in vain; where rows are
+    // filtered together, those that are still wanted and a vector of new ones, which lie one behind the other.
     Len ringRows(Len stride) const {
-        const Len bottom = tile_.offset.y + tile_.size.height,
-                  all = rows_.end(bottom - 1) - rows_.first(tile_.offset.y), most = rows_.shape.most;
-        const Len near = std::min(all, 4096 / (stride * Len(sizeof(A))));
-        return all <= tile_.size.height * most ? std::max(most, near) : most;
+        const Len most = rows_.shape.most;
+        if (across_) return (most + 2 * lanes<A> - 2) / lanes<A> * lanes<A>;
+        const Len all = lastRow_ + 1 - rows_.first(tile_.offset.y);
+        return allWanted_ ? std::max(most, std::min(all, 4096 / (stride * Len(sizeof(A))))) : most;
     }
 
     struct Part {
@@ -61,18 +75,24 @@ class TileFilter {
         Len from, to, stride, ringRows;
         A* ring;
         const A** rowAt;
+        A* line = nullptr;  // of rows that are filtered together, the vectors of their columns
         Run runs[3];
-        int count;
+        int count = 0;
         Part parts[3];
         Len free = 0;  // where in the ring the next row goes
 
         Band(Scratch& scratch, const TileFilter& tile, Len begin, Len end)
             : from(begin),
               to(end),
-              stride(strideFor((to - from) * tile.n_)),
+              stride(tile.strideFor((to - from) * tile.n_)),
               ringRows(tile.ringRows(stride)),
               ring(scratch.take<A, 64>(ringRows * stride + lanes<T>)),  // results are made of more than there is
               rowAt(scratch.take<const A*, 8>(tile.rows_.shape.most + 1)) {
+            if (tile.across_) {
+                const Len columns = tile.columns_.end(to - 1) - tile.columns_.first(from);
+                line = scratch.take<A, 64>((columns * tile.n_ + lanes<A>)*lanes<A>);
+                return;
+            }
             const Lanes& gather = tile.gather_;
             count = gather.cut(tile.columns_, tile.reading_, from, to, runs);
             for (int i = 0; i < count; ++i) {
@@ -101,10 +121,10 @@ class TileFilter {
         Len filtered = INT64_MIN;  // rows before this one have been
         for (Len y = top; y < bottom; ++y) {
             const Len first = rows.first(y), end = rows.end(y);
-            if (filtered < end) {
+            while (filtered < end) {
                 const Len next = std::max(filtered, first);
                 // As many rows as the ring holds; where it holds more than a row of results takes, all are wanted.
-                filtered = std::min(first + ringRows, ringRows > most ? rows.end(bottom - 1) : end);
+                filtered = across_ ? next + lanes<A> : ringRows > most ? std::min(first + ringRows, lastRow_ + 1) : end;
                 filterRows(band, next, filtered);
             }
             Len slot = band.free - (filtered - first);
@@ -169,6 +189,8 @@ class TileFilter {
 
     // Rows from .. to of the source, into the ring.
     void filterRows(Band& band, Len from, Len to) const {
+        if constexpr (hasAcross)
+            if (across_) filterAcross(band, from);
         for (int i = 0; i < band.count; ++i) {
             const Part& part = band.parts[i];
             const auto along = [&]<Reading reading>(std::integral_constant<Reading, reading>) {
@@ -184,6 +206,36 @@ class TileFilter {
             if (part.run.reading == Reading::mapped) along(std::integral_constant<Reading, Reading::mapped>{});
         }
         band.free = (band.free + to - from) % band.ringRows;
+    }
+    // lanes<A> rows at once: each a lane of vectors that stand for columns.
+    void filterAcross(const Band& band, Len from) const {
+        constexpr Len rows = lanes<A>;
+        const T* at[rows];
+        for (Len r = 0; r < rows; ++r) at[r] = src_.row(readableRows_.at(std::min(from + r, lastRow_)));
+        const Len first = columns_.first(band.from), end = columns_.end(band.to - 1),
+                  inside = std::max(first, readableColumns_.from),
+                  outside = std::max(inside, std::min(end, readableColumns_.to));
+        intoLanes(at, inside * n_, (outside - inside) * n_, band.line + (inside - first) * n_ * rows);
+        const auto mapped = [&](Len j, Len stop) {
+            for (; j < stop; ++j)
+                for (Len e = 0; e < n_ * rows; ++e)
+                    band.line[(j - first) * n_ * rows + e] =
+                        A(get(at[e % rows] + readableColumns_.at(j) * n_ + e / rows));
+        };
+        mapped(first, std::min(inside, end)), mapped(outside, end);
+        const Rule rule = rule_;
+        const Len elements = (band.to - band.from) * n_;
+        A* const to = band.ring + band.free * band.stride;
+        alignas(64) A square[rows * rows];
+        Len x = band.from, c = 0;
+        for (Len e = 0; e < elements; e += rows) {
+            for (Len i = 0; i < rows; ++i) {
+                const A* const taps = band.line + ((columns_.first(x) - first) * n_ + c) * rows;
+                store(square + i * rows, rule.across(taps, n_ * rows, x));
+                if (e + i + 1 < elements && ++c == n_) c = 0, ++x;
+            }
+            turnSquare(square, to + e, band.stride);
+        }
     }
     template <Reading reading>
     void filterPart(const Band& band, const Part& part, Len fromRow, Len toRow) const {
@@ -228,6 +280,8 @@ class TileFilter {
     ReadableColumns readableColumns_{}, readableRows_{};
     Lanes gather_{};
     Reading reading_;  // of the whole tile
+    Len lastRow_;      // that is filtered
+    bool allWanted_, across_ = false;
 };
 
 // Which rule the bytes of an object are filtered by, and which numbers those of other types.
