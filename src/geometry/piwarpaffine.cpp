@@ -40,23 +40,12 @@ struct AffineWarp {
         return d != 0 && isFinite(d) && back.finite();
     }
 
-    struct Row {
-        double xx, x0, yx, y0;  // of a row's points
-        Row(const WarpHeader& h, Len y)
-            : xx(h.map[0]), x0(h.map[1] * double(y) + h.map[2]), yx(h.map[3]), y0(h.map[4] * double(y) + h.map[5]) {}
-    };
-    static void points(const WarpHeader& h, Len x, Len y, int count, double* xs, double* ys) {
-        const Row row(h, y);
-        eachVectorOfPixels(x, count, [&](int i, Vec<double> at) {
-            store(xs + i, row.xx * at + row.x0), store(ys + i, row.yx * at + row.y0);
-        });
-    }
-    static Span within(const WarpHeader& h, Len y, Span span, const Box& box, bool) {
-        const Row row(h, y);
-        return withinLine(row.yx, row.y0, box.top, box.bottom, withinLine(row.xx, row.x0, box.left, box.right, span));
+    static WarpLines lines(const WarpHeader& h, Len y) {
+        const double* const b = h.map;
+        return {{b[0], b[1] * double(y) + b[2] + 0.0}, {b[3], b[4] * double(y) + b[5] + 0.0}, {}};
     }
 };
-constexpr WarpMap affineMap{affineWarp, AffineWarp::points, AffineWarp::within};
+constexpr WarpMap affineMap{affineWarp, false, AffineWarp::lines, nullptr, nullptr};
 
 }  // namespace
 }  // namespace zmv

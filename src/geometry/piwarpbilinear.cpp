@@ -43,16 +43,11 @@ struct BilinearWarp {
         return !solves || least != 0;
     }
 
-    struct Line {
-        double slope, rest;
-        Line(const double* c, Len y) : slope(c[0] * double(y) + c[1]), rest(c[2] * double(y) + c[3]) {}
-    };
-    static void points(const WarpHeader& h, Len x, Len y, int count, double* xs, double* ys) {
-        if (h.forward) return solvedPoints(h, x, y, count, xs, ys);
-        const Line column(h.map, y), row(h.map + 4, y);
-        eachVectorOfPixels(x, count, [&](int i, Vec<double> at) {
-            store(xs + i, column.slope * at + column.rest), store(ys + i, row.slope * at + row.rest);
-        });
+    static WarpLines lines(const WarpHeader& h, Len y) {
+        const auto line = [&](const double* c) {
+            return WarpLine{c[0] * double(y) + c[1], c[2] * double(y) + c[3] + 0.0};
+        };
+        return {line(h.map), line(h.map + 4), {}};
     }
     static void solvedPoints(const WarpHeader& h, Len x, Len y, int count, double* xs, double* ys) {
         using V = Vec<double>;
@@ -72,12 +67,6 @@ struct BilinearWarp {
         });
     }
 
-    static Span within(const WarpHeader& h, Len y, Span span, const Box& box, bool surely) {
-        if (h.forward) return solvedWithin(h, y, span, box, surely);
-        const Line column(h.map, y), row(h.map + 4, y);
-        return withinLine(row.slope, row.rest, box.top, box.bottom,
-                          withinLine(column.slope, column.rest, box.left, box.right, span));
-    }
     // A box where the Jacobian keeps its sign becomes a convex quadrangle, of which a row is one piece, between two of
     // its edges; and edges stay straight.  To be sure of what solving makes of pixels beside it, the box is a pixel
     // larger than asked, which is more than all errors of what is solved for points in it.
@@ -128,7 +117,8 @@ struct BilinearWarp {
         return error * (1 + 2 * slope * slope / jacobian) < 0.5;
     }
 };
-constexpr WarpMap bilinearMap{bilinearWarp, BilinearWarp::points, BilinearWarp::within};
+constexpr WarpMap bilinearMap{bilinearWarp, false, BilinearWarp::lines, BilinearWarp::solvedPoints,
+                              BilinearWarp::solvedWithin};
 
 }  // namespace
 }  // namespace zmv

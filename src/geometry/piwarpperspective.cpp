@@ -26,12 +26,9 @@ struct PerspectiveWarp {
               error(0x1p-48 * (magnitude(b[0]) * farthest + (magnitude(b[1] * double(y)) + magnitude(b[2])))) {}
         double at(Len x) const { return slope * double(x) + rest; }
     };
-    static void points(const WarpHeader& h, Len x, Len y, int count, double* xs, double* ys) {
-        const Line n(h.map, y, 0), m(h.map + 3, y, 0), d(h.map + 6, y, 0);
-        eachVectorOfPixels(x, count, [&](int i, Vec<double> at) {
-            const auto over = d.slope * at + d.rest;
-            store(xs + i, (n.slope * at + n.rest) / over), store(ys + i, (m.slope * at + m.rest) / over);
-        });
+    static WarpLines lines(const WarpHeader& h, Len y) {
+        const auto line = [&](const double* b) { return WarpLine{b[0], b[1] * double(y) + b[2]}; };
+        return {line(h.map), line(h.map + 3), line(h.map + 6)};
     }
     // Where d keeps its sign, n / d >= v is n - v d >= 0 or the opposite, which changes once along a row.
     static Span within(const WarpHeader& h, Len y, Span span, const Box& box, bool surely) {
@@ -50,7 +47,7 @@ struct PerspectiveWarp {
         return span;
     }
 };
-constexpr WarpMap perspectiveMap{perspectiveWarp, PerspectiveWarp::points, PerspectiveWarp::within};
+constexpr WarpMap perspectiveMap{perspectiveWarp, true, PerspectiveWarp::lines, nullptr, PerspectiveWarp::within};
 
 }  // namespace
 }  // namespace zmv

@@ -57,7 +57,7 @@ class MapSampler : public Sampler<Kernel, T, n> {
     // What has been set, up to `count` points.
     void fetch(int count) {
         if (roomy_)
-            for (int i = 0; i < count; ++i) this->take(i, pixelOf(i), from_.image.step);
+            for (int i = 0; i < count; ++i) this->take(i, this->rowsFrom(pixelOf(i), from_.image.step), 0);
         if (!anyOf(anyCut_)) return;
         for (int i = 0; i < count; ++i)
             if (cut_[i]) takeCut(i);

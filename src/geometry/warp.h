@@ -1,5 +1,5 @@
 // What the entries of all warps share: a call whose arguments are checked, and its memory.  A map adds what its object
-// holds and two functions of a destination row: where its pixels come from, and which of them can come from a box.
+// holds and where a destination row's pixels come from: lines, which tell what comes from a box too, or two functions.
 #pragma once
 
 #include "geometry/warprows.h"

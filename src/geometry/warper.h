@@ -5,7 +5,7 @@
 #include "geometry/pointwriter.h"
 #include "geometry/positions.h"
 #include "geometry/warpmove.h"
-#include "kernels/simd_whole.h"
+#include "geometry/warppoints.h"
 
 namespace zmv {
 
@@ -18,10 +18,9 @@ class Warper {
     using Pixels = Sampler<Kernel, T, layout.channels>;
     using Writer = PointWriter<layout, T, Kernel::between>;
     static constexpr int n = layout.channels, pixel = n * int(sizeof(T)), taps = Kernel::taps, before = Kernel::before;
-    static constexpr int most = Pixels::most, mostChecked = std::min(most, 64),
-                         doubles = int(sizeof(double) / sizeof(float)), group = lanes<int32_t>;
+    static constexpr int most = Pixels::most, mostChecked = std::min(most, 64), group = WarpPoints::group,
+                         part = std::min(most, WarpPoints::part);
     static constexpr double mostDistance = 4503599627370496.0;  // what a double counts, and more
-    static_assert(most % group == 0 && 2 * (most + 64 + group) <= 2 * WarpMemory::points);
 
   public:
     Warper(const WarpJob<T>& job, const Kernel& kernel)
@@ -44,26 +43,43 @@ class Warper {
         const Len x0 = job_.offset.x, y0 = job_.offset.y;
         for (Len y = 0; y < job_.size.height; ++y)
             memory.rows[y] = reach_.row(job_.header, job_.map, y0 + y, {x0, x0 + job_.size.width});
-        xs_ = memory.x, ys_ = memory.y;
+        xs_ = memory.x + WarpMemory::points / 2, ys_ = memory.y + WarpMemory::points / 2;
+        WarpPoints points(job_.header, job_.map, x0, memory);
+        points_ = &points;
         const bool moves = job_.header.moves;
-        eachTileRow(job_.size, moves ? Roi(job_.size.width, 1) : Roi(64, 64), [&](Len y, Len left, Len end) {
-            const WarpRow& row = memory.rows[y];
-            const Span piece{x0 + left, x0 + end}, looked = clipped(row.looked, piece),
-                                                   inner = clipped(row.inner, looked);
-            T* const dst = job_.dst.row(y);
-            if (constant_) putConstant(dst, {piece.from, looked.from}), putConstant(dst, {looked.to, piece.to});
-            look(y0 + y, dst, {looked.from, inner.from});
-            if (!moves || inner.empty() || !warpMoved<layout, Kernel>(job_, y0 + y, at(dst, inner.from), inner))
-                gather(y0 + y, dst, inner);
-            look(y0 + y, dst, {inner.to, looked.to});
-        });
+        eachTileRow(job_.size, moves ? Roi(job_.size.width, 1) : Roi(WarpPoints::part, 64),
+                    [&](Len y, Len left, Len end) {
+                        const WarpRow& row = memory.rows[y];
+                        const Span piece{x0 + left, x0 + end};
+                        T* const dst = job_.dst.row(y);
+                        if (row.inner.from <= piece.from && piece.to <= row.inner.to && !moves)
+                            gather(y0 + y, dst, piece);
+                        else
+                            walk(y0 + y, dst, piece, row);
+                    });
         flush();
     }
 
   private:
+    // A row's part in a tile of the destination.
+    __attribute__((noinline)) void walk(Len y, T* dst, Span piece, const WarpRow& row) {
+        const Span looked = clipped(row.looked, piece), inner = clipped(row.inner, looked);
+        if (constant_) putConstant(dst, {piece.from, looked.from}), putConstant(dst, {looked.to, piece.to});
+        look(y, dst, {looked.from, inner.from});
+        if (!job_.header.moves || inner.empty() || !warpMoved<layout, Kernel>(job_, y, at(dst, inner.from), inner))
+            gather(y, dst, inner);
+        look(y, dst, {inner.to, looked.to});
+    }
     static constexpr int reach = taps == 4 ? 2 : 1;
     // Pixels of three channels are copied with part of the next, which follows.
     static constexpr int quick = taps > 1 || n != 3 ? pixel : pixel / 3 * 4;
+
+    struct Piece {
+        T* dst;            // the tile's row
+        Len x, y;          // the first pixel
+        int first, count;  // points among those that are gathered
+        bool inside;
+    };
 
     // Whether the constant comes out where all that is no constant counts nothing, which is how points beyond the
     // region's left and upper edge are looked at.  Real pixels may be infinite, and wild weights have no exact sum.
@@ -73,10 +89,11 @@ class Warper {
         return taps == 1 || (std::is_integral_v<T> && (taps == 2 || tame));
     }
 
-    // Whether doubles count the bytes from the source's first pixel to the region's last.
+    // Whether doubles count the bytes from the source's first pixel to the region's last, and 32 bits its sides.
     static bool isNear(const WarpJob<T>& job) {
         const WarpHeader& h = job.header;
-        return double(h.top + h.height) * double(job.src.step) + double(h.left + h.width) * pixel < mostDistance / 2;
+        return double(h.top + h.height) * double(job.src.step) + double(h.left + h.width) * pixel < mostDistance / 2 &&
+               std::max(h.top + h.height, h.left + h.width) <= Len(1) << 31;
     }
     // Pixel x of the whole destination in a row of the tile.
     T* at(T* row, Len x) const { return row + (x - job_.offset.x) * n; }
@@ -85,109 +102,105 @@ class Warper {
     }
     // A part of a row, at most a tile's width, looked at point by point.
     void look(Len y, T* dst, Span span) {
-        double *const xs = xs_ + most, *const ys = ys_ + most;  // behind what is gathered
         for (Len x = span.from; x < span.to; x += mostChecked) {
             const int count = int(std::min<Len>(mostChecked, span.to - x));
-            job_.map.points(job_.header, x, y, count, xs, ys);
-            checked(xs, ys, at(dst, x), count);
+            pointsOf(job_.header, job_.map, x, y, count, xs_, ys_);
+            checked(xs_, ys_, at(dst, x), count);
         }
     }
-    // A part where kernels lie inside: worked together with others, as many as a block has room for.
+    // A part where kernels lie inside, as far as the map is exact: worked together with others, as many as a block has
+    // room for.
     void gather(Len y, T* dst, Span span) {
         for (Len x = span.from; x < span.to;) {
-            const int count = int(std::min<Len>(most, span.to - x)), room = count + (-count & (group - 1));
+            const Len end = std::min(span.to, x + part - (x - job_.offset.x) % part);
+            const int count = int(end - x), room = std::max(count, group);
             if (gathered_ + room > most || pieces_ == mostPieces) flush();
-            double *const xs = xs_ + gathered_, *const ys = ys_ + gathered_;
-            job_.map.points(job_.header, x, y, count, xs, ys);
-            if (!job_.header.exact && !allInner(xs, ys, count)) {
-                look(y, dst, {x, x + count});
-            } else if constexpr (taps == 1) {
-                copied(at(dst, x), count);
-            } else {
-                for (int i = count; i < room; ++i) xs[i] = xs[count - 1], ys[i] = ys[count - 1];
-                piece_[pieces_++] = {at(dst, x), gathered_, count}, gathered_ += room;
-            }
-            x += count;
+            piece_[pieces_++] = {dst, x, y, gathered_, count, true}, gathered_ += room;
+            x = end;
         }
     }
     void flush() {
-        if constexpr (taps > 1)
-            if (pieces_ > 0) fetched();
+        if (pieces_ > 0) fetched();
         gathered_ = pieces_ = 0;
     }
-    // Of points that are near each other the ends may be looked at twice.
-    bool allInner(const double* xs, const double* ys, int count) const {
-        const Box& box = reach_.inner;
-        if (count < lanes<double>) return false;
+
+    // Where a piece's kernels start, and the fractions, group by group, the last one moved back to end with the piece:
+    // each(i) behind every group.  Says whether all kernels lie inside; those that do not are moved there.
+    template <bool exact, class Each>
+    ZMV_INLINE bool locate(const Piece& piece, const Each& each) {
+        const Box box = reach_.inner;
+        const auto points = points_->row(piece.x, piece.y, piece.count);
+        const Reals step = fill(double(step_));
+        const Len first = piece.first, last = std::max(piece.count - group, 0);
         Vec<uint64_t> all = ~Vec<uint64_t>{};
-        for (int i = 0; i < count; i += lanes<double>) {
-            const int at = std::min(i, count - lanes<double>);
-            const Reals x = load(xs + at), y = load(ys + at);
-            all &= (Vec<uint64_t>)(x >= box.left) & (Vec<uint64_t>)(x <= box.right);
-            all &= (Vec<uint64_t>)(y >= box.top) & (Vec<uint64_t>)(y <= box.bottom);
+        for (Len i = 0;; i = std::min(i + group, last)) {
+            unrolled<group / lanes<double>>([&](auto k) __attribute__((always_inline)) {
+                Reals x, y;
+                points.template points<!exact>(i + k * lanes<double>, x, y);
+                if constexpr (!exact) {
+                    const Reals inX = larger(smaller(x, fill(box.right)), fill(box.left)),
+                                inY = larger(smaller(y, fill(box.bottom)), fill(box.top));
+                    all &= (Vec<uint64_t>)(x == inX) & (Vec<uint64_t>)(y == inY);
+                    x = inX, y = inY;
+                }
+                // Halves go up: of numbers below one half no sum reaches one, of others each does.
+                if constexpr (taps == 1) x += fill(0x1.fffffffffffffp-2), y += fill(0x1.fffffffffffffp-2);
+                const Reals column = wholePart(x), row = wholePart(y);
+                const Len at = first + i + k * lanes<double>;
+                store(at_ + at, row * step + (column * double(pixel) + mostDistance));
+                if constexpr (taps > 1) pixels_.setFractions(at, x - column, y - row);
+            });
+            each(first + i);
+            if (i == last) break;
         }
         return allZero(~all);
     }
-
-    // Where the pixels under the kernels of a group of points start, and the fractions.
-    struct Distances {
-        Reals step;
-        Vec<uint64_t> bias;
-    };
-    Distances distances() const {
-        // A number of bytes beside 2^52 has its bits in the last places.
-        return {fill(double(step_)), fill(reinterpret_cast<uint64_t>(job_.src.data) -
-                                          std::bit_cast<uint64_t>(mostDistance) - uint64_t(before * (step_ + pixel)))};
-    }
-    ZMV_INLINE void locate(const Distances& d, int i) {
-        Reals fx[doubles], fy[doubles];
-        unrolled<doubles>([&](auto k) __attribute__((always_inline)) {
-            const int at = i + k * lanes<double>;
-            const Reals x = load(xs_ + at), y = load(ys_ + at);
-            // Halves go up: of numbers below one half no sum reaches one, of others each does.
-            const Reals half = fill(taps == 1 ? 0x1.fffffffffffffp-2 : 0.0);
-            const Reals column = wholePart(taps == 1 ? x + half : x), row = wholePart(taps == 1 ? y + half : y);
-            fx[k] = x - column, fy[k] = y - row;
-            store(at_ + at, (Vec<uint64_t>)(row * d.step + (column * double(pixel) + mostDistance)) + d.bias);
-        });
-        if constexpr (taps > 1 && sizeof(W) == 4)
-            pixels_.setFractions(i, roundToFloat(fx[0], fx[1]), roundToFloat(fy[0], fy[1]));
-        else if constexpr (taps > 1)
-            unrolled<doubles>([&](auto k) __attribute__((always_inline)) {
-                pixels_.setFractions(i + k * lanes<double>, fx[k], fy[k]);
-            });
-    }
-    // The points that have been gathered, and those that fill groups, which are others once more.  Pixels are fetched a
-    // group behind where they are located, so that both are worked on at a time.
+    // The points that have been gathered.  Pixels are fetched a group behind where they are located, so that both are
+    // worked on at a time.
     void fetched() {
-        const Distances d = distances();
-        const Len rows = step_;
-        const auto fetch = [&](int first) __attribute__((always_inline)) {
-            for (int i = first; i < first + group; i += 4)
-                unrolled<4>([&](auto k) __attribute__((always_inline)) {
-                    pixels_.take(i + k, reinterpret_cast<const uint8_t*>(at_[i + k]), rows);
-                });
+        // A number of bytes beside 2^52 has its bits in the last places.
+        const auto rows =
+            Pixels::rowsFrom(reinterpret_cast<uint64_t>(job_.src.data) - std::bit_cast<uint64_t>(mostDistance) -
+                                 uint64_t(before * (step_ + pixel)),
+                             step_);
+        const auto fetch = [&](Len first) __attribute__((always_inline)) {
+            if constexpr (taps > 1)
+                for (Len i = first; i < first + group; i += 4)
+                    unrolled<4>([&](auto k) __attribute__((always_inline)) {
+                        pixels_.take(i + k, rows, std::bit_cast<uint64_t>(at_[i + k]));
+                    });
         };
-        locate(d, 0);
-        for (int i = group; i < gathered_; i += group) locate(d, i), fetch(i - group);
-        fetch(gathered_ - group);
+        Len behind = piece_[0].first;
+        const auto fetchBehind = [&](Len i) __attribute__((always_inline)) {
+            if (i != behind) fetch(behind);
+            behind = i;
+        };
         for (int p = 0; p < pieces_; ++p)
-            Writer::write(
-                piece_[p].dst, piece_[p].count, nullptr,
-                [&, start = piece_[p].first ](int first, const T*, V* to)
-                    __attribute__((always_inline)) { pixels_.values(start + first, n, to); });
-    }
-    void copied(T* dst, int count) {
-        const Distances d = distances();
-        const auto copy = [&]<int bytes>(int i) __attribute__((always_inline)) {
-            copyPixel<bytes>(dst + i * n, reinterpret_cast<const void*>(at_[i]));
-        };
-        const int last = count - 1;
-        int i = 0;
-        for (locate(d, 0); i + group <= last; i += group) {
-            locate(d, i + group);
-            unrolled<group>([&](auto k) __attribute__((always_inline)) { copy.template operator()<quick>(i + k); });
+            piece_[p].inside =
+                job_.header.exact ? locate<true>(piece_[p], fetchBehind) : locate<false>(piece_[p], fetchBehind);
+        fetch(behind);
+        for (int p = 0; p < pieces_; ++p) {
+            const Piece& piece = piece_[p];
+            T* const dst = at(piece.dst, piece.x);
+            if (!piece.inside)
+                look(piece.y, piece.dst, {piece.x, piece.x + piece.count});
+            else if constexpr (taps == 1)
+                copied(dst, at_ + piece.first, piece.count, rows[0]);
+            else
+                Writer::write(
+                    dst, piece.count, nullptr, [&](int first, const T*, V* to) __attribute__((always_inline)) {
+                        pixels_.values(piece.first + first, n, to);
+                    });
         }
+    }
+    static ZMV_INLINE void copied(T* dst, const double* from, int count, uint64_t row) {
+        const int last = count - 1;
+        const auto copy = [&]<int bytes>(int i) __attribute__((always_inline)) {
+            copyPixel<bytes>(dst + i * n, reinterpret_cast<const void*>(row + std::bit_cast<uint64_t>(from[i])));
+        };
+        int i = 0;
+        for (; i + 4 <= last; i += 4)
+            unrolled<4>([&](auto k) __attribute__((always_inline)) { copy.template operator()<quick>(i + k); });
         for (; i < last; ++i) copy.template operator()<quick>(i);
         copy.template operator()<pixel>(last);
     }
@@ -234,7 +247,7 @@ class Warper {
         alone_[point] =
             Mask(-int64_t(constant_ && (column + taps <= 0 || column >= width || row + taps <= 0 || row >= height)));
         if (column >= 0 && column + taps + Pixels::readsBehind <= width && row >= 0 && row + taps <= height)
-            pixels_.take(point, origin_ + row * step_ + column * pixel, step_);
+            pixels_.take(point, Pixels::rowsFrom(origin_ + row * step_ + column * pixel, step_), 0);
         else
             pixels_.takeEach(point, [&](int i, int j, uint8_t* to) { copyPixelOf(column + i, row + j, to); });
     }
@@ -252,15 +265,12 @@ class Warper {
     const bool transparent_, constant_, smooth_;
     Pixels pixels_;
     Bits<T> value_[n] = {};
-    struct Piece {
-        T* dst;
-        int first, count;  // points among those that are gathered
-    };
     static constexpr int mostPieces = 16;
     Piece piece_[mostPieces];
     int pieces_ = 0, gathered_ = 0;
-    double *xs_ = nullptr, *ys_ = nullptr;
-    alignas(64) uint64_t at_[most];
+    double *xs_ = nullptr, *ys_ = nullptr;  // of points that are looked at one by one
+    WarpPoints* points_ = nullptr;
+    alignas(64) double at_[most];
     alignas(64) W ax_[mostChecked], ay_[mostChecked];
     alignas(64) Mask chosen_[mostChecked], alone_[mostChecked];
 };

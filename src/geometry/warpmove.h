@@ -41,17 +41,15 @@ void moveRow(const uint8_t* from, Len step, T* dst, Len elements, Formed<T> fx, 
 template <Layout layout, class Kernel, class T>
 bool warpMoved(const WarpJob<T>& job, Len y, T* dst, Span span) {
     using W = Formed<T>;
-    constexpr int taps = Kernel::taps, n = layout.channels, group = lanes<int32_t>;
+    constexpr int taps = Kernel::taps, n = layout.channels;
     if constexpr (taps > 2) {
         return false;
     } else {
-        double end[2 * group];
-        job.map.points(job.header, span.from, y, 1, end, end + group);
-        const double x = end[0], row = end[group];
-        job.map.points(job.header, span.to - 1, y, 1, end, end + group);
+        const WarpLines lines = job.map.lines(job.header, y);
+        const double x = lines.column.at(double(span.from)), row = lines.row.at(double(span.from));
         // What sums with whole numbers may be rounded by, on the way from one end to the other; where they swallow all
         // that is beside a whole number or a half, they go on to do so.
-        const double error = 0x1p-51 * (x + end[0]), split = taps == 1 ? 0.5 : 0;
+        const double error = 0x1p-51 * (x + lines.column.at(double(span.to - 1))), split = taps == 1 ? 0.5 : 0;
         double column = roundedDown(x), line = roundedDown(row);
         const double fx = x - column, fy = row - line;
         const bool sure = fx == split || magnitude(fx - split) > 2 * error;

@@ -22,13 +22,30 @@ struct Box {
     double left, right, top, bottom;
 };
 
+// Along a row of pixels: slope X + rest.
+struct WarpLine {
+    double slope, rest;
+    template <class V>
+    ZMV_INLINE V at(V x) const {
+        return slope * x + rest;
+    }
+};
+// Where the points of a row are: on two lines, or where these come to when divided by a third.
+struct WarpLines {
+    WarpLine column, row, over;
+};
+
 struct WarpMap {
     WarpKind kind;
-    // The points of pixels x, x + 1 .. of row y, in whole groups of lanes<int32_t>.
+    bool divides;
+    // Of maps that divide, and of others as far as their objects are exact; no rest of those is -0, nor any point.
+    WarpLines (*lines)(const WarpHeader&, Len y);
+    // Where there are no lines: the points of pixels x, x + 1 .. of row y, in whole groups of lanes<int32_t>.
     void (*points)(const WarpHeader&, Len x, Len y, int count, double* xs, double* ys);
-    // Pixels of a row whose points lie in the box: exactly those where the object says that it tells; elsewhere all of
-    // those and some beside, or when asked `surely` none but those, as far as rounding allows.
+    // Of objects that are not exact: all pixels of a row whose points lie in the box and some beside, or when asked
+    // `surely` none but those, as far as rounding allows.
     Span (*within)(const WarpHeader&, Len y, Span row, const Box&, bool surely);
+    bool hasLines(const WarpHeader& h) const { return divides || h.exact; }
 };
 
 // points(i, X) for a vector of pixels at a time, as many as a map's `points` has to give.
@@ -38,6 +55,18 @@ ZMV_INLINE void eachVectorOfPixels(Len x, int count, const Points& points) {
     for (int k = 0; k < lanes<double>; ++k) at[k] = double(x + k);
     for (int i = 0; i < count; i += lanes<int32_t>)
         for (int k = 0; k < lanes<int32_t>; k += lanes<double>, at += lanes<double>) points(i + k, at);
+}
+inline void pointsOf(const WarpHeader& h, const WarpMap& map, Len x, Len y, int count, double* xs, double* ys) {
+    if (!map.hasLines(h)) return map.points(h, x, y, count, xs, ys);
+    const WarpLines lines = map.lines(h, y);
+    eachVectorOfPixels(x, count, [&](int i, Vec<double> at) {
+        Vec<double> px = lines.column.at(at), py = lines.row.at(at);
+        if (map.divides) {
+            const Vec<double> by = lines.over.at(at);
+            px /= by, py /= by;
+        }
+        store(xs + i, px), store(ys + i, py);
+    });
 }
 
 // The first of from .. to - 1 for which `is`, which stays true once it is; to where there is none.  Near the guess it
@@ -78,8 +107,9 @@ Len firstWhere(Len from, Len to, double guess, const Is& is) {
 }
 // The numbers X of a span for which slope * X + rest, as it is rounded, lies from least to most: products and sums
 // never change their order by being rounded, so that these are neighbours.
-inline Span withinLine(double slope, double rest, double least, double most, Span span) {
-    const auto value = [&](Len x) { return slope * double(x) + rest; };
+inline Span withinLine(const WarpLine& line, double least, double most, Span span) {
+    const auto [slope, rest] = line;
+    const auto value = [&](Len x) { return line.at(double(x)); };
     if (!isFinite(rest) || span.empty()) return {span.from, span.from};
     const auto inside = [&](Len x) { return value(x) >= least && value(x) <= most; };
     if (inside(span.from) && inside(span.to - 1)) return span;
@@ -95,7 +125,9 @@ inline Span withinLine(double slope, double rest, double least, double most, Spa
 // The numbers X of a span for which slope * X + rest is not negative, but for an error of both: some more, or when
 // asked `surely` some less.  What is no number says nothing.
 inline Span withinHalf(double slope, double rest, double error, Span span, bool surely) {
-    const double end = -(surely ? rest - error : rest + error) / slope;
+    const double some = surely ? rest - error : rest + error;
+    if (some + slope * double(span.from) >= 0 && some + slope * double(span.to - 1) >= 0) return span;
+    const double end = -some / slope;
     const double less = roundedDown(end), more = surely ? 2 : -1;
     if (slope == 0 && rest + error < 0) return {span.from, span.from};
     if (slope > 0 && less + more > double(span.from))
@@ -160,8 +192,17 @@ struct WarpReach {
         anyInner = isNear && inner.left <= inner.right && inner.top <= inner.bottom;
     }
     WarpRow row(const WarpHeader& h, const WarpMap& map, Len y, Span span) const {
-        const Span some = all ? span : clipped(map.within(h, y, span, looked, false), span);
-        return {some, anyInner ? clipped(map.within(h, y, some, inner, true), some) : Span{some.from, some.from}};
+        const WarpLines lines = h.exact ? map.lines(h, y) : WarpLines{};
+        const auto within = [&](Span from, const Box& box, bool surely) {
+            return clipped(h.exact ? withinLine(lines.row, box.top, box.bottom,
+                                                withinLine(lines.column, box.left, box.right, from))
+                                   : map.within(h, y, from, box, surely),
+                           from);
+        };
+        const Span first = anyInner ? within(span, inner, true) : Span{span.from, span.from};
+        if (first.from == span.from && first.to == span.to) return {span, span};
+        const Span some = all ? span : within(span, looked, false);
+        return {some, clipped(first, some)};
     }
 };
 

@@ -10,6 +10,7 @@
 
 #include "kernels/interpolation.h"
 #include "kernels/readable.h"
+#include "kernels/simd_whole.h"
 
 namespace zmv {
 
@@ -21,17 +22,15 @@ class Sampler {
 
   private:
     static constexpr int taps = Kernel::taps, pixel = n * int(sizeof(T)), run = taps * pixel;
-    // The pixels of a row come in words of 8 bytes, or of a lane's where they are fewer; the last one ends where they
-    // end, so that no other byte is read, but for six bytes, which are read as eight.  Where all rows fit a lane they
-    // share it.
+    // The pixels of a row come in words of 8 bytes, of 2 bytes where they are as many, or of a lane's; the last one
+    // ends where they end, so that no other byte is read, but for six bytes, which are read as eight.
     static constexpr int lane = int(sizeof(W)), filled = taps == 2 && run == 6 ? 8 : run;
-    using Word = std::conditional_t<filled >= 8, uint64_t, Bits<W>>;
+    using Word = std::conditional_t<filled >= 8, uint64_t, std::conditional_t<filled == 2, uint16_t, Bits<W>>>;
     static constexpr int wordBytes = int(sizeof(Word)), words = (filled + wordBytes - 1) / wordBytes;
-    static constexpr bool together = taps > 1 && taps* run <= lane;
     static constexpr int fewest = std::max(lanes<T>, lanes<W>);
 
   public:
-    static constexpr int pointBytes = (together ? 1 : taps) * words * wordBytes;
+    static constexpr int pointBytes = taps * words * wordBytes;
     // Of few points much of the time passes until what was fetched has settled.
     static constexpr int most = [] {
         int points = 256;
@@ -44,33 +43,38 @@ class Sampler {
 
     explicit Sampler(const Kernel& kernel) : kernel_(kernel) {}
 
-    // A vector of points' fractions.
-    ZMV_INLINE void setFractions(int first, V fx, V fy) { store(fx_ + first, fx), store(fy_ + first, fy); }
+    // The fractions of some points, which may be double.
+    template <class Reals>
+    ZMV_INLINE void setFractions(Len first, Reals fx, Reals fy) {
+        storeAs(fx_ + first, fx), storeAs(fy_ + first, fy);
+    }
     ZMV_INLINE void setFraction(int point, W fx, W fy) { fx_[point] = fx, fy_[point] = fy; }
-    // A point's pixels, from the first under the kernel on.
-    ZMV_INLINE void take(int point, const uint8_t* p, Len step) {
-        if constexpr (together) {
-            Word word = 0;
-            unrolled<taps>([&](auto j) {
-                word |= Word(get(reinterpret_cast<const Run*>(p))) << (8 * run * j);
-                p += step;
+
+    // Where the rows of pixels under a kernel are, but for what all of a point's addresses have in common.
+    using Rows = std::array<uint64_t, taps>;
+    static ZMV_INLINE Rows rowsFrom(uint64_t first, Len step) {
+        Rows rows;
+        for (size_t j = 0; j < taps; ++j) rows[j] = first + j * uint64_t(step);
+        return rows;
+    }
+    static ZMV_INLINE Rows rowsFrom(const uint8_t* first, Len step) {
+        return rowsFrom(reinterpret_cast<uint64_t>(first), step);
+    }
+    // A point's pixels, the first of each row being `at` bytes behind the row.
+    ZMV_INLINE void take(Len point, const Rows& rows, uint64_t at) {
+        unrolled<taps>([&](auto j) {
+            unrolled<words>([&](auto w) {
+                const auto p = reinterpret_cast<const uint8_t*>(rows[j] + at);
+                if constexpr (filled < wordBytes) {
+                    Word word = 0;
+                    __builtin_memcpy(&word, p, run);
+                    words_[j][w][point] = word;
+                } else {
+                    words_[j][w][point] =
+                        get(reinterpret_cast<const Word*>(p + std::min(w * wordBytes, filled - wordBytes)));
+                }
             });
-            words_[0][0][point] = word;
-        } else {
-            unrolled<taps>([&](auto j) {
-                unrolled<words>([&](auto w) {
-                    if constexpr (filled < wordBytes) {
-                        Word word = 0;
-                        __builtin_memcpy(&word, p, run);
-                        words_[j][w][point] = word;
-                    } else {
-                        words_[j][w][point] =
-                            get(reinterpret_cast<const Word*>(p + std::min(w * wordBytes, filled - wordBytes)));
-                    }
-                });
-                p += step;
-            });
-        }
+        });
     }
     // The same where they are not to be read as they lie: copyPixel(i, j, to) gives that of column i and row j.
     template <class CopyPixel>
@@ -78,7 +82,7 @@ class Sampler {
         uint8_t copy[taps * run + filled - run] = {};
         for (int j = 0; j < taps; ++j)
             for (int i = 0; i < taps; ++i) copyPixel(i, j, copy + j * run + i * pixel);
-        take(point, copy, run);
+        take(point, rowsFrom(copy, run), 0);
     }
     // The first `used` channels of a vector of points.
     ZMV_INLINE void values(int first, int used, V* to) const {
@@ -91,8 +95,6 @@ class Sampler {
     }
 
   private:
-    using Run = typename UnsignedOf<together ? run : 1>::type;
-
     template <class Weights>
     ZMV_INLINE V value(int first, int c, const Weights& across, const Weights& down) const {
         constexpr bool real = std::is_floating_point_v<T>;
@@ -112,29 +114,29 @@ class Sampler {
     // Channel c of pixel i of row j.
     ZMV_INLINE V at(int first, int j, int i, int c) const {
         using Lanes = Vec<Bits<W>>;
-        const int byte = (together ? j * run : 0) + (i * n + c) * int(sizeof(T));
-        const int word = together ? 0 : byte / wordBytes,
-                  start = together ? 0 : std::min(word * wordBytes, std::max(filled - wordBytes, 0));
-        const Word* const from = words_[together ? 0 : j][word] + first;
+        const int byte = (i * n + c) * int(sizeof(T)), word = byte / wordBytes,
+                  start = std::min(word * wordBytes, std::max(filled - wordBytes, 0)), below = (byte - start) % lane;
+        const Word* const from = words_[j][word] + first;
         Lanes v;
-        if constexpr (wordBytes == lane) {
-            v = (Lanes)load(from);
+        if constexpr (wordBytes <= lane) {
+            v = loadWiden<Bits<W>>(from);
         } else {
             const auto low = (Lanes)load(from), high = (Lanes)load(from + lanes<Word>);
             v = byte - start < lane ? permute<Half<0>>(low, high) : permute<Half<1>>(low, high);
         }
-        const int above = 8 * (lane - int(sizeof(T)) - (byte - start) % lane);  // bits over the element
+        const int above = lane - int(sizeof(T)) - below;  // bytes over the element
         if constexpr (sizeof(T) == sizeof(W))
             return (V)v;
         else if constexpr (std::is_signed_v<T>)
-            return toFloat(asSigned(v << above) >> (8 * (lane - int(sizeof(T)))));
+            return toFloat(asSigned(v << (8 * above)) >> (8 * (lane - int(sizeof(T)))));
         else
-            return toFloat(asSigned(v << above >> (8 * (lane - int(sizeof(T))))));
+            return toFloat(
+                asSigned(above > lane - wordBytes ? v << (8 * above) >> (8 * (above + below)) : v >> (8 * below)));
     }
 
     const Kernel kernel_;
     alignas(64) W fx_[most], fy_[most];
-    alignas(64) Word words_[together ? 1 : taps][words][most];
+    alignas(64) Word words_[taps][words][most];
 };
 
 }  // namespace zmv

@@ -5,7 +5,7 @@
 
 namespace zmv {
 
-// The whole part of numbers from 0 to 2^51 and of -0, to nearest being how the processor rounds; of others something.
+// The whole part of numbers from 0 to below 2^31; of -0 a zero.
 template <class V>
 ZMV_INLINE V wholePart(V v) {
     static_assert(std::is_same_v<Element<V>, double>);
@@ -15,11 +15,24 @@ ZMV_INLINE V wholePart(V v) {
 #if defined(__AVX2__)
     if constexpr (sizeof(V) == 32) return (V)_mm256_round_pd((__m256d)v, _MM_FROUND_TO_ZERO | _MM_FROUND_NO_EXC);
 #endif
-    using Places = Vec<uint64_t, sizeof(V)>;
-    constexpr double lastPlace = 4503599627370496.0;
-    const V near = v + lastPlace - lastPlace;
-    const auto one = (Places)fill<double, sizeof(V)>(1), sign = (Places)fill<double, sizeof(V)>(-0.0);
-    return (V)((Places)(near - (V)((Places)(near > v) & one)) | ((Places)v & sign));
+    if constexpr (sizeof(V) == 16) return (V)_mm_cvtepi32_pd(_mm_cvttpd_epi32((__m128d)v));
+}
+
+// Lanes of double as numbers of their own type, or as float.
+template <class To, class V>
+ZMV_INLINE void storeAs(To* p, V v) {
+    if constexpr (std::is_same_v<To, Element<V>>) {
+        store(p, v);
+    } else {
+        static_assert(std::is_same_v<To, float> && std::is_same_v<Element<V>, double>);
+#if defined(__AVX512BW__)
+        if constexpr (sizeof(V) == 64) store(p, _mm512_cvtpd_ps((__m512d)v));
+#endif
+#if defined(__AVX2__)
+        if constexpr (sizeof(V) == 32) store(p, _mm256_cvtpd_ps((__m256d)v));
+#endif
+        if constexpr (sizeof(V) == 16) _mm_storeu_si64(p, (__m128i)_mm_cvtpd_ps((__m128d)v));
+    }
 }
 
 }  // namespace zmv
