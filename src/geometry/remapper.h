@@ -25,26 +25,43 @@ class MapSampler : public Sampler<Kernel, T, n> {
         : Base(Kernel{}),
           from_(from),
           roomy_(from.right - from.left >= across - 1 && from.bottom - from.top >= taps - 1),
+          near_(from.image.step <= mostNear && from.bottom < mostCounted && from.right < mostCounted &&
+                (from.bottom + 1) * from.image.step + (from.right + 1) * Len(pixel) <= mostNear),
+          step_(near_ ? int32_t(from.image.step) : 0),
           left_(Places{} + from.left),
           top_(Places{} + from.top),
           right_(Places{} + (from.right - (across - 1))),
-          bottom_(Places{} + (from.bottom - (taps - 1))) {}
+          bottom_(Places{} + (from.bottom - (taps - 1))),
+          innerLeft_(realOf<W>(left_ + Kernel::before)),
+          innerTop_(realOf<W>(top_ + Kernel::before)),
+          innerRight_(roomy_ && near_ ? realOf<W>(right_ + behindLast) : innerLeft_),
+          innerBottom_(realOf<W>(bottom_ + behindLast)) {}
 
-    // The points of a block from `first` on, inside of what may be read wherever `chosen`; `halves` says where those
-    // of the nearest pixel go up.
+    // Whether the kernels of all points lie inside, as far as it pays to know.
+    ZMV_INLINE bool areInner(V x, V y) const {
+        return allZero(
+            ~((Mask)(x >= innerLeft_) & (Mask)(x < innerRight_) & (Mask)(y >= innerTop_) & (Mask)(y < innerBottom_)));
+    }
+    // The points of a block from `first` on, inside of what may be read wherever `chosen`, or with all of their
+    // kernels; `halves` says where those of the nearest pixel go up.
+    template <bool inner>
     ZMV_INLINE void set(int first, V x, V y, Mask chosen, Mask halves) {
         V fx, fy;
-        Places bx = whole(x, fx), by = whole(y, fy);
+        Places bx = whole<inner>(x, fx), by = whole<inner>(y, fy);
         if constexpr (taps == 1) {
             bx -= places((Mask)(fx >= W(0.5)) & halves), by -= places((Mask)(fy >= W(0.5)) & halves);
-            store(x_ + first, bx < right_ ? bx : right_);
-            store(y_ + first, by < bottom_ ? by : bottom_);
+            if constexpr (!inner) bx = bx < right_ ? bx : right_, by = by < bottom_ ? by : bottom_;
+            place(first, bx, by);
         } else {
             this->setFractions(first, fx, fy);
             bx -= Kernel::before, by -= Kernel::before;
+            if constexpr (inner) {
+                store(cut_ + first, Places{});
+                return place(first, bx, by);
+            }
             const Places inside = (bx >= left_) & (bx <= right_) & (by >= top_) & (by <= bottom_),
                          cut = places(chosen) & ~inside;
-            store(x_ + first, inside ? bx : left_), store(y_ + first, inside ? by : top_);
+            place(first, inside ? bx : left_, inside ? by : top_);
             store(cut_ + first, cut), store(cutX_ + first, bx), store(cutY_ + first, by);
             anyCut_ = anyCut_ | cut;
         }
@@ -52,11 +69,17 @@ class MapSampler : public Sampler<Kernel, T, n> {
     // The pixel of a point, or the first under its kernel.
     ZMV_INLINE const uint8_t* pixelOf(int point) const {
         const auto data = reinterpret_cast<const uint8_t*>(from_.image.data);
-        return data + y_[point] * from_.image.step + Len(x_[point]) * pixel;
+        return near_ ? data + x_[point] : data + y_[point] * from_.image.step + Len(x_[point]) * pixel;
     }
     // What has been set, up to `count` points.
     void fetch(int count) {
-        if (roomy_)
+        constexpr int some = std::min(4, lanes<W>);
+        const auto rows = this->rowsFrom(reinterpret_cast<uint64_t>(from_.image.data), from_.image.step);
+        if (roomy_ && near_)
+            for (Len i = 0; i < count; i += some)
+                unrolled<some>([&](auto k)
+                                   __attribute__((always_inline)) { this->take(i + k, rows, uint64_t(x_[i + k])); });
+        else if (roomy_)
             for (int i = 0; i < count; ++i) this->take(i, this->rowsFrom(pixelOf(i), from_.image.step), 0);
         if (!anyOf(anyCut_)) return;
         for (int i = 0; i < count; ++i)
@@ -65,6 +88,13 @@ class MapSampler : public Sampler<Kernel, T, n> {
     }
 
   private:
+    // Where 32 bits count the bytes from the source's first pixel, and floats its sides, a point's are one number.
+    static constexpr Len mostNear = 0x7fffffff, mostCounted = 1 << 24;
+    static constexpr int behindLast = Kernel::before + (taps > 1);
+    ZMV_INLINE void place(int first, Places x, Places y) {
+        store(x_ + first, near_ ? y * step_ + x * pixel : x);
+        if (!near_) store(y_ + first, y);
+    }
     static Places places(Mask m) {
         if constexpr (sizeof(W) == 4)
             return (Places)m;
@@ -77,11 +107,12 @@ class MapSampler : public Sampler<Kernel, T, n> {
         else
             return v[0] | v[1];
     }
-    // Whole numbers and fractions of numbers from 0 to 2^31.
+    // Whole numbers and fractions of numbers from 0 to 2^31, or to less.
+    template <bool less>
     static ZMV_INLINE Places whole(V v, V& fraction) {
         Places base = wholeOf(v);
         fraction = v - realOf<W>(base);
-        if constexpr (sizeof(W) == 4) {
+        if constexpr (sizeof(W) == 4 && !less) {
             const auto beyond = v >= W(2147483648.0);
             base ^= beyond, fraction = beyond ? V{} : fraction;
         }
@@ -97,8 +128,10 @@ class MapSampler : public Sampler<Kernel, T, n> {
     }
 
     const Readable<T> from_;
-    const bool roomy_;
-    const Places left_, top_, right_, bottom_;  // of base pixels whose kernels stay inside
+    const bool roomy_, near_;
+    const int32_t step_;
+    const Places left_, top_, right_, bottom_;                 // of first pixels whose kernels stay inside
+    const V innerLeft_, innerTop_, innerRight_, innerBottom_;  // of their points, those at the ends left out
     Places anyCut_{};
     alignas(64) int32_t x_[most], y_[most], cut_[most], cutX_[most], cutY_[most];
 };
@@ -130,11 +163,16 @@ class Remapper {
         for (; ready < count; ready += lanes<W>) {
             const int some = std::min(lanes<W>, count - ready);
             const V x = loadUpTo(xs + ready, some), y = loadUpTo(ys + ready, some);
+            if (pixels_.areInner(x, y)) {
+                pixels_.template set<true>(ready, x, y, ~Mask{}, ~Mask{});
+                store(chosen_ + ready, any = ~Mask{});
+                continue;
+            }
             const Mask inside = within(x, y, 0), chosen = smooth_ ? within(x, y, 1) : inside;
             const auto place = [&](V v, V least, V most) {
                 return larger(least, smaller(most, (V)(chosen & (Mask)v)));
             };
-            pixels_.set(ready, place(x, left_, right_), place(y, top_, bottom_), chosen, inside);
+            pixels_.template set<false>(ready, place(x, left_, right_), place(y, top_, bottom_), chosen, inside);
             store(chosen_ + ready, chosen);
             any |= chosen, all &= chosen;
         }
