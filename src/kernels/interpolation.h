@@ -181,12 +181,16 @@ struct LanczosKernel {
                 const auto entry = wholeOf(at);
                 store(entries[k], entry), behind[k] = at - realOf<T>(entry);
             });
-            const auto to = reinterpret_cast<uint8_t*>(pairs);
-            for (int k = 0; k < taps; ++k)
-                unrolled<n>([&](auto i) {
-                    constexpr int place = i / 4 * 2 + i % 2 + i % 4 / 2 * lanes<uint64_t>;
-                    std::memcpy(to + (k * lanes<float> + place) * 8, &tblL3[size_t(entries[k][i])], 8);
-                });
+            unrolled<taps>([&](auto k) {
+                const auto pair = [&](int i) {
+                    uint64_t both;
+                    std::memcpy(&both, &tblL3[size_t(entries[k][i])], 8);
+                    return both;
+                };
+                Block<Vec<uint64_t>, 2> words{};
+                unrolled<n>([&](auto i) { words[i / 2 % 2][i / 4 * 2 + i % 2] = pair(i); });
+                pairs[k] = {(Vec<float>)words[0], (Vec<float>)words[1]};
+            });
             unrolled<taps>([&](auto k) {
                 const auto& [first, second] = pairs[k];
                 const V low = inLanesOf<T>(even(first, second)),

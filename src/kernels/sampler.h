@@ -24,7 +24,7 @@ class Sampler {
     static constexpr int taps = Kernel::taps, pixel = n * int(sizeof(T)), run = taps * pixel;
     // The pixels of a row come in words of 8 bytes, of 2 bytes where they are as many, or of a lane's; the last one
     // ends where they end, so that no other byte is read, but for six bytes, which are read as eight.
-    static constexpr int lane = int(sizeof(W)), filled = taps == 2 && run == 6 ? 8 : run;
+    static constexpr int lane = int(sizeof(W)), filled = taps > 1 && run == 6 ? 8 : run;
     using Word = std::conditional_t<filled >= 8, uint64_t, std::conditional_t<filled == 2, uint16_t, Bits<W>>>;
     static constexpr int wordBytes = int(sizeof(Word)), words = (filled + wordBytes - 1) / wordBytes;
     static constexpr int fewest = std::max(lanes<T>, lanes<W>);
@@ -38,8 +38,8 @@ class Sampler {
         return std::max(points, fewest);
     }();
 
-    // Whether the pixel behind those under a kernel is read too.
-    static constexpr bool readsBehind = filled > run;
+    // How many pixels behind those under a kernel are read too.
+    static constexpr int readsBehind = (filled - run + pixel - 1) / pixel;
 
     explicit Sampler(const Kernel& kernel) : kernel_(kernel) {}
 
