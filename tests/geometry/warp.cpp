@@ -164,7 +164,7 @@ void arrangeWarp(Case& c) {
     nameWarp(c, w);
     const bool far = c.mode == Mode::far, ladder = c.mode == Mode::controls;
     const int width = c.rng.oneIn(3) ? c.rng.between(1, 7) : c.rng.between(1, 60);
-    const int height = c.rng.oneIn(8) ? 1 : c.rng.between(1, far ? 4 : 30);
+    const int height = c.rng.oneIn(8) ? 1 : c.rng.between(1, far ? c.member.large ? 3 : 4 : 30);
     w.roi = {c.rng.below(9), c.rng.below(6), width, height};
     if (c.rng.oneIn(20)) w.roi.x += 1000000, w.roi.y += 300000;
     w.src = {w.roi.x + width + c.rng.below(3), w.roi.y + height + c.rng.below(3)};
