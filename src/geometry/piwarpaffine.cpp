@@ -45,7 +45,7 @@ struct AffineWarp {
         return {{b[0], b[1] * double(y) + b[2] + 0.0}, {b[3], b[4] * double(y) + b[5] + 0.0}, {}};
     }
 };
-constexpr WarpMap affineMap{affineWarp, false, AffineWarp::lines, nullptr, nullptr};
+constexpr WarpMap affineMap{affineWarp, false, true, AffineWarp::lines, nullptr, nullptr};
 
 }  // namespace
 }  // namespace zmv

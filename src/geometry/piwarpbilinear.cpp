@@ -117,8 +117,8 @@ struct BilinearWarp {
         return error * (1 + 2 * slope * slope / jacobian) < 0.5;
     }
 };
-constexpr WarpMap bilinearMap{bilinearWarp, false, BilinearWarp::lines, BilinearWarp::solvedPoints,
-                              BilinearWarp::solvedWithin};
+constexpr WarpMap bilinearMap{
+    bilinearWarp, false, false, BilinearWarp::lines, BilinearWarp::solvedPoints, BilinearWarp::solvedWithin};
 
 }  // namespace
 }  // namespace zmv

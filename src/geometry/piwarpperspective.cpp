@@ -47,7 +47,7 @@ struct PerspectiveWarp {
         return span;
     }
 };
-constexpr WarpMap perspectiveMap{perspectiveWarp, true, PerspectiveWarp::lines, nullptr, PerspectiveWarp::within};
+constexpr WarpMap perspectiveMap{perspectiveWarp, true, true, PerspectiveWarp::lines, nullptr, PerspectiveWarp::within};
 
 }  // namespace
 }  // namespace zmv

@@ -126,7 +126,7 @@ class Warper {
 
     // Where a piece's kernels start, and the fractions, group by group, the last one moved back to end with the piece:
     // each(i) behind every group.  Says whether all kernels lie inside; those that do not are moved there.
-    template <bool exact, class Each>
+    template <WarpPoints::Way way, class Each>
     ZMV_INLINE bool locate(const Piece& piece, const Each& each) {
         const Box box = reach_.inner;
         const auto points = points_->row(piece.x, piece.y, piece.count);
@@ -136,8 +136,8 @@ class Warper {
         for (Len i = 0;; i = std::min(i + group, last)) {
             unrolled<group / lanes<double>>([&](auto k) __attribute__((always_inline)) {
                 Reals x, y;
-                points.template points<!exact>(i + k * lanes<double>, x, y);
-                if constexpr (!exact) {
+                points.template points<way>(i + k * lanes<double>, x, y);
+                if constexpr (way == WarpPoints::Way::any) {
                     const Reals inX = larger(smaller(x, fill(box.right)), fill(box.left)),
                                 inY = larger(smaller(y, fill(box.bottom)), fill(box.top));
                     all &= (Vec<uint64_t>)(x == inX) & (Vec<uint64_t>)(y == inY);
@@ -175,9 +175,12 @@ class Warper {
             if (i != behind) fetch(behind);
             behind = i;
         };
+        using Way = WarpPoints::Way;
+        const Way way = points_->way();
         for (int p = 0; p < pieces_; ++p)
-            piece_[p].inside =
-                job_.header.exact ? locate<true>(piece_[p], fetchBehind) : locate<false>(piece_[p], fetchBehind);
+            piece_[p].inside = way == Way::steady  ? locate<Way::steady>(piece_[p], fetchBehind)
+                               : way == Way::exact ? locate<Way::exact>(piece_[p], fetchBehind)
+                                                   : locate<Way::any>(piece_[p], fetchBehind);
         fetch(behind);
         for (int p = 0; p < pieces_; ++p) {
             const Piece& piece = piece_[p];

@@ -1,5 +1,5 @@
 // The points that pixels of a warp's destination come from, a vector at a time.  Along a row they are slope X + rest:
-// the products are those of the row above, and are formed once for the rows of a tile.
+// where slopes are steady the products are those of the row above, and are formed once for the rows of a tile.
 #pragma once
 
 #include "geometry/warp.h"
@@ -12,15 +12,21 @@ class WarpPoints {
   public:
     static constexpr int part = 64, group = lanes<int32_t>;  // pixels of a tile's row; of what is worked together
 
-    // Some pixels of a row: points by products, where there are no lines by themselves.
+    // How a row's points are formed: surely inside, of products or of pixels and slopes; or any way.
+    enum class Way { steady, exact, any };
+    Way way() const { return !header_.exact ? Way::any : map_.steady ? Way::steady : Way::exact; }
+
+    // Some pixels of a row: products, pixels, or where there are no lines points.
     struct Row {
         const double *x, *y, *over;
-        Reals restX, restY, restOver;
+        Reals slopeX, slopeY, restX, restY, restOver;
         bool divided;
-        template <bool divides>
+        template <Way way>
         ZMV_INLINE void points(Len i, Reals& px, Reals& py) const {
-            px = load(x + i) + restX, py = load(y + i) + restY;
-            if (!divides || !divided) return;
+            px = load(x + i), py = load(y + i);
+            if (way == Way::exact) px *= slopeX, py *= slopeY;
+            px += restX, py += restY;
+            if (way != Way::any || !divided) return;
             const Reals by = load(over + i) + restOver;
             px /= by, py /= by;
         }
@@ -35,11 +41,11 @@ class WarpPoints {
             map_.points(header_, x, y, count, from_[0], from_[1]);
             for (int i = count; i < group; ++i)
                 for (int k = 0; k < 2; ++k) from_[k][i] = from_[k][count - 1];
-            return {from_[0], from_[1], nullptr, Reals{}, Reals{}, Reals{}, false};
+            return {from_[0], from_[1], nullptr, Reals{}, Reals{}, Reals{}, Reals{}, Reals{}, false};
         }
         const WarpLines lines = map_.lines(header_, y);
         const Len start = x - (x - first_) % part;
-        multiply(start, {lines.column.slope, lines.row.slope, lines.over.slope});
+        multiply(start, map_.steady ? Slopes{lines.column.slope, lines.row.slope, lines.over.slope} : Slopes{1, 1, 1});
         const double* products[3];
         for (int k = 0; k < 3; ++k) {
             products[k] = from_[k] + (x - start);
@@ -48,8 +54,11 @@ class WarpPoints {
             for (int i = 0; i < group; ++i) few[i] = products[k][std::min(i, count - 1)];
             products[k] = few;
         }
-        return {products[0],          products[1],           products[2], fill(lines.column.rest),
-                fill(lines.row.rest), fill(lines.over.rest), map_.divides};
+        return {products[0],           products[1],
+                products[2],           fill(lines.column.slope),
+                fill(lines.row.slope), fill(lines.column.rest),
+                fill(lines.row.rest),  fill(lines.over.rest),
+                map_.divides};
     }
 
   private:

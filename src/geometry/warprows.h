@@ -37,7 +37,7 @@ struct WarpLines {
 
 struct WarpMap {
     WarpKind kind;
-    bool divides;
+    bool divides, steady;  // steady: the slopes of all rows are the same
     // Of maps that divide, and of others as far as their objects are exact; no rest of those is -0, nor any point.
     WarpLines (*lines)(const WarpHeader&, Len y);
     // Where there are no lines: the points of pixels x, x + 1 .. of row y, in whole groups of lanes<int32_t>.
