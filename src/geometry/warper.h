@@ -155,15 +155,11 @@ class Warper {
         }
         return allZero(~all);
     }
-    // The points that have been gathered.  Pixels are fetched a group behind where they are located, so that both are
-    // worked on at a time.
-    void fetched() {
-        // A number of bytes beside 2^52 has its bits in the last places.
-        const auto rows =
-            Pixels::rowsFrom(reinterpret_cast<uint64_t>(job_.src.data) - std::bit_cast<uint64_t>(mostDistance) -
-                                 uint64_t(before * (step_ + pixel)),
-                             step_);
-        const auto fetch = [&](Len first) __attribute__((always_inline)) {
+    // The pixels of what has been gathered are fetched a group behind where they are located, so that both are worked
+    // on at a time.  Apart from what weighs them, which would lose its registers beside it.
+    template <WarpPoints::Way way>
+    __attribute__((noinline)) void fetch(const typename Pixels::Rows& rows) {
+        const auto take = [&](Len first) __attribute__((always_inline)) {
             if constexpr (taps > 1)
                 for (Len i = first; i < first + group; i += 4)
                     unrolled<4>([&](auto k) __attribute__((always_inline)) {
@@ -171,17 +167,24 @@ class Warper {
                     });
         };
         Len behind = piece_[0].first;
-        const auto fetchBehind = [&](Len i) __attribute__((always_inline)) {
-            if (i != behind) fetch(behind);
+        const auto takeBehind = [&](Len i) __attribute__((always_inline)) {
+            if (i != behind) take(behind);
             behind = i;
         };
+        for (int p = 0; p < pieces_; ++p) piece_[p].inside = locate<way>(piece_[p], takeBehind);
+        take(behind);
+    }
+    void fetched() {
+        // A number of bytes beside 2^52 has its bits in the last places.
+        const auto rows =
+            Pixels::rowsFrom(reinterpret_cast<uint64_t>(job_.src.data) - std::bit_cast<uint64_t>(mostDistance) -
+                                 uint64_t(before * (step_ + pixel)),
+                             step_);
         using Way = WarpPoints::Way;
         const Way way = points_->way();
-        for (int p = 0; p < pieces_; ++p)
-            piece_[p].inside = way == Way::steady  ? locate<Way::steady>(piece_[p], fetchBehind)
-                               : way == Way::exact ? locate<Way::exact>(piece_[p], fetchBehind)
-                                                   : locate<Way::any>(piece_[p], fetchBehind);
-        fetch(behind);
+        if (way == Way::steady) fetch<Way::steady>(rows);
+        if (way == Way::exact) fetch<Way::exact>(rows);
+        if (way == Way::any) fetch<Way::any>(rows);
         for (int p = 0; p < pieces_; ++p) {
             const Piece& piece = piece_[p];
             T* const dst = at(piece.dst, piece.x);
