@@ -9,7 +9,9 @@ cd "$1"
 for program in mmdebstrap lintian; do
     command -v $program >/dev/null || { echo "skipped: apt-get install $program"; exit 77; }
 done
-getent hosts deb.debian.org >/dev/null || { echo "skipped: no network"; exit 77; }
+# shellcheck disable=SC2016
+mirror=$(apt-get indextargets --format '$(SITE)' | sed -n '1s|.*//\([^/:]*\).*|\1|p')
+getent hosts "$mirror" >/dev/null || { echo "skipped: no network"; exit 77; }
 
 # fresh VARIANT SCRIPT: runs a script in a fresh Debian 12 whose /tmp/packages is this folder, and takes back what is new there.
 # shellcheck disable=SC2016
