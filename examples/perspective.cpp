@@ -97,7 +97,7 @@ static void turned(const Picture& photo, const char* folder) {
     const Picture whole = blank(frame, 255);
     const double time = Warp(photo.size, frame).affine(coeffs, Warp::forward, INTERP_CUBIC, 1).run(photo, whole);
     if (*whole.at(0, 0) != 255 || *whole.at(frame.width - 1, frame.height - 1) != 255) fail("the frame has no corners");
-    publish(whole, folder, "turned", time, "Turned by 20 degrees",
+    publish(whole, folder, "rotated", time, "Turned by 20 degrees",
             "zmviWarpAffineCubic into the frame that zmviGetRotateBound makes.");
 
     const int scale = 8, width = 40, height = 60, left = frame.width / 2;
